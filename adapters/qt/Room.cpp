@@ -1,0 +1,1 @@
+#include "adapters/qt/Room.h"

@@ -1,0 +1,96 @@
+#pragma once
+
+#include "reference/model/StationData.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace zqbchwcx::reference {
+
+enum class Language { English, German };
+
+struct LocalizedText {
+    std::string en;
+    std::string de;
+
+    const std::string& In(Language language) const { return language == Language::German && !de.empty() ? de : en; }
+};
+
+/// What a module is for; the placing rules go by it.
+enum class ModuleFamily {
+    PowerSupply,
+    Controller,
+    Interface, ///< joins racks (central station) or is the head (distributed station)
+    Digital,
+    Analog,
+    Counter,
+    Communication,
+    Dummy, ///< keeps a place free
+};
+
+enum class ParameterKind { Boolean, Integer, Real, Choice, Text };
+
+struct ParameterChoice {
+    std::string key; ///< what is stored
+    LocalizedText label;
+};
+
+struct ParameterDefinition {
+    std::string key;
+    LocalizedText label;
+    LocalizedText help;
+    ParameterKind kind = ParameterKind::Boolean;
+    std::string unit;   ///< shown behind the value; empty for none
+    double minimum = 0; ///< Integer and Real; Text: smallest length
+    double maximum = 0; ///< Integer and Real; Text: largest length
+    ParameterValue defaultValue;
+    std::vector<ParameterChoice> choices;
+};
+
+struct ModuleType {
+    std::string orderNumber;
+    ModuleFamily family = ModuleFamily::Digital;
+    LocalizedText name;
+    LocalizedText description;
+    std::string picture;         ///< `PictureName` of its modules
+    std::int32_t placeCount = 1; ///< places that the module fills
+    std::int32_t inputBytes = 0;
+    std::int32_t outputBytes = 0;
+    bool fitsCentral = true;
+    bool fitsDistributed = true;
+    std::vector<std::string> subModules; ///< order numbers of the sub-modules in slot order
+    bool isSubModule = false;            ///< exists only inside another module
+    std::vector<ParameterDefinition> parameters;
+    std::vector<std::pair<LocalizedText, LocalizedText>> facts; ///< "Current draw" → "120 mA"
+};
+
+/// A folder of the catalogue tree.
+struct CatalogueGroup {
+    LocalizedText name;
+    std::vector<std::string> orderNumbers;
+    std::vector<CatalogueGroup> groups;
+};
+
+/// All module types that stations may use.
+class Catalogue {
+public:
+    Catalogue() = default;
+    Catalogue(std::string maker, std::vector<ModuleType> types, std::vector<CatalogueGroup> groups);
+
+    /// Null when there is no such type. The pointer is valid as long as the catalogue.
+    const ModuleType* Find(std::string_view orderNumber) const;
+    const std::string& Maker() const { return msMaker; }
+    const std::vector<ModuleType>& Types() const { return mcolTypes; }
+    const std::vector<CatalogueGroup>& Groups() const { return mcolGroups; }
+
+private:
+    std::string msMaker;
+    std::vector<ModuleType> mcolTypes;
+    std::vector<CatalogueGroup> mcolGroups;
+    std::unordered_map<std::string, std::size_t> mcolIndexByOrderNumber;
+};
+
+} // namespace zqbchwcx::reference

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zqbchwcx {
+
+/// What a place position names.
+enum VxEnumPositionType : std::int32_t {
+    vxPositionNone = 0,
+    vxPositionGap = 1,
+    vxPositionPlace = 2,
+    vxPositionRack = 3,
+};
+
+inline constexpr std::int32_t vxNoPosition = -1;
+inline constexpr std::int32_t vxRackFactor = 1000;
+inline constexpr std::int32_t vxSubPositionFactor = 100000;
+
+/// A place position S·100000 + R·1000 + C taken apart. C is 0 for the rack itself, 2·N for place N, 2·G+1 for the gap
+/// between place G and place G+1; `lNumber` is that N or G.
+struct PositionInfo {
+    VxEnumPositionType eType = vxPositionNone;
+    std::int32_t lRack = 0;
+    std::int32_t lNumber = 0;
+    std::int32_t lSubPosition = 0;
+};
+
+constexpr std::int32_t G_PlacePosition(std::int32_t lRack, std::int32_t lPlace)
+{
+    return lRack * vxRackFactor + 2 * lPlace;
+}
+
+constexpr std::int32_t G_GapPosition(std::int32_t lRack, std::int32_t lGap)
+{
+    return lRack * vxRackFactor + 2 * lGap + 1;
+}
+
+} // namespace zqbchwcx
