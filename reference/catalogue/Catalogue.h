@@ -61,10 +61,18 @@ struct ModuleType {
     std::int32_t outputBytes = 0;
     bool fitsCentral = true;
     bool fitsDistributed = true;
+    std::int32_t distributedKind = 0;    ///< the one distributed `StationKind` that it fits; 0: both of them
     std::vector<std::string> subModules; ///< order numbers of the sub-modules in slot order
     bool isSubModule = false;            ///< exists only inside another module
     std::vector<ParameterDefinition> parameters;
     std::vector<std::pair<LocalizedText, LocalizedText>> facts; ///< "Current draw" → "120 mA"
+
+    /// Whether stations of that `StationKind` take the module.
+    bool FitsStation(std::int32_t stationKind) const
+    {
+        if (stationKind == 0) return fitsCentral;
+        return fitsDistributed && (distributedKind == 0 || distributedKind == stationKind);
+    }
 };
 
 /// A folder of the catalogue tree.

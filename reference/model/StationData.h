@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -53,5 +54,11 @@ bool SameStation(const StationData& a, const StationData& b);
 /// The position format's limits.
 inline constexpr std::int32_t MaxRacks = 100;
 inline constexpr std::int32_t MaxPlaces = 499;
+
+/// What files and the clipboard carry; an edit that goes beyond is refused, so that whatever was edited can be saved.
+inline constexpr std::int32_t MaxAddress = 65535;
+inline constexpr std::size_t MaxTextBytes = 4096; ///< of a name, comment or parameter text, in UTF-8
+inline constexpr std::size_t MaxSubModules = 64;
+inline constexpr std::size_t MaxParameters = 256; ///< of one module
 
 } // namespace zqbchwcx::reference
