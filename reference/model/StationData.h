@@ -56,7 +56,7 @@ inline constexpr std::int32_t MaxRacks = 100;
 inline constexpr std::int32_t MaxPlaces = 499;
 
 /// What files and the clipboard carry; an edit that goes beyond is refused, so that whatever was edited can be saved.
-inline constexpr std::int32_t MaxAddress = 65535;
+inline constexpr std::int32_t MaxAddress = 16'777'215;
 inline constexpr std::size_t MaxTextBytes = 4096; ///< of a name, comment or parameter text, in UTF-8
 inline constexpr std::size_t MaxSubModules = 64;
 inline constexpr std::size_t MaxParameters = 256; ///< of one module
