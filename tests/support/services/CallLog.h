@@ -1,0 +1,36 @@
+#pragma once
+
+#include "tests/support/services/FaultPoints.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zqbchwcx::testing {
+
+/// Shared by all test doubles of one test: every call is a fault point; calls that change something leave a line,
+/// in one list, so that the order across doubles can be checked.
+class CallLog {
+public:
+    FaultPoints faults;
+    std::vector<std::string> lines;
+
+    /// A call without a line.
+    void Call(std::string_view call) { faults.Hit(call); }
+    /// A call with a line, which is left only when the call does not fail.
+    void Note(std::string line)
+    {
+        faults.Hit(line);
+        lines.push_back(std::move(line));
+    }
+    /// A call that ends something: the line is left even when it fails, because the end was asked for.
+    void NoteEnd(std::string line)
+    {
+        lines.push_back(line);
+        faults.Hit(line);
+    }
+};
+using CallLogPtr = std::shared_ptr<CallLog>;
+
+} // namespace zqbchwcx::testing

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/Desktop.h"
+#include "tests/support/services/CallLog.h"
+
+#include <map>
+#include <string>
+#include <utility>
+
+namespace zqbchwcx::testing {
+
+/// A desktop whose system colours and pointer a test sets and reads.
+class FakeDesktop : public Desktop {
+public:
+    explicit FakeDesktop(CallLogPtr log) : moLog(std::move(log)) {}
+
+    std::optional<OleColor> TranslateColor(OleColor color, std::intptr_t /*hPalette*/) const override
+    {
+        moLog->Call("Desktop.TranslateColor");
+        if (color >= 0) return color;
+        const auto found = systemColors.find(color);
+        return found == systemColors.end() ? std::nullopt : std::optional(found->second);
+    }
+    void ScreenMousePointer(MousePointer newPointer) override
+    {
+        moLog->NoteEnd(newPointer == MousePointer::Hourglass ? "Pointer hourglass" : "Pointer default");
+        pointer = newPointer;
+    }
+    std::int16_t RegisterClipboardFormat(std::string_view name) override
+    {
+        moLog->Call("Desktop.RegisterClipboardFormat");
+        return Format(name);
+    }
+
+    /// The number that the name has or gets. Real ones start at 0xC000, so they are negative in 16 bits.
+    std::int16_t Format(std::string_view name)
+    {
+        const auto next = static_cast<std::int16_t>(-0x4000 + static_cast<int>(mcolFormats.size()));
+        return mcolFormats.try_emplace(std::string(name), next).first->second;
+    }
+
+    std::map<OleColor, OleColor> systemColors{
+        {vxColorWindowBackground, G_Rgb(255, 255, 255)}, {vxColorWindowText, G_Rgb(0, 0, 0)},
+        {vxColorHighlight, G_Rgb(10, 36, 106)},          {vxColorHighlightText, G_Rgb(255, 255, 255)},
+        {vxColorButtonFace, G_Rgb(212, 208, 200)},       {vxColorButtonShadow, G_Rgb(128, 128, 128)},
+        {vxColorGrayText, G_Rgb(128, 128, 128)},         {vxColorButtonText, G_Rgb(0, 0, 0)},
+        {vxColorButtonHighlight, G_Rgb(255, 255, 255)},  {vxColorLight3D, G_Rgb(227, 224, 220)},
+    };
+    MousePointer pointer = MousePointer::Default;
+
+private:
+    CallLogPtr moLog;
+    std::map<std::string, std::int16_t> mcolFormats;
+};
+
+} // namespace zqbchwcx::testing
