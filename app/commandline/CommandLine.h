@@ -1,0 +1,38 @@
+#pragma once
+
+#include "reference/catalogue/Catalogue.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillon_ed {
+
+using zqbchwcx::reference::Language;
+using zqbchwcx::reference::LocalizedText;
+
+enum class Command { Open, Render, Check, List, Convert };
+
+enum class TableFormat { Plain, Csv, Json, Markdown };
+
+/// What the user asked for on the command line.
+struct CommandLine {
+    Command command = Command::Open;
+    bool help = false;    ///< show the help of the command instead of running it
+    bool version = false; ///< show the version instead of running the command
+    /// Open, Check: any number of stations; Render, List: one; Convert: the file to read and the file to write.
+    std::vector<std::string> files;
+    std::string output;                ///< Render, List: the file to write; List: empty for standard output
+    std::string view = "overview";     ///< Render
+    double scale = 1;                  ///< Render: device pixels to a logical pixel
+    std::optional<TableFormat> format; ///< List
+    std::optional<Language> language;  ///< none: the user's setting, or the desktop's language
+};
+
+/// Exit codes of the program.
+enum ExitCode : int { ExitClean = 0, ExitBrokenRules = 1, ExitUsage = 2, ExitFile = 3 };
+
+inline constexpr double MinimumScale = 0.25;
+inline constexpr double MaximumScale = 16;
+
+} // namespace quillon_ed

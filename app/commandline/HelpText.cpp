@@ -1,0 +1,153 @@
+#include "app/commandline/HelpText.h"
+
+namespace quillon_ed {
+
+namespace {
+
+LocalizedText openText()
+{
+    return {R"(Quillon Ed: the hardware configuration of programmable-controller stations
+
+Usage:
+  quillon-ed [STATION...]               open stations in a window
+  quillon-ed render STATION -o FILE     draw a view to a PNG, SVG or PDF file
+  quillon-ed check STATION...           list every broken rule
+  quillon-ed list STATION               list the modules with their addresses
+  quillon-ed convert IN OUT             write a station to another file or format
+
+"quillon-ed COMMAND --help" tells more about a command. Only opening needs a display.
+
+Options of every command:
+  --lang de|en    the language of texts
+  --version       show the version
+  -h, --help      show this help
+
+Exit codes:
+  0  done; "check" found nothing
+  1  "check" found broken rules
+  2  the command line is wrong
+  3  a file could not be read or written
+)",
+            R"(Quillon Ed: die Hardware-Konfiguration von Stationen speicherprogrammierbarer Steuerungen
+
+Aufruf:
+  quillon-ed [STATION...]               Stationen in einem Fenster öffnen
+  quillon-ed render STATION -o DATEI    eine Ansicht in eine PNG-, SVG- oder PDF-Datei zeichnen
+  quillon-ed check STATION...           jede verletzte Regel nennen
+  quillon-ed list STATION               die Baugruppen mit ihren Adressen auflisten
+  quillon-ed convert EIN AUS            eine Station in eine andere Datei oder Form schreiben
+
+"quillon-ed BEFEHL --help" sagt mehr zu einem Befehl. Nur das Öffnen braucht einen Bildschirm.
+
+Optionen jedes Befehls:
+  --lang de|en    die Sprache der Texte
+  --version       die Version zeigen
+  -h, --help      diese Hilfe zeigen
+
+Rückgabewerte:
+  0  getan; "check" hat nichts gefunden
+  1  "check" hat verletzte Regeln gefunden
+  2  die Befehlszeile ist falsch
+  3  eine Datei ließ sich nicht lesen oder schreiben
+)"};
+}
+
+LocalizedText renderText()
+{
+    return {R"(Usage: quillon-ed render STATION -o FILE [--scale NUMBER] [--view overview] [--lang de|en]
+
+Draws a view of the station without a display. The ending of FILE says what is written: .png (pixels), .svg or
+.pdf (vectors; a PDF page has a header with the station's name, the date and the page number).
+
+  -o, --output FILE   the file to write; one that exists is replaced
+  --scale NUMBER      PNG: device pixels to a logical pixel, from 0.25 to 16; 1 if not given
+  --view VIEW         the view to draw: overview
+)",
+            R"(Aufruf: quillon-ed render STATION -o DATEI [--scale ZAHL] [--view overview] [--lang de|en]
+
+Zeichnet eine Ansicht der Station ohne Bildschirm. Die Endung von DATEI sagt, was geschrieben wird: .png (Bildpunkte),
+.svg oder .pdf (Vektoren; eine PDF-Seite hat eine Kopfzeile mit Stationsname, Datum und Seitenzahl).
+
+  -o, --output DATEI  die Datei, die geschrieben wird; eine vorhandene wird ersetzt
+  --scale ZAHL        PNG: Gerätepunkte je logischem Bildpunkt, von 0.25 bis 16; ohne Angabe 1
+  --view ANSICHT      die Ansicht, die gezeichnet wird: overview
+)"};
+}
+
+LocalizedText checkText()
+{
+    return {R"(Usage: quillon-ed check STATION... [--lang de|en]
+
+Names every broken rule of the stations, one a line: file, place, rule and reason.
+Exits with 0 when there is none, with 1 when there is one, and with 3 when a file could not be read.
+)",
+            R"(Aufruf: quillon-ed check STATION... [--lang de|en]
+
+Nennt jede verletzte Regel der Stationen, eine je Zeile: Datei, Platz, Regel und Grund.
+Der Rückgabewert ist 0, wenn es keine gibt, 1, wenn es eine gibt, und 3, wenn sich eine Datei nicht lesen ließ.
+)"};
+}
+
+LocalizedText listText()
+{
+    return {R"(Usage: quillon-ed list STATION [--csv|--json|--md] [-o FILE] [--lang de|en]
+
+Lists the modules of the station: rack, place, module, order number, addresses, comment.
+Without a format the columns are aligned for reading.
+
+  --csv               comma-separated values (RFC 4180)
+  --json              JSON
+  --md                a Markdown table
+  -o, --output FILE   write to the file instead of to standard output
+)",
+            R"(Aufruf: quillon-ed list STATION [--csv|--json|--md] [-o DATEI] [--lang de|en]
+
+Listet die Baugruppen der Station auf: Baugruppenträger, Platz, Baugruppe, Bestellnummer, Adressen, Kommentar.
+Ohne Angabe einer Form sind die Spalten zum Lesen ausgerichtet.
+
+  --csv               durch Komma getrennte Werte (RFC 4180)
+  --json              JSON
+  --md                eine Markdown-Tabelle
+  -o, --output DATEI  in die Datei schreiben statt in die Standardausgabe
+)"};
+}
+
+LocalizedText convertText()
+{
+    return {R"(Usage: quillon-ed convert IN OUT [--lang de|en]
+
+Reads the station IN and writes it to OUT; the ending of OUT says how: .json (a station file in the current version
+of the format), .csv or .md (its module list). IN stays as it is.
+)",
+            R"(Aufruf: quillon-ed convert EIN AUS [--lang de|en]
+
+Liest die Station EIN und schreibt sie nach AUS; die Endung von AUS sagt, wie: .json (eine Stationsdatei in der
+aktuellen Version des Formats), .csv oder .md (ihre Baugruppenliste). EIN bleibt, wie es ist.
+)"};
+}
+
+LocalizedText textOf(Command command)
+{
+    switch (command) {
+    case Command::Render:
+        return renderText();
+    case Command::Check:
+        return checkText();
+    case Command::List:
+        return listText();
+    case Command::Convert:
+        return convertText();
+    case Command::Open:
+        break;
+    }
+    return openText();
+}
+
+} // namespace
+
+std::string HelpText(Command command, Language language)
+{
+    return textOf(command).In(language);
+}
+
+} // namespace quillon_ed

@@ -1,0 +1,257 @@
+#include "app/commandline/ParseCommandLine.h"
+
+#include "app/commandline/ClosestWord.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string_view>
+
+namespace quillon_ed {
+
+namespace {
+
+constexpr unsigned bit(Command command)
+{
+    return 1U << static_cast<unsigned>(command);
+}
+constexpr unsigned EveryCommand = ~0U;
+
+struct CommandRule {
+    Command command;
+    std::string_view word;
+    std::size_t fewestFiles;
+    std::size_t mostFiles;
+};
+
+constexpr std::size_t AnyNumber = static_cast<std::size_t>(-1);
+constexpr std::array CommandRules{
+    CommandRule{Command::Open, "", 0, AnyNumber},       CommandRule{Command::Render, "render", 1, 1},
+    CommandRule{Command::Check, "check", 1, AnyNumber}, CommandRule{Command::List, "list", 1, 1},
+    CommandRule{Command::Convert, "convert", 2, 2},
+};
+
+const CommandRule& RuleOf(Command command)
+{
+    return *std::find_if(CommandRules.begin(), CommandRules.end(),
+                         [&](const CommandRule& rule) { return rule.command == command; });
+}
+
+using Reason = std::optional<LocalizedText>;
+
+Reason setScale(CommandLine& line, const std::string& value)
+{
+    double scale = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), scale);
+    // Written so that "nan" is refused too.
+    const bool inRange = scale >= MinimumScale && scale <= MaximumScale;
+    if (error != std::errc() || end != value.data() + value.size() || !inRange)
+        return LocalizedText{"the scale '" + value + "' is not a number from 0.25 to 16",
+                             "der Maßstab '" + value + "' ist keine Zahl von 0.25 bis 16"};
+    line.scale = scale;
+    return {};
+}
+
+Reason setView(CommandLine& line, const std::string& value)
+{
+    if (value != "overview")
+        return LocalizedText{"there is no view '" + value + "'; the views are: overview",
+                             "es gibt keine Ansicht '" + value + "'; die Ansichten sind: overview"};
+    line.view = value;
+    return {};
+}
+
+Reason setLanguage(CommandLine& line, const std::string& value)
+{
+    if (value == "en") line.language = Language::English;
+    else if (value == "de") line.language = Language::German;
+    else
+        return LocalizedText{"there is no language '" + value + "'; the languages are: de, en",
+                             "es gibt keine Sprache '" + value + "'; die Sprachen sind: de, en"};
+    return {};
+}
+
+Reason setFormat(CommandLine& line, TableFormat format)
+{
+    if (line.format && *line.format != format)
+        return LocalizedText{"only one of --csv, --json and --md can be given",
+                             "nur eines von --csv, --json und --md kann angegeben werden"};
+    line.format = format;
+    return {};
+}
+
+struct OptionRule {
+    std::string_view name;
+    char letter; ///< 0 for none
+    bool takesValue;
+    unsigned commands;
+    Reason (*apply)(CommandLine& line, const std::string& value);
+};
+
+constexpr std::array OptionRules{
+    OptionRule{"--help", 'h', false, EveryCommand,
+               [](CommandLine& line, const std::string&) -> Reason {
+                   line.help = true;
+                   return {};
+               }},
+    OptionRule{"--version", 0, false, EveryCommand,
+               [](CommandLine& line, const std::string&) -> Reason {
+                   line.version = true;
+                   return {};
+               }},
+    OptionRule{"--lang", 0, true, EveryCommand, setLanguage},
+    OptionRule{"--output", 'o', true, bit(Command::Render) | bit(Command::List),
+               [](CommandLine& line, const std::string& value) -> Reason {
+                   line.output = value;
+                   return {};
+               }},
+    OptionRule{"--scale", 0, true, bit(Command::Render), setScale},
+    OptionRule{"--view", 0, true, bit(Command::Render), setView},
+    OptionRule{"--csv", 0, false, bit(Command::List),
+               [](CommandLine& line, const std::string&) { return setFormat(line, TableFormat::Csv); }},
+    OptionRule{"--json", 0, false, bit(Command::List),
+               [](CommandLine& line, const std::string&) { return setFormat(line, TableFormat::Json); }},
+    OptionRule{"--md", 0, false, bit(Command::List),
+               [](CommandLine& line, const std::string&) { return setFormat(line, TableFormat::Markdown); }},
+};
+
+std::vector<std::string> optionNames(Command command)
+{
+    std::vector<std::string> names;
+    for (const OptionRule& rule : OptionRules)
+        if (rule.commands & bit(command)) names.emplace_back(rule.name);
+    return names;
+}
+
+LocalizedText withHint(LocalizedText text, const std::string& meant)
+{
+    if (meant.empty()) return text;
+    return {text.en + "; did you mean '" + meant + "'?", text.de + "; war '" + meant + "' gemeint?"};
+}
+
+/// Reads one command line; each step returns why it cannot go on.
+class Reader {
+public:
+    explicit Reader(const std::vector<std::string>& arguments) : mcolArguments(arguments) {}
+
+    Reason Read()
+    {
+        readCommand();
+        bool optionsEnded = false;
+        for (; mlNext < mcolArguments.size(); ++mlNext) {
+            const std::string& argument = mcolArguments[mlNext];
+            if (!optionsEnded && argument == "--") optionsEnded = true;
+            else if (optionsEnded || argument.size() < 2 || argument[0] != '-') line.files.push_back(argument);
+            else if (Reason reason = readOption(argument)) return reason;
+        }
+        return line.help || line.version ? Reason() : checkFiles();
+    }
+
+    CommandLine line;
+
+private:
+    void readCommand()
+    {
+        if (mcolArguments.empty()) return;
+        const std::string& word = mcolArguments[0];
+        for (const CommandRule& rule : CommandRules) {
+            if (rule.word.empty() || rule.word != word) continue;
+            line.command = rule.command;
+            mlNext = 1;
+        }
+    }
+
+    /// "--name value", "--name=value", "-o value", "-ovalue".
+    Reason readOption(const std::string& argument)
+    {
+        const bool isLong = argument[1] == '-';
+        const std::size_t nameLength = isLong ? std::min(argument.find('='), argument.size()) : 2;
+        const std::string name = argument.substr(0, nameLength);
+        const auto rule = std::find_if(OptionRules.begin(), OptionRules.end(), [&](const OptionRule& candidate) {
+            return isLong ? candidate.name == name : candidate.letter != 0 && candidate.letter == name[1];
+        });
+        if (rule == OptionRules.end())
+            return withHint({"unknown option '" + name + "'", "unbekannte Option '" + name + "'"},
+                            ClosestWord(name, optionNames(line.command)));
+        if (!(rule->commands & bit(line.command))) return refuseForCommand(name);
+
+        const bool hasValue = nameLength < argument.size();
+        if (!rule->takesValue) {
+            if (hasValue)
+                return LocalizedText{"the option '" + name + "' takes no value",
+                                     "die Option '" + name + "' hat keinen Wert"};
+            return rule->apply(line, {});
+        }
+        if (hasValue) return rule->apply(line, argument.substr(nameLength + (isLong ? 1 : 0)));
+        if (mlNext + 1 >= mcolArguments.size())
+            return LocalizedText{"the option '" + name + "' needs a value",
+                                 "die Option '" + name + "' braucht einen Wert"};
+        return rule->apply(line, mcolArguments[++mlNext]);
+    }
+
+    Reason refuseForCommand(const std::string& name) const
+    {
+        const std::string word = CommandWord(line.command);
+        if (Reason mistyped = mistypedCommand()) return mistyped;
+        if (word.empty())
+            return LocalizedText{"the option '" + name + "' needs a command before it",
+                                 "vor der Option '" + name + "' fehlt ein Befehl"};
+        return LocalizedText{"'" + word + "' has no option '" + name + "'",
+                             "'" + word + "' hat keine Option '" + name + "'"};
+    }
+
+    Reason checkFiles() const
+    {
+        const CommandRule& rule = RuleOf(line.command);
+        const std::string word(rule.word);
+        if (line.files.size() < rule.fewestFiles) {
+            const std::string need = std::to_string(rule.fewestFiles);
+            return rule.fewestFiles == 1 ? LocalizedText{"'" + word + "' needs a station file",
+                                                         "'" + word + "' braucht eine Stationsdatei"}
+                                         : LocalizedText{"'" + word + "' needs " + need + " files",
+                                                         "'" + word + "' braucht " + need + " Dateien"};
+        }
+        if (line.files.size() > rule.mostFiles) {
+            const std::string& extra = line.files[rule.mostFiles];
+            return LocalizedText{"'" + extra + "' is one file too many for '" + word + "'",
+                                 "'" + extra + "' ist eine Datei zu viel für '" + word + "'"};
+        }
+        if (line.command == Command::Render && line.output.empty())
+            return LocalizedText{"'render' needs the file to write: -o FILE.png",
+                                 "'render' braucht die Datei, die geschrieben wird: -o DATEI.png"};
+        return mistypedCommand();
+    }
+
+    /// A first word like "rendr" is rather a mistyped command than a file; "./rendr" opens a file of that name.
+    Reason mistypedCommand() const
+    {
+        if (line.command != Command::Open || line.files.empty()) return {};
+        std::vector<std::string> words;
+        for (const CommandRule& rule : CommandRules)
+            if (!rule.word.empty()) words.emplace_back(rule.word);
+        const std::string& first = line.files[0];
+        if (mcolArguments[0] != first) return {};
+        const std::string meant = ClosestWord(first, words);
+        if (meant.empty()) return {};
+        return withHint({"unknown command '" + first + "'", "unbekannter Befehl '" + first + "'"}, meant);
+    }
+
+    const std::vector<std::string>& mcolArguments;
+    std::size_t mlNext = 0;
+};
+
+} // namespace
+
+std::variant<CommandLine, UsageError> ParseCommandLine(const std::vector<std::string>& arguments)
+{
+    Reader reader(arguments);
+    if (Reason reason = reader.Read()) return UsageError{std::move(*reason), std::move(reader.line)};
+    return std::move(reader.line);
+}
+
+std::string CommandWord(Command command)
+{
+    return std::string(RuleOf(command).word);
+}
+
+} // namespace quillon_ed

@@ -1,0 +1,121 @@
+#include "app/commandline/ParseCommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillon_ed {
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+CommandLine Understood(const Arguments& arguments)
+{
+    const auto parsed = ParseCommandLine(arguments);
+    if (const auto* error = std::get_if<UsageError>(&parsed)) {
+        ADD_FAILURE() << error->reason.en;
+        return {};
+    }
+    return std::get<CommandLine>(parsed);
+}
+
+std::string Refusal(const Arguments& arguments)
+{
+    const auto parsed = ParseCommandLine(arguments);
+    const auto* error = std::get_if<UsageError>(&parsed);
+    return error ? error->reason.en : "accepted";
+}
+
+TEST(ParseCommandLine, OpensTheStationsNamed)
+{
+    EXPECT_EQ(Understood({}).files, Arguments{});
+    const CommandLine line = Understood({"a.json", "--lang", "de", "b.json"});
+    EXPECT_EQ(line.command, Command::Open);
+    EXPECT_EQ(line.files, (Arguments{"a.json", "b.json"}));
+    EXPECT_EQ(line.language, Language::German);
+}
+
+TEST(ParseCommandLine, ReadsEverySpellingOfAnOptionWithAValue)
+{
+    for (const Arguments& output : {Arguments{"-o", "x.png"}, Arguments{"-ox.png"}, Arguments{"--output", "x.png"},
+                                    Arguments{"--output=x.png"}}) {
+        Arguments arguments{"render", "s.json", "--scale=1.5"};
+        arguments.insert(arguments.end(), output.begin(), output.end());
+        const CommandLine line = Understood(arguments);
+        EXPECT_EQ(line.output, "x.png");
+        EXPECT_EQ(line.scale, 1.5);
+        EXPECT_EQ(line.files, Arguments{"s.json"});
+    }
+}
+
+TEST(ParseCommandLine, TakesNamesBehindTheDoubleDashAndTheLoneDashAsFiles)
+{
+    EXPECT_EQ(Understood({"check", "-", "--", "--lang"}).files, (Arguments{"-", "--lang"}));
+    EXPECT_EQ(Understood({"--", "render"}).command, Command::Open);
+}
+
+TEST(ParseCommandLine, ShowsHelpAndVersionWithoutAskingForFiles)
+{
+    const CommandLine help = Understood({"convert", "--help"});
+    EXPECT_TRUE(help.help);
+    EXPECT_EQ(help.command, Command::Convert);
+    EXPECT_TRUE(Understood({"--version"}).version);
+}
+
+TEST(ParseCommandLine, ReadsTheFormatOfAList)
+{
+    EXPECT_FALSE(Understood({"list", "s.json"}).format.has_value());
+    EXPECT_EQ(Understood({"list", "s.json", "--csv"}).format, TableFormat::Csv);
+    EXPECT_EQ(Understood({"list", "--json", "s.json"}).format, TableFormat::Json);
+    EXPECT_EQ(Understood({"list", "--md", "--md", "s.json"}).format, TableFormat::Markdown);
+    EXPECT_EQ(Refusal({"list", "s.json", "--csv", "--md"}), "only one of --csv, --json and --md can be given");
+}
+
+TEST(ParseCommandLine, RefusesWhatItDoesNotKnowWithAHint)
+{
+    EXPECT_EQ(Refusal({"render", "s.json", "--sclae", "2"}), "unknown option '--sclae'; did you mean '--scale'?");
+    EXPECT_EQ(Refusal({"--sideways"}), "unknown option '--sideways'");
+    EXPECT_EQ(Refusal({"-x"}), "unknown option '-x'");
+    EXPECT_EQ(Refusal({"chekc", "s.json"}), "unknown command 'chekc'; did you mean 'check'?");
+    EXPECT_EQ(Refusal({"rendr", "s.json", "-o", "x.png"}), "unknown command 'rendr'; did you mean 'render'?");
+    EXPECT_EQ(Refusal({"./rendr"}), "accepted");
+}
+
+TEST(ParseCommandLine, RefusesOptionsOfAnotherCommand)
+{
+    EXPECT_EQ(Refusal({"check", "s.json", "--scale", "2"}), "'check' has no option '--scale'");
+    EXPECT_EQ(Refusal({"s.json", "-o", "x"}), "the option '-o' needs a command before it");
+}
+
+TEST(ParseCommandLine, RefusesValuesThatAreMissingSuperfluousOrWrong)
+{
+    EXPECT_EQ(Refusal({"render", "s.json", "-o"}), "the option '-o' needs a value");
+    EXPECT_EQ(Refusal({"--help=yes"}), "the option '--help' takes no value");
+    EXPECT_EQ(Refusal({"--lang", "fr"}), "there is no language 'fr'; the languages are: de, en");
+    EXPECT_EQ(Refusal({"render", "s.json", "-o", "x", "--view", "top"}),
+              "there is no view 'top'; the views are: overview");
+    for (const std::string scale : {"", "two", "2x", "0", "0.2", "17", "-1", "nan", "inf"})
+        EXPECT_EQ(Refusal({"render", "s.json", "-o", "x", "--scale", scale}),
+                  "the scale '" + scale + "' is not a number from 0.25 to 16");
+}
+
+TEST(ParseCommandLine, CountsTheFiles)
+{
+    EXPECT_EQ(Refusal({"check"}), "'check' needs a station file");
+    EXPECT_EQ(Refusal({"convert", "a"}), "'convert' needs 2 files");
+    EXPECT_EQ(Refusal({"convert", "a", "b", "c"}), "'c' is one file too many for 'convert'");
+    EXPECT_EQ(Refusal({"render", "a"}), "'render' needs the file to write: -o FILE.png");
+}
+
+TEST(ParseCommandLine, KeepsTheCommandAndLanguageOfAnArgumentItRefuses)
+{
+    const auto parsed = ParseCommandLine({"list", "--lang=de", "--jsn"});
+    const auto& error = std::get<UsageError>(parsed);
+    EXPECT_EQ(error.understood.command, Command::List);
+    EXPECT_EQ(error.understood.language, Language::German);
+    EXPECT_EQ(error.reason.de, "unbekannte Option '--jsn'; war '--json' gemeint?");
+}
+
+} // namespace
+} // namespace quillon_ed
