@@ -1,0 +1,69 @@
+#include "reference/files/FileSystem.h"
+
+#include "reference/json/FileError.h"
+
+#include <algorithm>
+#include <array>
+#include <exception>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace zqbchwcx::reference {
+
+OpenFile::~OpenFile()
+{
+    try {
+        Close();
+    } catch (const std::system_error&) { // NOLINT(bugprone-empty-catch): what was read or written is settled by now
+    }
+}
+
+void OpenFile::Close()
+{
+    if (const auto handle = std::exchange(mHandle, std::nullopt)) moFiles.Close(*handle);
+}
+
+std::string DirectoryOf(const std::string& path)
+{
+    const std::string directory = std::filesystem::path(path).parent_path().string();
+    return directory.empty() ? "." : directory;
+}
+
+std::string FileNameOf(const std::string& path)
+{
+    return std::filesystem::path(path).filename().string();
+}
+
+std::vector<std::string> ListFiles(FileSystem& files, const std::string& directory)
+{
+    try {
+        return files.List(directory);
+    } catch (const std::system_error& error) {
+        throw FileError(directory, "", "cannot be read: " + error.code().message());
+    }
+}
+
+std::string ReadFile(FileSystem& files, const std::string& path, std::size_t largestBytes)
+{
+    try {
+        const auto status = files.Status(path);
+        if (!status) throw FileError(path, "", "there is no such file");
+        if (!status->isRegularFile) throw FileError(path, "", "is not a regular file");
+
+        const OpenFile file(files, files.OpenForReading(path));
+        std::string text;
+        text.reserve(static_cast<std::size_t>(std::min<std::uint64_t>(status->bytes, largestBytes)));
+        std::array<char, std::size_t{64} << 10> buffer{};
+        while (const std::size_t count = files.Read(file.Handle(), buffer)) {
+            text.append(buffer.data(), count);
+            if (text.size() > largestBytes)
+                throw FileError(path, "", "is larger than " + std::to_string(largestBytes) + " bytes");
+        }
+        return text;
+    } catch (const std::system_error& error) {
+        throw FileError(path, "", "cannot be read: " + error.code().message());
+    }
+}
+
+} // namespace zqbchwcx::reference

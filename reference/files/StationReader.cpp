@@ -1,0 +1,86 @@
+#include "reference/files/StationReader.h"
+
+#include "reference/json/JsonCursor.h"
+#include "reference/json/ModuleJson.h"
+#include "reference/json/StationNames.h"
+
+#include <memory>
+#include <utility>
+
+namespace zqbchwcx::reference {
+namespace {
+
+/// Room enough below the module of a place; anything deeper is no station.
+constexpr std::size_t DeepestNesting = 16;
+
+std::int32_t PlacesOf(const ModuleData& module, const Catalogue& catalogue)
+{
+    const ModuleType* type = catalogue.Find(module.orderNumber);
+    return type ? type->placeCount : 1;
+}
+
+/// Reads one entry of the place list into the rack; returns the place's number.
+std::int32_t ReadPlace(const JsonCursor& cursor, std::int32_t previousNumber, const Catalogue& catalogue,
+                       RackData& rack)
+{
+    cursor.AllowMembers({"place", "usability", "module"});
+    const auto placeCount = static_cast<std::int32_t>(rack.places.size());
+    const JsonCursor number = cursor.Member("place");
+    const std::int32_t place = number.Integer32(1, placeCount);
+    if (place == previousNumber) number.Fail("the place stands twice");
+    if (place < previousNumber) number.Fail("places must stand in rising order");
+
+    PlaceData& data = rack.places[static_cast<std::size_t>(place - 1)];
+    if (const auto usability = cursor.OptionalMember("usability")) data.usability = usability->Named(UsabilityNames);
+    if (const auto module = cursor.OptionalMember("module")) {
+        data.module = std::make_shared<const ModuleData>(ModuleFromJson(*module, catalogue));
+        const std::int32_t span = PlacesOf(*data.module, catalogue);
+        if (place + span - 1 > placeCount)
+            module->Fail("the module spans " + std::to_string(span) + " places and reaches beyond place " +
+                         std::to_string(placeCount) + ", the last of its rack");
+    }
+    return place;
+}
+
+RackDataPtr ReadRack(const JsonCursor& cursor, const Catalogue& catalogue)
+{
+    cursor.AllowMembers({"present", "placeCount", "places"});
+    auto rack = std::make_shared<RackData>();
+    if (const auto present = cursor.OptionalMember("present")) rack->state = present->Boolean() ? 1 : 0;
+    rack->places.resize(static_cast<std::size_t>(cursor.Member("placeCount").Integer32(1, MaxPlaces)));
+    std::int32_t place = 0;
+    for (const JsonCursor& entry : cursor.Member("places").Elements(rack->places.size()))
+        place = ReadPlace(entry, place, catalogue, *rack);
+    return rack;
+}
+
+} // namespace
+
+StationData ParseStation(std::string_view text, std::string_view fileName, const Catalogue& catalogue)
+{
+    const JsonDocument document = ParseStrictJson(text, fileName, {LargestStationFile, DeepestNesting});
+    const JsonCursor file(document);
+    ReadFormatVersion(file, StationFormat, StationFormatVersion);
+    file.AllowMembers({"$schema", "format", "version", "name", "kind", "displayMode", "readOnly", "racks"});
+    if (const auto schema = file.OptionalMember("$schema")) schema->Text(0, MaxTextBytes);
+
+    StationData station;
+    station.name = file.Member("name").Text(0, MaxTextBytes);
+    station.kind = file.Member("kind").Named(StationKindNames);
+    if (const auto mode = file.OptionalMember("displayMode")) station.displayMode = mode->Integer32(0, 2);
+    if (const auto readOnly = file.OptionalMember("readOnly")) station.readOnly = readOnly->Boolean();
+    const JsonCursor racks = file.Member("racks");
+    for (const JsonCursor& rack : racks.Elements(MaxRacks)) station.racks.push_back(ReadRack(rack, catalogue));
+    if (station.racks.empty()) racks.Fail("a station has at least one rack");
+    return station;
+}
+
+LoadedStation LoadStation(const std::string& fileName, const Catalogue& catalogue, FileSystem& files)
+{
+    // The state is taken first: a change while reading is then noticed later, not overlooked.
+    const auto status = ReadStatus(files, fileName);
+    const std::string text = ReadFile(files, fileName, LargestStationFile);
+    return {ParseStation(text, fileName, catalogue), MakeStamp(status, text)};
+}
+
+} // namespace zqbchwcx::reference

@@ -1,0 +1,99 @@
+#include "reference/files/StationWriter.h"
+
+#include "reference/files/AtomicWrite.h"
+#include "reference/files/StationReader.h"
+#include "reference/json/FileError.h"
+#include "reference/json/JsonPointer.h"
+#include "reference/json/ModuleJson.h"
+#include "reference/json/StationNames.h"
+
+#include <cstddef>
+#include <optional>
+
+namespace zqbchwcx::reference {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+Json PlaceToJson(std::size_t number, const PlaceData& place)
+{
+    Json json = {{"place", number}};
+    if (place.usability != 1) json["usability"] = NameOf(place.usability, UsabilityNames);
+    if (place.module) json["module"] = ModuleToJson(*place.module);
+    return json;
+}
+
+Json RackToJson(const RackData& rack)
+{
+    Json json = {{"present", rack.state != 0}, {"placeCount", rack.places.size()}, {"places", Json::array()}};
+    for (std::size_t index = 0; index < rack.places.size(); ++index) {
+        const PlaceData& place = rack.places[index];
+        if (place.module || place.usability != 1) json["places"].push_back(PlaceToJson(index + 1, place));
+    }
+    return json;
+}
+
+Json StationToJson(const StationData& station)
+{
+    Json json = {{"format", StationFormat},
+                 {"version", StationFormatVersion},
+                 {"name", station.name},
+                 {"kind", NameOf(station.kind, StationKindNames)},
+                 {"displayMode", station.displayMode},
+                 {"readOnly", station.readOnly},
+                 {"racks", Json::array()}};
+    for (const RackDataPtr& rack : station.racks) json["racks"].push_back(rack ? RackToJson(*rack) : Json());
+    return json;
+}
+
+bool IsUtf8(const std::string& text)
+{
+    try {
+        static_cast<void>(Json(text).dump());
+        return true;
+    } catch (const Json::type_error&) {
+        return false;
+    }
+}
+
+/// The pointer to the first text in the value that is not UTF-8.
+std::optional<std::string> FindBrokenText(const Json& value, const std::string& pointer)
+{
+    if (value.is_string() && !IsUtf8(value.get_ref<const std::string&>())) return pointer;
+    for (const auto& [key, element] : value.items()) {
+        if (!value.is_structured()) break;
+        if (value.is_object() && !IsUtf8(key)) return pointer;
+        if (auto found = FindBrokenText(element, pointer + PointerToken(key))) return found;
+    }
+    return std::nullopt;
+}
+
+std::string Dump(const Json& json, std::string_view fileName)
+{
+    constexpr int indentation = 2;
+    try {
+        return json.dump(indentation) + "\n";
+    } catch (const Json::type_error&) {
+        throw FileError(std::string(fileName), FindBrokenText(json, "").value_or(""), "the text is not valid UTF-8");
+    }
+}
+
+} // namespace
+
+std::string WriteStation(const StationData& station, std::string_view fileName)
+{
+    std::string text = Dump(StationToJson(station), fileName);
+    // Reading it back proves, before anything is overwritten, that the file will open again. Which types the
+    // catalogue knows does not matter to that.
+    static_cast<void>(ParseStation(text, fileName, Catalogue()));
+    return text;
+}
+
+FileStamp SaveStation(const StationData& station, const std::string& fileName, FileSystem& files)
+{
+    const std::string text = WriteStation(station, fileName);
+    AtomicWrite(files, fileName, text);
+    return MakeStamp(ReadStatus(files, fileName), text);
+}
+
+} // namespace zqbchwcx::reference

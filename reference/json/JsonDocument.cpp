@@ -1,0 +1,117 @@
+#include "reference/json/JsonDocument.h"
+
+#include "reference/json/FileError.h"
+#include "reference/json/JsonPointer.h"
+
+#include <utility>
+#include <vector>
+
+namespace zqbchwcx::reference {
+namespace {
+
+constexpr std::size_t LongestReason = 300;
+
+/// The parser's message without its class prefix. It quotes the input, which need not be text at all.
+std::string ReadableReason(std::string reason)
+{
+    if (const auto prefixEnd = reason.find("] "); reason.starts_with('[') && prefixEnd != std::string::npos)
+        reason.erase(0, prefixEnd + 2);
+    if (reason.size() > LongestReason) reason.resize(LongestReason);
+    for (char& character : reason)
+        if (character < ' ' || character > '~') character = '?';
+    return reason;
+}
+
+/// Builds the document from the parser's events. Unlike the parser's own builder it refuses repeated members, and
+/// knows at every moment where it is.
+class DocumentBuilder : public nlohmann::json_sax<nlohmann::json> {
+public:
+    DocumentBuilder(JsonDocument& document, const JsonLimits& limits) : moDocument(document), moLimits(limits) {}
+
+    bool null() override { return Add(nullptr); }
+    bool boolean(bool value) override { return Add(value); }
+    bool number_integer(number_integer_t value) override { return Add(value); }
+    bool number_unsigned(number_unsigned_t value) override { return Add(value); }
+    bool number_float(number_float_t value, const string_t& /*text*/) override { return Add(value); }
+    bool string(string_t& value) override { return Add(std::move(value)); }
+    bool binary(binary_t& /*value*/) override { return Refuse("binary data is no JSON"); }
+
+    bool start_object(std::size_t /*size*/) override { return Open(nlohmann::json::object()); }
+    bool end_object() override { return Close(); }
+    bool start_array(std::size_t /*size*/) override { return Open(nlohmann::json::array()); }
+    bool end_array() override { return Close(); }
+
+    bool key(string_t& name) override
+    {
+        const bool isRepeated = mcolOpen.back()->contains(name);
+        msKey = std::move(name);
+        if (isRepeated)
+            throw FileError(moDocument.fileName, Pointer() + PointerToken(msKey), "the member stands twice");
+        return true;
+    }
+
+    bool parse_error(std::size_t /*position*/, const std::string& /*token*/,
+                     const nlohmann::json::exception& error) override
+    {
+        return Refuse(ReadableReason(error.what()));
+    }
+
+private:
+    template <class Value>
+    nlohmann::json* Insert(Value&& value)
+    {
+        if (mcolOpen.empty()) return &(moDocument.root = std::forward<Value>(value));
+        nlohmann::json& parent = *mcolOpen.back();
+        if (parent.is_array()) return &parent.emplace_back(std::forward<Value>(value));
+        return &(parent[msKey] = std::forward<Value>(value));
+    }
+
+    template <class Value>
+    bool Add(Value&& value)
+    {
+        Insert(std::forward<Value>(value));
+        return true;
+    }
+
+    bool Open(nlohmann::json value)
+    {
+        if (mcolOpen.size() >= moLimits.depth)
+            return Refuse("objects and arrays are nested deeper than " + std::to_string(moLimits.depth) + " levels");
+        mcolOpen.push_back(Insert(std::move(value)));
+        return true;
+    }
+
+    bool Close()
+    {
+        mcolOpen.pop_back();
+        return true;
+    }
+
+    std::string Pointer() const
+    {
+        return mcolOpen.empty() ? std::string() : FindPointer(moDocument.root, *mcolOpen.back());
+    }
+
+    bool Refuse(const std::string& reason) const { throw FileError(moDocument.fileName, Pointer(), reason); }
+
+    JsonDocument& moDocument;
+    const JsonLimits& moLimits;
+    std::vector<nlohmann::json*> mcolOpen;
+    std::string msKey;
+};
+
+} // namespace
+
+JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, const JsonLimits& limits)
+{
+    JsonDocument document{std::string(fileName), nullptr};
+    if (text.size() > limits.bytes)
+        throw FileError(document.fileName, "",
+                        "the text has " + std::to_string(text.size()) + " bytes; " + std::to_string(limits.bytes) +
+                            " are the most that is read");
+    DocumentBuilder builder(document, limits);
+    nlohmann::json::sax_parse(text, &builder);
+    return document;
+}
+
+} // namespace zqbchwcx::reference

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace zqbchwcx::reference {
+
+/// What hostile input may cost at most.
+struct JsonLimits {
+    std::size_t bytes = std::size_t{256} << 20;
+    std::size_t depth = 32; ///< nested objects and arrays
+};
+
+/// A JSON text that has been read, and the name under which errors in it are told.
+struct JsonDocument {
+    std::string fileName;
+    nlohmann::json root;
+};
+
+/// Reads exactly one JSON value. Throws FileError for text that is not JSON (with line and column), for a member that
+/// stands twice in an object (with its pointer), and for text that goes beyond the limits.
+JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, const JsonLimits& limits = {});
+
+} // namespace zqbchwcx::reference
