@@ -1,0 +1,116 @@
+#include "app/export/PaperToolkit.h"
+
+#include "app/export/PaperColors.h"
+#include "app/export/PaperPicture.h"
+#include "app/export/PaperShape.h"
+#include "app/export/PaperSite.h"
+#include "platform/Tooltips.h"
+
+namespace quillon_ed {
+
+using namespace zqbchwcx;
+
+namespace {
+
+PaperSite& SiteOf(UserControl& parent)
+{
+    return dynamic_cast<PaperSite&>(parent);
+}
+
+class PaperMenu : public PopupMenu {
+public:
+    std::int32_t Add(std::string_view /*name*/, std::string_view /*caption*/) override { return mlItems++; }
+    void Caption(std::int32_t /*lItem*/, std::string_view /*caption*/) override {}
+    bool Enabled(std::int32_t /*lItem*/) const override { return false; }
+    void Enabled(std::int32_t /*lItem*/, bool /*bEnabled*/) override {}
+    void OnClick(std::function<void(std::int32_t)> /*handler*/) override {}
+    void Show(std::optional<Point> /*at*/, std::optional<std::int32_t> /*lDefaultItem*/) override {}
+
+private:
+    std::int32_t mlItems = 0;
+};
+
+class PaperSysInfo : public SysInfo {
+public:
+    void OnSysColorsChanged(std::function<void()> /*handler*/) override {}
+};
+
+class PaperTimer : public Timer {
+public:
+    void Interval(std::int32_t /*lMilliseconds*/) override {}
+    bool Enabled() const override { return mbEnabled; }
+    void Enabled(bool bEnabled) override { mbEnabled = bEnabled; }
+    void OnTimer(std::function<void()> /*handler*/) override {}
+
+private:
+    bool mbEnabled = false;
+};
+
+class PaperTooltips : public TooltipService {
+public:
+    TooltipConnectionPtr Connect(std::intptr_t /*hWnd*/, TooltipCallback& /*callback*/) override
+    {
+        return std::make_unique<TooltipConnection>();
+    }
+};
+
+} // namespace
+
+PaperToolkit::PaperToolkit(std::shared_ptr<Toolkit> screen)
+    : moScreen(std::move(screen)), moTooltips(std::make_unique<PaperTooltips>())
+{
+}
+
+PaperToolkit::~PaperToolkit() = default;
+
+PictureBoxPtr PaperToolkit::CreatePictureBox(UserControl& parent, std::string_view /*name*/, const Rect& rect)
+{
+    return std::make_unique<PaperPicture>(SiteOf(parent), rect);
+}
+
+ChildControlPtr PaperToolkit::CreateChildControl(UserControl& parent, std::string_view /*name*/, const Rect& rect)
+{
+    return std::make_unique<PaperSite>(&SiteOf(parent), rect);
+}
+
+FramePtr PaperToolkit::CreateFrame(UserControl& parent, std::string_view /*name*/, const Rect& rect)
+{
+    return std::make_unique<PaperShape>(SiteOf(parent), rect, PaperColor(vxColorButtonShadow));
+}
+
+ShapePtr PaperToolkit::CreateShape(UserControl& parent, std::string_view /*name*/, const Rect& rect)
+{
+    return std::make_unique<PaperShape>(SiteOf(parent), rect, PaperColor(vxColorButtonText));
+}
+
+PopupMenuPtr PaperToolkit::CreatePopupMenu(UserControl& /*parent*/, std::string_view /*name*/)
+{
+    return std::make_unique<PaperMenu>();
+}
+
+SysInfoPtr PaperToolkit::CreateSysInfo(UserControl& /*parent*/)
+{
+    return std::make_unique<PaperSysInfo>();
+}
+
+TimerPtr PaperToolkit::CreateTimer()
+{
+    return std::make_unique<PaperTimer>();
+}
+
+Desktop& PaperToolkit::GetDesktop()
+{
+    return moScreen->GetDesktop();
+}
+
+TooltipService& PaperToolkit::GetTooltipService()
+{
+    return *moTooltips;
+}
+
+ImageListFactory& PaperToolkit::GetImageListFactory()
+{
+    return moScreen->GetImageListFactory();
+}
+
+} // namespace quillon_ed

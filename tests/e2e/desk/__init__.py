@@ -1,0 +1,1 @@
+"""A desktop of its own for the tests: a display that nobody sees, its pointer, keys, pictures and clipboard."""
