@@ -35,19 +35,24 @@ constexpr std::array FamilyNames{
     NamedValue<ModuleFamily>{"dummy", ModuleFamily::Dummy},
 };
 
-using ParameterSets = std::map<std::string, std::vector<ParameterDefinition>>;
-
-/// Reads the documents one after the other; what refers to other documents is looked up at the end.
+/// Reads the documents together: what one of them defines, all may use.
 class CatalogueReader {
 public:
-    void ReadDocument(const JsonDocument& document)
+    /// The head of a document and the parameter sets, which the types of every document may use.
+    void ReadHead(const JsonDocument& document)
     {
         const JsonCursor file(document);
         ReadFormatVersion(file, Format, NewestVersion);
         file.AllowMembers({"$schema", "format", "version", "maker", "parameterSets", "types", "groups"});
         ReadMaker(file.Member("maker"));
-        const ParameterSets sets = ReadParameterSets(file);
-        for (const JsonCursor& type : file.Member("types").Elements(MostTypes)) ReadType(type, sets);
+        if (const auto sets = file.OptionalMember("parameterSets")) ReadParameterSets(*sets);
+    }
+
+    void ReadTypes(const JsonDocument& document)
+    {
+        const JsonCursor file(document);
+        if (const auto types = file.OptionalMember("types"))
+            for (const JsonCursor& type : types->Elements(MostTypes)) ReadType(type);
         if (const auto groups = file.OptionalMember("groups"))
             for (const JsonCursor& group : groups->Elements(MostGroups)) mcolGroups.push_back(ReadGroup(group));
     }
@@ -72,18 +77,17 @@ private:
         msMaker = maker;
     }
 
-    static ParameterSets ReadParameterSets(const JsonCursor& file)
+    void ReadParameterSets(const JsonCursor& cursor)
     {
-        ParameterSets sets;
-        const auto cursor = file.OptionalMember("parameterSets");
-        if (!cursor) return sets;
-        for (const auto& [name, definitions] : cursor->Members())
+        for (const auto& [name, definitions] : cursor.Members()) {
+            const auto [set, isNew] = mcolParameterSets.try_emplace(name);
+            if (!isNew) definitions.Fail("another file has a parameter set of this name");
             for (const JsonCursor& definition : definitions.Elements(MaxParameters))
-                sets[name].push_back(ReadParameterDefinition(definition));
-        return sets;
+                set->second.push_back(ReadParameterDefinition(definition));
+        }
     }
 
-    void ReadType(const JsonCursor& cursor, const ParameterSets& sets)
+    void ReadType(const JsonCursor& cursor)
     {
         cursor.AllowMembers({"orderNumber", "family", "name", "description", "picture", "places", "inputBytes",
                              "outputBytes", "stations", "subModules", "isSubModule", "parameterSets", "parameters",
@@ -97,7 +101,7 @@ private:
         ReadPlacing(cursor, type);
         ReadSizes(cursor, type);
         ReadSubModules(cursor, type);
-        ReadParameters(cursor, sets, type);
+        ReadParameters(cursor, type);
         ReadFacts(cursor, type);
 
         if (!mcolIndexByOrderNumber.emplace(type.orderNumber, mcolTypes.size()).second)
@@ -143,7 +147,7 @@ private:
         }
     }
 
-    static void ReadParameters(const JsonCursor& cursor, const ParameterSets& sets, ModuleType& type)
+    void ReadParameters(const JsonCursor& cursor, ModuleType& type) const
     {
         std::set<std::string> keys;
         const auto add = [&](const ParameterDefinition& definition, const JsonCursor& where) {
@@ -153,8 +157,8 @@ private:
         };
         if (const auto names = cursor.OptionalMember("parameterSets"))
             for (const JsonCursor& name : names->Elements(MaxParameters)) {
-                const auto set = sets.find(name.Text(1, MaxTextBytes));
-                if (set == sets.end()) name.Fail("there is no parameter set of this name in the file");
+                const auto set = mcolParameterSets.find(name.Text(1, MaxTextBytes));
+                if (set == mcolParameterSets.end()) name.Fail("there is no parameter set of this name");
                 for (const ParameterDefinition& definition : set->second) add(definition, name);
             }
         if (const auto definitions = cursor.OptionalMember("parameters"))
@@ -196,6 +200,7 @@ private:
     }
 
     std::string msMaker;
+    std::map<std::string, std::vector<ParameterDefinition>> mcolParameterSets;
     std::vector<ModuleType> mcolTypes;
     std::vector<CatalogueGroup> mcolGroups;
     std::unordered_map<std::string, std::size_t> mcolIndexByOrderNumber;
@@ -208,7 +213,8 @@ private:
 Catalogue ReadCatalogue(const std::vector<JsonDocument>& documents)
 {
     CatalogueReader reader;
-    for (const JsonDocument& document : documents) reader.ReadDocument(document);
+    for (const JsonDocument& document : documents) reader.ReadHead(document);
+    for (const JsonDocument& document : documents) reader.ReadTypes(document);
     return reader.Finish();
 }
 
