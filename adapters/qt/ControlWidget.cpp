@@ -1,0 +1,198 @@
+#include "adapters/qt/ControlWidget.h"
+
+#include "adapters/qt/InputTranslation.h"
+#include "adapters/qt/PictureBoxWidget.h"
+#include "adapters/qt/ShapeWidget.h"
+#include "adapters/qt/SystemColors.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPalette>
+
+namespace zqbchwcx::qt {
+namespace {
+
+/// Keys that the views use themselves, whatever the shortcuts and the focus order of the window they are put in.
+bool IsOwnKey(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        return !event.modifiers().testFlag(Qt::AltModifier);
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Delete:
+    case Qt::Key_Clear:
+        return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
+    case Qt::Key_Menu:
+        return true;
+    case Qt::Key_F10:
+        return event.modifiers().testFlag(Qt::ShiftModifier);
+    default:
+        return false;
+    }
+}
+
+/// Draws the visible child windows, lowest first, with the origin at the control's corner. `offset` is the control's
+/// own corner in the picture, in logical pixels.
+void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& control, QPoint offset)
+{
+    const auto children = control.children();
+    for (QObject* child : children) {
+        auto* widget = qobject_cast<QWidget*>(child);
+        if (widget == nullptr || widget->isHidden()) continue;
+        const QPoint corner = offset + widget->pos();
+        if (auto* box = qobject_cast<PictureBoxWidget*>(widget)) {
+            painter.drawImage(grid.Edge(corner.x()), grid.Edge(corner.y()), box->Picture().Pixels());
+        } else if (const auto* shape = qobject_cast<const ShapeWidget*>(widget)) {
+            painter.fillRect(grid.Device(MakeRect(corner.x(), corner.y(), shape->width(), shape->height())),
+                             shape->FillColor());
+        } else {
+            PaintWindows(painter, grid, *widget, corner);
+        }
+    }
+}
+
+} // namespace
+
+ControlWidget::ControlWidget(QWidget* parent, Backdrop backdrop)
+    : QWidget(parent), mBackdrop(backdrop), mRatio(devicePixelRatioF())
+{
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    Receiver(nullptr);
+}
+
+void ControlWidget::Receiver(UserControlEvents* receiver)
+{
+    mReceiver = receiver;
+    setAttribute(Qt::WA_TransparentForMouseEvents, receiver == nullptr);
+    setAcceptDrops(receiver != nullptr);
+}
+
+void ControlWidget::TextFont(const QFont& font)
+{
+    mFont = font;
+    for (auto* box : findChildren<PictureBoxWidget*>({}, Qt::FindDirectChildrenOnly)) box->Picture().Font(font);
+}
+
+QColor ControlWidget::BackgroundColor() const
+{
+    auto* box = findChild<PictureBoxWidget*>({}, Qt::FindDirectChildrenOnly);
+    return box != nullptr ? box->Picture().Background() : ToQColor(vxColorWindowBackground).value_or(Qt::white);
+}
+
+QImage ControlWidget::ToImage() const
+{
+    const PixelGrid grid(mRatio);
+    QImage image(grid.Edge(width()), grid.Edge(height()), QImage::Format_RGB32);
+    image.fill(BackgroundColor());
+    QPainter painter(&image);
+    PaintWindows(painter, grid, *this, {});
+    return image;
+}
+
+void ControlWidget::OverrideRatio(double ratio)
+{
+    mbRatioOverridden = ratio > 0;
+    SetRatio(mbRatioOverridden ? ratio : devicePixelRatioF());
+}
+
+void ControlWidget::FollowRatio()
+{
+    if (!mbRatioOverridden) SetRatio(devicePixelRatioF());
+}
+
+void ControlWidget::SetRatio(double ratio)
+{
+    if (ratio == mRatio) return;
+    mRatio = ratio;
+    for (auto* box : findChildren<PictureBoxWidget*>({}, Qt::FindDirectChildrenOnly)) box->Picture().Ratio(ratio);
+    emit AppearanceChanged();
+}
+
+bool ControlWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && IsOwnKey(static_cast<const QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void ControlWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) {
+        emit AppearanceChanged();
+        update();
+    }
+}
+
+void ControlWidget::paintEvent(QPaintEvent* /*event*/)
+{
+    // A window may come to another screen without further notice; what it shows then is drawn anew after this.
+    if (!mbRatioOverridden && devicePixelRatioF() != mRatio)
+        QMetaObject::invokeMethod(this, &ControlWidget::FollowRatio, Qt::QueuedConnection);
+    if (mBackdrop == Backdrop::Own) QPainter(this).fillRect(rect(), BackgroundColor());
+}
+
+void ControlWidget::resizeEvent(QResizeEvent* /*event*/)
+{
+    if (mReceiver != nullptr) mReceiver->Resize();
+}
+
+void ControlWidget::showEvent(QShowEvent* /*event*/)
+{
+    FollowRatio();
+}
+
+void ControlWidget::keyPressEvent(QKeyEvent* event)
+{
+    const std::int16_t nKeyCode = ToKeyCode(event->key());
+    if (mReceiver != nullptr && nKeyCode != 0) mReceiver->KeyDown(nKeyCode, ToShift(event->modifiers()));
+    event->setAccepted(IsOwnKey(*event));
+}
+
+void ControlWidget::keyReleaseEvent(QKeyEvent* event)
+{
+    const std::int16_t nKeyCode = ToKeyCode(event->key());
+    if (mReceiver != nullptr && nKeyCode != 0 && !event->isAutoRepeat())
+        mReceiver->KeyUp(nKeyCode, ToShift(event->modifiers()));
+    event->setAccepted(IsOwnKey(*event));
+}
+
+DropTarget::Handler ControlWidget::DragOverHandler()
+{
+    return [this](DragOverEvent& over) {
+        if (mReceiver == nullptr) return;
+        mReceiver->OLEDragOver(over.data, over.lEffect, over.nButton, over.nShift, over.x, over.y, over.nState);
+    };
+}
+
+void ControlWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    mDropTarget.Enter(*event, DragOverHandler());
+}
+
+void ControlWidget::dragMoveEvent(QDragMoveEvent* event)
+{
+    mDropTarget.Move(*event, DragOverHandler());
+}
+
+void ControlWidget::dragLeaveEvent(QDragLeaveEvent* /*event*/)
+{
+    mDropTarget.Leave(DragOverHandler());
+}
+
+void ControlWidget::dropEvent(QDropEvent* event)
+{
+    // Nothing is dropped between the picture boxes: for the views the drag leaves.
+    mDropTarget.Leave(DragOverHandler());
+    event->setDropAction(Qt::IgnoreAction);
+    event->ignore();
+}
+
+} // namespace zqbchwcx::qt

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "adapters/qt/DropTarget.h"
+#include "platform/UserControl.h"
+
+#include <QColor>
+#include <QFont>
+#include <QWidget>
+
+namespace zqbchwcx::qt {
+
+class PictureBoxWidget;
+
+/// The window that a view lives in: tells its receiver of keys, sizes and drags outside the picture boxes. Without a
+/// receiver it lets the mouse and drags through.
+class ControlWidget : public QWidget {
+    Q_OBJECT
+public:
+    enum class Backdrop {
+        Own,    ///< filled with the colour of its first picture box
+        Parent, ///< what lies below shows through
+    };
+
+    ControlWidget(QWidget* parent, Backdrop backdrop);
+
+    void Receiver(UserControlEvents* receiver);
+    void TextFont(const QFont& font);
+    const QFont& TextFont() const { return mFont; }
+    /// The colour between and around the child windows.
+    QColor BackgroundColor() const;
+    /// The control and its children as a picture, at the ratio that was asked for last.
+    QImage ToImage() const;
+    /// Makes the picture boxes draw at another ratio than the window's; 0 for the window's own.
+    void OverrideRatio(double ratio);
+    double Ratio() const { return mRatio; }
+
+signals:
+    /// The system colours or the ratio of device pixels have changed.
+    void AppearanceChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void FollowRatio();
+    void SetRatio(double ratio);
+    DropTarget::Handler DragOverHandler();
+
+    Backdrop mBackdrop;
+    UserControlEvents* mReceiver = nullptr;
+    QFont mFont;
+    DropTarget mDropTarget;
+    double mRatio;
+    bool mbRatioOverridden = false;
+};
+
+} // namespace zqbchwcx::qt

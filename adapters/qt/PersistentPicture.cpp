@@ -1,0 +1,186 @@
+#include "adapters/qt/PersistentPicture.h"
+
+#include "adapters/qt/QtImage.h"
+#include "adapters/qt/QtImageList.h"
+#include "adapters/qt/SystemColors.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zqbchwcx::qt {
+namespace {
+
+QImage NewImage(const PixelGrid& grid, Size size, const QColor& background)
+{
+    const QSize device(std::max(grid.Edge(size.width), 1), std::max(grid.Edge(size.height), 1));
+    QImage image(device, QImage::Format_RGB32);
+    image.fill(background);
+    return image;
+}
+
+void Invert(QImage& image, const QRect& device)
+{
+    const QRect inside = device.intersected(image.rect());
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = inside.left(); x <= inside.right(); ++x) line[x] ^= 0x00FFFFFFU;
+    }
+}
+
+/// Calls back for every second logical pixel of the rectangle's outline, each pixel once.
+template <class Visit>
+void ForEachDot(const Rect& rect, Visit&& visit)
+{
+    const auto dot = [&](std::int32_t x, std::int32_t y) {
+        if ((x + y) % 2 == 0) visit(MakeRect(x, y, 1, 1));
+    };
+    for (std::int32_t x = rect.left; x < rect.right; ++x) {
+        dot(x, rect.top);
+        if (rect.height() > 1) dot(x, rect.bottom - 1);
+    }
+    for (std::int32_t y = rect.top + 1; y < rect.bottom - 1; ++y) {
+        dot(rect.left, y);
+        if (rect.width() > 1) dot(rect.right - 1, y);
+    }
+}
+
+Rect Normalized(const Rect& rect)
+{
+    return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom), std::max(rect.left, rect.right),
+            std::max(rect.top, rect.bottom)};
+}
+
+} // namespace
+
+PersistentPicture::PersistentPicture(Size size, double ratio)
+    : mSize(size), mGrid(ratio), mBackground(Translate(mBackColor))
+{
+    mImage = NewImage(mGrid, mSize, mBackground);
+    mTexts.Font(mFont, ratio);
+}
+
+PersistentPicture::~PersistentPicture() = default;
+
+void PersistentPicture::Resize(Size size)
+{
+    if (size == mSize) return;
+    mSize = size;
+    QImage image = NewImage(mGrid, mSize, mBackground);
+    QPainter(&image).drawImage(0, 0, mImage);
+    Replace(std::move(image));
+}
+
+void PersistentPicture::Ratio(double ratio)
+{
+    if (ratio == mGrid.Ratio()) return;
+    mGrid = PixelGrid(ratio);
+    QImage image = NewImage(mGrid, mSize, mBackground);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(image.rect(), mImage);
+    painter.end();
+    Replace(std::move(image));
+    mTexts.Font(mFont, ratio);
+}
+
+void PersistentPicture::Font(const QFont& font)
+{
+    mFont = font;
+    mTexts.Font(mFont, mGrid.Ratio());
+}
+
+void PersistentPicture::BackColor(OleColor color)
+{
+    mBackColor = color;
+    mBackground = Translate(color);
+    Painter().fillRect(mImage.rect(), mBackground);
+    Changed(mImage.rect());
+}
+
+void PersistentPicture::FillBox(const Rect& rect, OleColor color)
+{
+    Fill(rect, Translate(color));
+}
+
+void PersistentPicture::DrawBox(const Rect& rect, OleColor color)
+{
+    const QColor rgb = Translate(color);
+    Fill({rect.left, rect.top, rect.right, rect.top + 1}, rgb);
+    Fill({rect.left, rect.bottom - 1, rect.right, rect.bottom}, rgb);
+    Fill({rect.left, rect.top, rect.left + 1, rect.bottom}, rgb);
+    Fill({rect.right - 1, rect.top, rect.right, rect.bottom}, rgb);
+}
+
+void PersistentPicture::DrawLine(Point from, Point to, OleColor color)
+{
+    const Rect line = Normalized({from.x, from.y, to.x, to.y});
+    Fill({line.left, line.top, line.right + 1, line.bottom + 1}, Translate(color));
+}
+
+void PersistentPicture::DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color)
+{
+    if (text.empty()) return;
+    const TextCell& cell = mTexts.Cell(text, weight, Translate(color), mBackground);
+    const QRect device = mGrid.Device(box);
+    const QPoint middle(device.left() + (device.width() + 1) / 2, device.top() + device.height() / 2);
+    const QRect target = QRect(middle + cell.offset, cell.image.size());
+    const QRect visible = target.intersected(device);
+    Painter().drawImage(visible.topLeft(), cell.image, visible.translated(-target.topLeft()));
+    Changed(visible);
+}
+
+void PersistentPicture::DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style)
+{
+    DrawImage(dynamic_cast<const QtImageList&>(list).Image(key), at, style);
+}
+
+void PersistentPicture::DrawImage(const Image& image, Point at, DrawStyle style)
+{
+    const QColor highlight = Translate(vxColorHighlight);
+    const QImage& pixels = dynamic_cast<const QtImage&>(image).At(at, mGrid, style, highlight);
+    const QPoint corner(mGrid.Edge(at.x), mGrid.Edge(at.y));
+    Painter().drawImage(corner, pixels);
+    Changed(QRect(corner, pixels.size()));
+}
+
+void PersistentPicture::DrawFocusRect(const Rect& rect)
+{
+    const Rect normal = Normalized(rect);
+    if (normal.width() == 0 || normal.height() == 0) return;
+    ForEachDot(normal, [&](const Rect& dot) { Invert(mImage, mGrid.Device(dot)); });
+    Changed(mGrid.Device(normal));
+}
+
+QPainter& PersistentPicture::Painter()
+{
+    if (!mPainter) mPainter = std::make_unique<QPainter>(&mImage);
+    return *mPainter;
+}
+
+void PersistentPicture::Replace(QImage image)
+{
+    mPainter.reset();
+    mImage = std::move(image);
+    Changed(mImage.rect());
+}
+
+void PersistentPicture::Fill(const Rect& rect, const QColor& color)
+{
+    const QRect device = mGrid.Device(rect);
+    if (device.isEmpty()) return;
+    Painter().fillRect(device, color);
+    Changed(device);
+}
+
+void PersistentPicture::Changed(const QRect& device)
+{
+    if (mOnChanged && !device.isEmpty()) mOnChanged(device);
+}
+
+QColor PersistentPicture::Translate(OleColor color) const
+{
+    const bool isMark = color == vxColorButtonText || color == vxColorGrayText || color == vxColorWindowText;
+    return isMark ? ReadableOn(color, mBackground) : ToQColor(color).value_or(mBackground);
+}
+
+} // namespace zqbchwcx::qt

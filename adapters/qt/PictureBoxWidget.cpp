@@ -1,0 +1,177 @@
+#include "adapters/qt/PictureBoxWidget.h"
+
+#include "adapters/qt/DevicePainting.h"
+#include "adapters/qt/InputTranslation.h"
+#include "adapters/qt/SourceDataObject.h"
+
+#include <QDrag>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QPointer>
+
+#include <cmath>
+
+namespace zqbchwcx::qt {
+
+PictureBoxWidget::PictureBoxWidget(QWidget& parent, const QString& name, const Rect& rect)
+    : QWidget(&parent), mPicture({rect.width(), rect.height()}, parent.devicePixelRatioF())
+{
+    setObjectName(name);
+    setGeometry(rect.left, rect.top, rect.width(), rect.height());
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setMouseTracking(true);
+    mPicture.OnChanged([this](const QRect& device) { Remember(device); });
+    Receiver(nullptr);
+}
+
+void PictureBoxWidget::Receiver(PictureBoxEvents* receiver)
+{
+    mReceiver = receiver;
+    setAttribute(Qt::WA_TransparentForMouseEvents, receiver == nullptr);
+    setAcceptDrops(receiver != nullptr);
+    setFocusPolicy(receiver == nullptr ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+void PictureBoxWidget::Remember(const QRect& device)
+{
+    // One update for a burst of drawing: it is shown when the program next waits, or by an explicit refresh.
+    if (mChanged.isEmpty()) QMetaObject::invokeMethod(this, &PictureBoxWidget::ShowChanges, Qt::QueuedConnection);
+    mChanged |= device;
+}
+
+void PictureBoxWidget::ShowChanges()
+{
+    if (mChanged.isEmpty()) return;
+    const double ratio = mPicture.Ratio();
+    const QRectF logical(mChanged.x() / ratio, mChanged.y() / ratio, mChanged.width() / ratio,
+                         mChanged.height() / ratio);
+    mChanged = {};
+    update(logical.toAlignedRect());
+}
+
+void PictureBoxWidget::OverrideRatio(double ratio)
+{
+    mPicture.Ratio(ratio > 0 ? ratio : devicePixelRatioF());
+}
+
+void PictureBoxWidget::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    UseDevicePixels(painter, devicePixelRatioF());
+    // Until it is drawn anew at a changed ratio, the picture is stretched.
+    const double stretch = devicePixelRatioF() / mPicture.Ratio();
+    painter.scale(stretch, stretch);
+    painter.drawImage(0, 0, mPicture.Pixels());
+}
+
+void PictureBoxWidget::resizeEvent(QResizeEvent* /*event*/)
+{
+    mPicture.Resize({width(), height()});
+}
+
+void PictureBoxWidget::MouseDown(const QMouseEvent& event)
+{
+    if (mReceiver == nullptr) return;
+    mReceiver->MouseDown(ToButtons(event.button()), ToShift(event.modifiers()),
+                         static_cast<float>(event.position().x()), static_cast<float>(event.position().y()));
+}
+
+void PictureBoxWidget::mousePressEvent(QMouseEvent* event)
+{
+    setFocus(Qt::MouseFocusReason);
+    MouseDown(*event);
+}
+
+void PictureBoxWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    if (mReceiver == nullptr) return;
+    mReceiver->MouseMove(ToButtons(event->buttons()), ToShift(event->modifiers()),
+                         static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+}
+
+void PictureBoxWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (mReceiver == nullptr) return;
+    mReceiver->MouseUp(ToButtons(event->button()), ToShift(event->modifiers()),
+                       static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+}
+
+void PictureBoxWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (mReceiver == nullptr) return;
+    if (event->button() == Qt::LeftButton) mReceiver->DblClick();
+    else MouseDown(*event);
+}
+
+void PictureBoxWidget::focusInEvent(QFocusEvent* event)
+{
+    if (mReceiver != nullptr && event->reason() != Qt::PopupFocusReason) mReceiver->GotFocus();
+}
+
+void PictureBoxWidget::focusOutEvent(QFocusEvent* event)
+{
+    if (mReceiver != nullptr && event->reason() != Qt::PopupFocusReason) mReceiver->LostFocus();
+}
+
+DropTarget::Handler PictureBoxWidget::DragOverHandler()
+{
+    return [this](DragOverEvent& over) {
+        if (mReceiver == nullptr) return;
+        mReceiver->OLEDragOver(over.data, over.lEffect, over.nButton, over.nShift, over.x, over.y, over.nState);
+    };
+}
+
+void PictureBoxWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    mDropTarget.Enter(*event, DragOverHandler());
+}
+
+void PictureBoxWidget::dragMoveEvent(QDragMoveEvent* event)
+{
+    mDropTarget.Move(*event, DragOverHandler());
+}
+
+void PictureBoxWidget::dragLeaveEvent(QDragLeaveEvent* /*event*/)
+{
+    mDropTarget.Leave(DragOverHandler());
+}
+
+void PictureBoxWidget::dropEvent(QDropEvent* event)
+{
+    mDropTarget.Drop(*event, [this](DragOverEvent& drop) {
+        if (mReceiver == nullptr) return;
+        mReceiver->OLEDragDrop(drop.data, drop.lEffect, drop.nButton, drop.nShift, drop.x, drop.y);
+    });
+}
+
+void PictureBoxWidget::Drag()
+{
+    if (mReceiver == nullptr) return;
+    auto data = std::make_shared<SourceDataObject>();
+    // The desktop may ask for announced data as long as it keeps the drag's data, even after this window.
+    data->OnWanted([self = QPointer(this), weakData = std::weak_ptr(data)](std::int16_t nFormat) {
+        if (self && self->mReceiver != nullptr) self->mReceiver->OLESetData(weakData.lock(), nFormat);
+    });
+
+    std::int32_t lAllowed = vxDropEffectNone;
+    mReceiver->OLEStartDrag(data, lAllowed);
+
+    std::int32_t lEffect = vxDropEffectNone;
+    const QPointer self(this);
+    if (lAllowed != vxDropEffectNone && !data->MimeTypes().isEmpty()) {
+        auto* drag = new QDrag(this); // the desktop deletes it when the drag is over
+        drag->setMimeData(new SourceMimeData(data));
+        // The views draw what is dragged themselves.
+        QPixmap nothing(1, 1);
+        nothing.fill(Qt::transparent);
+        drag->setPixmap(nothing);
+        lEffect = ToEffects(drag->exec(ToActions(lAllowed), Qt::CopyAction));
+    }
+    if (self && mReceiver != nullptr) mReceiver->OLECompleteDrag(lEffect);
+}
+
+} // namespace zqbchwcx::qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "adapters/qt/ShapeWidget.h"
+#include "platform/Shape.h"
+
+#include <QPointer>
+
+namespace zqbchwcx::qt {
+
+/// A shape or a frame, as the views see it: `Interface` is Shape or Frame. Its window ends with it.
+template <class Interface>
+class QtShape : public Interface {
+public:
+    explicit QtShape(ShapeWidget& widget) : mWidget(&widget) {}
+    ~QtShape() override { delete mWidget.data(); }
+    QtShape(const QtShape&) = delete;
+    QtShape& operator=(const QtShape&) = delete;
+
+    Rect Bounds() const override
+    {
+        return mWidget ? MakeRect(mWidget->x(), mWidget->y(), mWidget->width(), mWidget->height()) : Rect{};
+    }
+    void Move(const Rect& rect) override
+    {
+        if (mWidget) mWidget->setGeometry(rect.left, rect.top, rect.width(), rect.height());
+    }
+    bool Visible() const override { return mWidget && !mWidget->isHidden(); }
+    void Visible(bool bVisible) override
+    {
+        if (mWidget) mWidget->setVisible(bVisible);
+    }
+
+private:
+    QPointer<ShapeWidget> mWidget;
+};
+
+} // namespace zqbchwcx::qt

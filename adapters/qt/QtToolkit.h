@@ -1,0 +1,34 @@
+#pragma once
+
+#include "adapters/qt/PictureCatalog.h"
+#include "adapters/qt/QtDesktop.h"
+#include "adapters/qt/QtTooltips.h"
+#include "platform/Toolkit.h"
+
+namespace zqbchwcx::qt {
+
+/// The toolkit on Qt Widgets. It needs a QApplication, made before and ended after it. Parents are controls that it
+/// made itself, or the site of one of the adapter's widgets; any other is refused with VxError.
+class QtToolkit : public Toolkit {
+public:
+    PictureBoxPtr CreatePictureBox(UserControl& parent, std::string_view name, const Rect& rect) override;
+    ChildControlPtr CreateChildControl(UserControl& parent, std::string_view name, const Rect& rect) override;
+    FramePtr CreateFrame(UserControl& parent, std::string_view name, const Rect& rect) override;
+    ShapePtr CreateShape(UserControl& parent, std::string_view name, const Rect& rect) override;
+    PopupMenuPtr CreatePopupMenu(UserControl& parent, std::string_view name) override;
+    SysInfoPtr CreateSysInfo(UserControl& parent) override;
+    TimerPtr CreateTimer() override;
+
+    Desktop& GetDesktop() override { return mDesktop; }
+    TooltipService& GetTooltipService() override { return mTooltips; }
+    ImageListFactory& GetImageListFactory() override { return mPictures; }
+    /// The single pictures of the views, for the host's text module.
+    PictureCatalog& Pictures() { return mPictures; }
+
+private:
+    QtDesktop mDesktop;
+    QtTooltips mTooltips;
+    PictureCatalog mPictures;
+};
+
+} // namespace zqbchwcx::qt

@@ -1,0 +1,58 @@
+#include "adapters/qt/QtTooltips.h"
+
+#include "adapters/qt/WindowHandle.h"
+#include "foundation/VxError.h"
+
+#include <QHelpEvent>
+#include <QPointer>
+#include <QTextDocument>
+#include <QToolTip>
+
+namespace zqbchwcx::qt {
+namespace {
+
+QString PlainText(const std::string& text)
+{
+    const QString plain = QString::fromStdString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain;
+}
+
+class Connection : public QObject, public TooltipConnection {
+public:
+    Connection(QWidget& widget, TooltipCallback& callback) : mWidget(&widget), mCallback(callback)
+    {
+        widget.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::ToolTip || watched != mWidget) return false;
+        const auto& help = static_cast<const QHelpEvent&>(*event);
+        const Tooltip tooltip = mCallback.GetTooltip({help.pos().x(), help.pos().y()});
+        if (tooltip.text.empty()) {
+            QToolTip::hideText();
+            event->ignore();
+        } else {
+            const Rect& area = tooltip.area;
+            QToolTip::showText(help.globalPos(), PlainText(tooltip.text), mWidget,
+                               QRect(area.left, area.top, area.width(), area.height()));
+        }
+        return true;
+    }
+
+private:
+    QPointer<QWidget> mWidget;
+    TooltipCallback& mCallback;
+};
+
+} // namespace
+
+TooltipConnectionPtr QtTooltips::Connect(std::intptr_t hWnd, TooltipCallback& callback)
+{
+    QWidget* widget = WidgetOf(hWnd);
+    if (widget == nullptr) throw VxError(vxErrorNothing, "There is no window to show tooltips on");
+    return std::make_unique<Connection>(*widget, callback);
+}
+
+} // namespace zqbchwcx::qt

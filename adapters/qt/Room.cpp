@@ -1,1 +1,0 @@
-#include "adapters/qt/Room.h"

@@ -1,0 +1,35 @@
+#include "adapters/qt/ShapeWidget.h"
+
+#include "adapters/qt/ControlWidget.h"
+#include "adapters/qt/DevicePainting.h"
+#include "adapters/qt/SystemColors.h"
+
+#include <QPainter>
+
+namespace zqbchwcx::qt {
+
+ShapeWidget::ShapeWidget(QWidget& parent, const QString& name, const Rect& rect, OleColor color)
+    : QWidget(&parent), mColor(color)
+{
+    setObjectName(name);
+    setGeometry(rect.left, rect.top, rect.width(), rect.height());
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+QColor ShapeWidget::FillColor() const
+{
+    const QWidget* control = parentWidget();
+    while (control != nullptr && qobject_cast<const ControlWidget*>(control->parentWidget()) != nullptr)
+        control = control->parentWidget();
+    const auto* outermost = qobject_cast<const ControlWidget*>(control);
+    return ReadableOn(mColor, outermost != nullptr ? outermost->BackgroundColor() : palette().color(QPalette::Base));
+}
+
+void ShapeWidget::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter(this).fillRect(rect(), FillColor());
+}
+
+} // namespace zqbchwcx::qt
