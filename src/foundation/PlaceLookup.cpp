@@ -1,0 +1,27 @@
+#include "foundation/PlaceLookup.h"
+
+#include "foundation/Nothing.h"
+#include "foundation/model/Enumerations.h"
+#include "foundation/model/VxHWRack.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "foundation/model/VxHWRacks.h"
+#include "foundation/model/VxHWStation.h"
+
+namespace zqbchwcx {
+
+VxHWRackPtr G_RackByNumber(const VxHWStationPtr& oStation, std::int32_t lRack)
+{
+    return G_Require(oStation, "The station").Racks()->Item(lRack);
+}
+
+VxHWRackPlacePtr G_PlaceByNumber(const VxHWStationPtr& oStation, std::int32_t lRack, std::int32_t lPlace)
+{
+    return G_RackByNumber(oStation, lRack)->Places()->Item(lPlace);
+}
+
+bool G_IsRackPresent(const VxHWStationPtr& oStation, std::int32_t lRack)
+{
+    return G_RackByNumber(oStation, lRack)->State() != vxRackNotPresent;
+}
+
+} // namespace zqbchwcx

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "foundation/PlacePosition.h"
+#include "foundation/model/Fwd.h"
+
+#include <cstdint>
+
+namespace zqbchwcx {
+
+/// The rack with that number. Throws VxError when the station is nothing or has no such rack.
+VxHWRackPtr G_RackByNumber(const VxHWStationPtr& oStation, std::int32_t lRack);
+
+/// The place with that number in that rack. Throws VxError when there is none.
+VxHWRackPlacePtr G_PlaceByNumber(const VxHWStationPtr& oStation, std::int32_t lRack, std::int32_t lPlace);
+
+/// The number of the place that a place or gap position stands for: a gap stands for the place to its left, the gap
+/// before the first place for place 1.
+constexpr std::int32_t G_PlaceNumberAt(const PositionInfo& info)
+{
+    return info.eType == vxPositionGap && info.lNumber == 0 ? 1 : info.lNumber;
+}
+
+/// Whether the rack is there; places and gaps of a rack that is not take no part in anything.
+bool G_IsRackPresent(const VxHWStationPtr& oStation, std::int32_t lRack);
+
+} // namespace zqbchwcx

@@ -1,0 +1,246 @@
+#include "managers/VxHWConfigManager.h"
+
+#include "controllers/SelectionSteps.h"
+#include "controllers/config/VxHWConfigCtrlDD.h"
+#include "controllers/config/VxHWConfigCtrlKey.h"
+#include "controllers/config/VxHWConfigCtrlMouse.h"
+#include "controllers/config/VxHWConfigROCtrlDD.h"
+#include "controllers/config/VxHWConfigROCtrlKey.h"
+#include "controllers/config/VxHWConfigROCtrlMouse.h"
+#include "controllers/config/VxHWConfigROOfflineCtrlKey.h"
+#include "foundation/Nothing.h"
+#include "foundation/PlaceLookup.h"
+#include "foundation/ServiceRoot.h"
+#include "foundation/mdl_ErrorHandler.h"
+#include "foundation/model/VxHWModelFactory.h"
+#include "foundation/model/VxHWModule.h"
+#include "foundation/model/VxHWModules.h"
+#include "foundation/model/VxHWRack.h"
+#include "foundation/model/VxHWRackPlace.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "foundation/model/VxHWStation.h"
+#include "selection/VxHWSelectionHandler.h"
+
+#include <utility>
+
+namespace zqbchwcx {
+namespace {
+
+constexpr std::string_view ClassName = "VxHWConfigManager";
+
+/// Makes a controller and keeps it both by its common and by its input interface.
+template <class Controller, class InputController>
+void Create(IVxHWControllerPtr& oController, std::shared_ptr<InputController>& oiInput)
+{
+    auto oCreated = std::make_shared<Controller>();
+    oController = oCreated;
+    oiInput = std::move(oCreated);
+}
+
+void DisconnectView(IVxHWControl& view)
+{
+    view.VxHWStation(nullptr);
+    view.VxHWSelectionHandler(nullptr);
+    view.VxHWMouseInputController(nullptr);
+    view.VxHWKeyInputController(nullptr);
+    view.VxHWDragDropController(nullptr);
+}
+
+void CreateMissingSubModules(VxHWStation& station, const VxHWModulePtr& oModule)
+{
+    if (oModule->SubModuleCount() >= 1 && oModule->SubModules()->Count() == 0) station.CreateSubModules(oModule);
+}
+
+} // namespace
+
+VxHWConfigManager::VxHWConfigManager() noexcept : mRegistration(ClassName) {}
+
+VxHWConfigManager::~VxHWConfigManager() = default;
+
+VxHWSelectionHandlerPtr VxHWConfigManager::VxHWSelectionHandler() const noexcept
+{
+    return moSelHandler;
+}
+
+void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlPtr oiRackOverview,
+                                   IVxHWControlPtr oiRackTable, VxHWStationPtr oHWStation) noexcept
+{
+    G_Trap(ClassName, "Initialize", [&] {
+        moHWStation = std::move(oHWStation);
+        moiRackOverview = std::move(oiRackOverview);
+        moiRackTable = std::move(oiRackTable);
+        moSelHandler = std::make_shared<zqbchwcx::VxHWSelectionHandler>();
+        CreateControllers();
+        ConnectView(G_Require(moiRackOverview, "The rack overview"), eStationType);
+        ConnectView(G_Require(moiRackTable, "The rack table"), eStationType);
+        moSelHandler->VxHWStation(moHWStation);
+        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
+            oController->VxHWStation(moHWStation);
+            oController->VxHWSelectionHandler(moSelHandler);
+        }
+        Subscribe(moiRackOverview);
+        Subscribe(moiRackTable);
+        moHWStation->StartConfiguration();
+        P_InitSelection();
+    });
+}
+
+void VxHWConfigManager::Terminate() noexcept
+{
+    G_Trap(ClassName, "Terminate", [&] {
+        DisconnectView(G_Require(moiRackOverview, "The rack overview"));
+        DisconnectView(G_Require(moiRackTable, "The rack table"));
+        G_Require(moSelHandler, "The selection handler").VxHWStation(nullptr);
+        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
+            if (!oController) continue; // an initialisation that failed made none
+            oController->VxHWStation(nullptr);
+            oController->VxHWSelectionHandler(nullptr);
+        }
+        if (moCtrlDD) moCtrlDD->RemoveAllSubscribers();
+        moiRackOverview = nullptr;
+        moiRackTable = nullptr;
+        moHWStation = nullptr;
+        moSelHandler = nullptr;
+        moiMouseInput = nullptr;
+        moCtrlMouse = nullptr;
+        moiKeyInput = nullptr;
+        moCtrlKey = nullptr;
+        moiDragDrop = nullptr;
+        moCtrlDD = nullptr;
+    });
+}
+
+bool VxHWConfigManager::SetSingleModuleToCurPos(const VxHWModulePtr& oModule) noexcept
+{
+    bool bPlaced = false;
+    const bool bCompleted = G_Trap(ClassName, "SetSingleModuleToCurPos", [&] {
+        auto& station = G_Require(moHWStation, "The station");
+        station.PrepareModule(oModule);
+        const auto oModules = ModulesToInsert(oModule);
+        const auto oPlaces = G_ServiceRoot().modelFactory->CreateRackPlaces();
+        station.IsDrawable(false);
+        bPlaced = PlaceAtSelectionOrFocus(oModules, oPlaces);
+        station.IsDrawable(true);
+    });
+    return bCompleted && bPlaced;
+}
+
+void VxHWConfigManager::Delete() noexcept
+{
+    Forward("Delete", &IVxHWKeyInputController::Delete);
+}
+
+void VxHWConfigManager::Cut() noexcept
+{
+    Forward("Cut", &IVxHWKeyInputController::Cut);
+}
+
+void VxHWConfigManager::Copy() noexcept
+{
+    Forward("Copy", &IVxHWKeyInputController::Copy);
+}
+
+void VxHWConfigManager::Paste() noexcept
+{
+    Forward("Paste", &IVxHWKeyInputController::Paste);
+}
+
+void VxHWConfigManager::EditModuleParams() noexcept
+{
+    Forward("EditModuleParams", &IVxHWKeyInputController::KeyReturn);
+}
+
+void VxHWConfigManager::CreateControllers()
+{
+    const auto& station = G_Require(moHWStation, "The station");
+    if (station.IsReadOnly()) {
+        Create<VxHWConfigROCtrlMouse>(moCtrlMouse, moiMouseInput);
+        if (station.DisplayMode() != vxDisplayModeOffline) Create<VxHWConfigROCtrlKey>(moCtrlKey, moiKeyInput);
+        else Create<VxHWConfigROOfflineCtrlKey>(moCtrlKey, moiKeyInput);
+        Create<VxHWConfigROCtrlDD>(moCtrlDD, moiDragDrop);
+    } else {
+        Create<VxHWConfigCtrlMouse>(moCtrlMouse, moiMouseInput);
+        Create<VxHWConfigCtrlKey>(moCtrlKey, moiKeyInput);
+        Create<VxHWConfigCtrlDD>(moCtrlDD, moiDragDrop);
+    }
+}
+
+void VxHWConfigManager::ConnectView(IVxHWControl& view, VxEnumStationType eStationType) const
+{
+    view.StationType(eStationType);
+    view.Style(vxStyleHWConfig);
+    view.VxHWStation(moHWStation);
+    view.VxHWSelectionHandler(moSelHandler);
+    view.VxHWMouseInputController(moiMouseInput);
+    view.VxHWKeyInputController(moiKeyInput);
+    view.VxHWDragDropController(moiDragDrop);
+}
+
+void VxHWConfigManager::Subscribe(const IVxHWControlPtr& oiView) const
+{
+    // A view of a host that draws no drop markings has nothing to subscribe.
+    if (const auto oSubscriber = std::dynamic_pointer_cast<IVxHWDragDropCtrlEvents>(oiView))
+        moCtrlDD->AddSubscriber(oSubscriber);
+}
+
+void VxHWConfigManager::P_InitSelection() noexcept
+{
+    G_Trap(ClassName, "P_InitSelection", [&] {
+        const auto oPlaces = G_RackByNumber(moHWStation, 0)->Places();
+        std::int32_t lNumber = 0;
+        for (const auto& oPlace : *oPlaces) {
+            if (oPlace->Usability() == vxPlaceNotUsable) continue;
+            lNumber = oPlace->Number();
+            break;
+        }
+        moSelHandler->ShiftSelPosition(G_PlacePosition(0, lNumber));
+        moSelHandler->FocusPosition(G_PlacePosition(0, lNumber));
+        G_SelPlaces(moSelHandler)->Add(oPlaces->Item(lNumber));
+        moSelHandler->SelChangeComplete();
+    });
+}
+
+VxHWModulesPtr VxHWConfigManager::ModulesToInsert(const VxHWModulePtr& oModule) const
+{
+    if (G_Require(oModule, "The module").PlaceCount() < 1) {
+        CreateMissingSubModules(*moHWStation, oModule);
+        auto oModules = G_ServiceRoot().modelFactory->CreateModules();
+        oModules->Add(oModule, true);
+        return oModules;
+    }
+    auto oModules = moHWStation->ExpandModule(oModule);
+    CreateMissingSubModules(*moHWStation, G_Require(oModules, "The collection of member modules").Item(0));
+    return oModules;
+}
+
+bool VxHWConfigManager::PlaceAtSelectionOrFocus(const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces) const
+{
+    const auto oSelPlaces = G_SelPlaces(moSelHandler);
+    if (oSelPlaces->Count() == 0) return PlaceAt(moSelHandler->FocusPosition(), oModules, oPlaces);
+    bool bPlaced = false;
+    for (const auto& oPlace : *oSelPlaces) {
+        const std::int32_t lPosition = G_PlacePosition(oPlace->Rack()->Number(), oPlace->Number());
+        if (PlaceAt(lPosition, oModules, oPlaces)) bPlaced = true;
+    }
+    return bPlaced;
+}
+
+bool VxHWConfigManager::PlaceAt(std::int32_t lPosition, const VxHWModulesPtr& oModules,
+                                const VxHWRackPlacesPtr& oPlaces) const
+{
+    if (!moHWStation->CanBePlaced(lPosition, oModules, false, nullptr)) return false;
+    moHWStation->PlaceModules(lPosition, oModules, oPlaces);
+    return true;
+}
+
+template <class Command>
+void VxHWConfigManager::Forward(const char* procedureName, Command command) noexcept
+{
+    G_Trap(ClassName, procedureName, [&] {
+        // Kept alive for the call: the command may make the host terminate this manager.
+        const auto oiKeyInput = moiKeyInput;
+        (G_Require(oiKeyInput, "The key controller").*command)();
+    });
+}
+
+} // namespace zqbchwcx
