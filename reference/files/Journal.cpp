@@ -1,0 +1,54 @@
+#include "reference/files/Journal.h"
+
+#include "reference/files/AtomicWrite.h"
+#include "reference/files/JournalName.h"
+#include "reference/files/StationWriter.h"
+#include "reference/json/FileError.h"
+
+#include <system_error>
+
+namespace zqbchwcx::reference {
+namespace {
+
+constexpr int MostJournals = 10'000;
+
+} // namespace
+
+Journal::Journal(const std::string& directory, FileSystem& files) : moFiles(files)
+{
+    try {
+        files.CreateDirectories(directory);
+        for (int number = 0; number < MostJournals; ++number) {
+            const std::string fileName = directory + "/station-" + std::to_string(number) + JournalSuffix;
+            const auto lock = files.TryLock(JournalLockName(fileName));
+            if (!lock) continue;
+            auto held = std::make_unique<OpenFile>(files, *lock);
+            // What a program that died left under this name waits to be recovered.
+            if (files.Status(fileName)) continue;
+            msFileName = fileName;
+            moLock = std::move(held);
+            return;
+        }
+    } catch (const std::system_error& error) {
+        throw FileError(directory, "", "no journal can be kept here: " + error.code().message());
+    }
+    throw FileError(directory, "", "there are too many journals");
+}
+
+Journal::~Journal() = default;
+
+void Journal::Write(const StationData& station, const JournalOrigin& origin)
+{
+    AtomicWrite(moFiles, msFileName, WriteJournalEntry({origin, WriteStation(station, msFileName)}));
+}
+
+void Journal::Discard()
+{
+    try {
+        if (moFiles.Status(msFileName)) moFiles.Remove(msFileName);
+    } catch (const std::system_error& error) {
+        throw FileError(msFileName, "", "cannot be removed: " + error.code().message());
+    }
+}
+
+} // namespace zqbchwcx::reference

@@ -1,0 +1,71 @@
+#include "reference/files/Recovery.h"
+
+#include "reference/files/JournalName.h"
+#include "reference/files/StationReader.h"
+#include "reference/json/FileError.h"
+
+#include <system_error>
+
+namespace zqbchwcx::reference {
+namespace {
+
+constexpr std::size_t LargestJournal = LargestStationFile + (std::size_t{1} << 20);
+
+JournalEntry LoadEntry(FileSystem& files, const std::string& journalFile)
+{
+    return ParseJournalEntry(ReadFile(files, journalFile, LargestJournal), journalFile);
+}
+
+RecoverableJournal Describe(FileSystem& files, const std::string& journalFile)
+{
+    RecoverableJournal journal;
+    journal.journalFile = journalFile;
+    try {
+        if (const auto status = ReadStatus(files, journalFile))
+            journal.writtenNanoseconds = status->modifiedNanoseconds;
+        journal.origin = LoadEntry(files, journalFile).origin;
+    } catch (const FileError& error) {
+        journal.damage = error.what();
+    }
+    return journal;
+}
+
+} // namespace
+
+std::vector<RecoverableJournal> FindRecoverable(const std::string& directory, FileSystem& files)
+{
+    std::vector<RecoverableJournal> found;
+    for (const std::string& name : ListFiles(files, directory)) {
+        if (!name.ends_with(JournalSuffix)) continue;
+        const std::string journalFile = directory + "/" + name;
+        try {
+            const auto lock = files.TryLock(JournalLockName(journalFile));
+            if (!lock) continue;
+            const OpenFile held(files, *lock);
+            found.push_back(Describe(files, journalFile));
+        } catch (const std::system_error& error) {
+            throw FileError(journalFile, "", "cannot be locked: " + error.code().message());
+        }
+    }
+    return found;
+}
+
+RecoveredStation Recover(const std::string& journalFile, const Catalogue& catalogue, FileSystem& files)
+{
+    const JournalEntry entry = LoadEntry(files, journalFile);
+    return {ParseStation(entry.stationText, journalFile, catalogue), entry.origin};
+}
+
+void DropJournal(const std::string& journalFile, FileSystem& files)
+{
+    try {
+        const auto lock = files.TryLock(JournalLockName(journalFile));
+        if (!lock) throw FileError(journalFile, "", "belongs to a program that is running");
+        const OpenFile held(files, *lock);
+        files.Remove(journalFile);
+    } catch (const std::system_error& error) {
+        throw FileError(journalFile, "", "cannot be removed: " + error.code().message());
+    }
+}
+
+} // namespace zqbchwcx::reference
