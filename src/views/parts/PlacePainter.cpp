@@ -1,0 +1,103 @@
+#include "views/parts/PlacePainter.h"
+
+#include "foundation/mdl_ErrorHandler.h"
+#include "foundation/model/VxHWRack.h"
+#include "foundation/model/VxHWRackPlace.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "selection/VxHWSelectionHandler.h"
+#include "views/parts/CentralPictures.h"
+#include "views/parts/CentralPlaceLayout.h"
+#include "views/parts/GroupFrame.h"
+#include "views/parts/NumberText.h"
+
+namespace zqbchwcx {
+namespace {
+
+constexpr Point NumberOffset{3, 33};
+// Hides the number of a place that was usable before; both edges of the 12 × 7 box belong to it.
+constexpr Rect BlankOutBox{3, 36, 16, 44};
+constexpr StatusSymbols::Offsets SymbolOffsets{{3, 3}, {3, 45}, {1, 43}};
+
+constexpr Rect Shifted(const Rect& rect, Point by)
+{
+    return {rect.left + by.x, rect.top + by.y, rect.right + by.x, rect.bottom + by.y};
+}
+
+/// A place picture at the end of the rail closes it.
+std::string PlaceKey(std::string_view key, std::int32_t lPlace)
+{
+    return std::string(key).append(lPlace >= CentralPlaceLayout::PlaceCount ? "_END" : "");
+}
+
+} // namespace
+
+PlacePainter::PlacePainter(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas,
+                           ModulePictures& modulePictures, const SinglePictures& singlePictures)
+    : mContext(context), mLayout(layout), mCanvas(canvas), mModulePictures(modulePictures),
+      mStatusSymbols(context, modulePictures, singlePictures, SymbolOffsets, CentralPictures::ModuleDefault)
+{
+}
+
+void PlacePainter::Draw(const VxHWRackPlacePtr& oPlace, bool bSelected)
+{
+    auto& surface = mCanvas.Box();
+    const Point at = PlaceAt(*oPlace);
+    const Look look = LookOf(oPlace);
+    if (!look.key.empty()) {
+        // The number lies below the picture and shows through its transparent pixels.
+        DrawNumber(surface, look, oPlace->Number(), at);
+        surface.DrawListImage(mModulePictures.List(), look.key, at, bSelected ? DrawStyle::Blended : DrawStyle::Normal);
+    }
+    if (mContext.Station().HasGroupFrame(oPlace)) P_DrawBorder(oPlace);
+    mStatusSymbols.Draw(surface, oPlace, at);
+}
+
+PlacePainter::Look PlacePainter::LookOf(const VxHWRackPlacePtr& oPlace)
+{
+    const std::int32_t lUsability = oPlace->Usability();
+    const std::int32_t lPlace = oPlace->Number();
+    const bool bDrag = mContext.IsDragActive();
+    if (lUsability == vxPlaceNotUsable || lUsability == vxPlaceInactive) {
+        return {PlaceKey(bDrag ? CentralPictures::PlaceInactiveNoDrop : CentralPictures::PlaceInactive, lPlace),
+                lUsability == vxPlaceInactive, true};
+    }
+    if (lUsability != vxPlaceActive) return {};
+
+    const auto oModule = oPlace->Module();
+    if (!oModule->IsEmpty()) return {mModulePictures.KeyOf(*oModule, CentralPictures::ModuleDefault)};
+    if (!bDrag) return {PlaceKey(CentralPictures::PlaceActive, lPlace)};
+    return {PlaceKey(mContext.DragDropCtrl().IsDropPlace(oPlace) ? CentralPictures::PlaceDrop
+                                                                 : CentralPictures::PlaceNoDrop,
+                     lPlace)};
+}
+
+void PlacePainter::DrawNumber(Surface& surface, const Look& look, std::int32_t lNumber, Point placeAt) const
+{
+    if (look.bNumber) {
+        P_DrawNumber(mContext.className, surface, lNumber, {placeAt.x + NumberOffset.x, placeAt.y + NumberOffset.y},
+                     look.bGrayed ? NumberMode::Grayed : NumberMode::Plain);
+    } else {
+        surface.FillBox(Shifted(BlankOutBox, placeAt), mContext.backColor);
+    }
+}
+
+void PlacePainter::P_DrawBorder(const VxHWRackPlacePtr& oPlace) noexcept
+{
+    G_Trap(mContext.className, "P_DrawBorder", [&] {
+        const auto oModule = oPlace->Module();
+        const auto oParent = oModule->IndexInParent() >= 1
+                                 ? oModule->ParentModule()
+                                 : oPlace->Rack()->Places()->Item(oPlace->Number() - 1)->Module()->ParentModule();
+        const bool bSelected = mContext.SelHandler().IsParentModuleSelected(oParent);
+        mCanvas.Box().DrawListImage(mModulePictures.List(), G_GroupFrameKey(*oModule, oParent), PlaceAt(*oPlace),
+                                    bSelected ? DrawStyle::TransparentBlended : DrawStyle::Transparent);
+    });
+}
+
+Point PlacePainter::PlaceAt(const VxHWRackPlace& oPlace) const
+{
+    const Rect rect = mLayout.PlaceRect(oPlace.Rack()->Number(), oPlace.Number());
+    return {rect.left, rect.top};
+}
+
+} // namespace zqbchwcx

@@ -1,0 +1,73 @@
+#include "views/parts/RubberBand.h"
+
+#include "foundation/mdl_ErrorHandler.h"
+#include "foundation/mdl_Main.h"
+#include "foundation/model/VxHWRack.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "foundation/model/VxHWRacks.h"
+#include "selection/VxHWSelectionHandler.h"
+
+#include <algorithm>
+
+namespace zqbchwcx {
+namespace {
+
+Rect RectBetween(Point a, Point b)
+{
+    return {std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x), std::max(a.y, b.y)};
+}
+
+} // namespace
+
+void RubberBand::Start(Point at)
+{
+    mCanvas.Overlay(std::nullopt);
+    moStart = at;
+}
+
+void RubberBand::MoveTo(Point at) noexcept
+{
+    P_RubberBand(Mode::Move, at);
+}
+
+void RubberBand::Finish(Point at) noexcept
+{
+    P_RubberBand(Mode::Finish, at);
+}
+
+void RubberBand::P_RubberBand(Mode eMode, Point at) noexcept
+{
+    G_Trap(mContext.className, "P_RubberBand", [&] {
+        if (!moStart) return;
+        const Point start = *moStart;
+        if (eMode == Mode::Finish) {
+            // Ended first: whatever fails from here on, the next move of the mouse draws no band.
+            moStart.reset();
+            mCanvas.Overlay(std::nullopt);
+        }
+        const Size size = mCanvas.Box().ScaleSize();
+        const Point end{std::clamp(at.x, 0, size.width), std::clamp(at.y, 0, size.height)};
+        if (eMode == Mode::Move) mCanvas.Overlay(RectBetween(start, end));
+        else P_SelectRubberContent(start, end);
+    });
+}
+
+void RubberBand::P_SelectRubberContent(Point start, Point end) noexcept
+{
+    G_Trap(mContext.className, "P_SelectRubberContent", [&] {
+        auto& oSelHandler = mContext.SelHandler();
+        oSelHandler.SelPlaces()->Clear();
+        for (const PositionRange& range : mLayout.RangesBetween(start, end)) {
+            if (IsPresent(G_PositionInfo(range.lFrom).lRack)) oSelHandler.SelectRange(range.lFrom, range.lTo);
+        }
+        oSelHandler.SelChangeComplete();
+    });
+}
+
+bool RubberBand::IsPresent(std::int32_t lRack) const
+{
+    const auto oRacks = mContext.Station().Racks();
+    return lRack < oRacks->Count() && oRacks->Item(lRack)->State() != vxRackNotPresent;
+}
+
+} // namespace zqbchwcx
