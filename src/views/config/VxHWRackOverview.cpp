@@ -44,12 +44,13 @@ VxHWRackOverview::VxHWRackOverview(UserControl& oControl) noexcept
       mFocusMarks(mContext, mLayout, mCanvas, mRackPainter,
                   [this](std::int32_t lRack, std::int32_t lPlace) { RedrawPlace(lRack, lPlace); }),
       mLinks(mContext), mMenu(mContext, mLayout, mCanvas, mTexts), mDragPointer(mContext, mCanvas, mModulePictures),
-      mTooltips(mContext, mLayout, mTexts), mInput(mContext, mLayout, mCanvas, mMenu, mDragPointer, "pic_Main",
-                                                   {[this] {
-                                                        const DrawingBracket drawing(mCanvas);
-                                                        mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
-                                                    },
-                                                    [this] { P_DrawPending(); }})
+      mTooltips(mContext, mLayout, mTexts), mKeyInput(mContext, mMenu, G_CentralCursorTarget),
+      mInput(mContext, mLayout, mCanvas, mMenu, mDragPointer, "pic_Main",
+             {[this] {
+                  const DrawingBracket drawing(mCanvas);
+                  mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
+              },
+              [this] { P_DrawPending(); }})
 {
     mInput.DragThreshold(P_ReadDragDelayFromRegistry(ClassName));
     G_Trap(ClassName, "UserControl_Initialize", [&] { CreateChildren(); });
