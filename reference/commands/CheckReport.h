@@ -1,0 +1,15 @@
+#pragma once
+
+#include "reference/catalogue/Catalogue.h"
+#include "reference/model/rules/Refusal.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zqbchwcx::reference {
+
+/// What a check found, one line each: "FILE: place 4 of rack 0: wrong-place: reason". Empty when nothing was found.
+std::string WriteCheckReport(const std::vector<Refusal>& found, std::string_view fileName, Language language);
+
+} // namespace zqbchwcx::reference

@@ -1,0 +1,28 @@
+#include "reference/commands/Convert.h"
+
+#include "reference/commands/ModuleListText.h"
+#include "reference/files/AtomicWrite.h"
+#include "reference/files/StationReader.h"
+#include "reference/files/StationWriter.h"
+#include "reference/json/FileError.h"
+
+#include <optional>
+
+namespace zqbchwcx::reference {
+
+void ConvertStation(const std::string& sourceFile, const std::string& targetFile, const Catalogue& catalogue,
+                    Language language, FileSystem& files)
+{
+    std::optional<ListFormat> list;
+    if (targetFile.ends_with(".csv")) list = ListFormat::Csv;
+    else if (targetFile.ends_with(".md")) list = ListFormat::Markdown;
+    else if (!targetFile.ends_with(".json"))
+        throw FileError(targetFile, "", "the name must end in .json, .csv or .md to say what is to be written");
+
+    const StationData station = LoadStation(sourceFile, catalogue, files).data;
+    AtomicWrite(files, targetFile,
+                list ? WriteModuleList(ListModules(station, catalogue, language), *list, language)
+                     : WriteStation(station, targetFile));
+}
+
+} // namespace zqbchwcx::reference
