@@ -32,6 +32,7 @@ public:
     /// The elements of an array. Refused when there are more.
     std::vector<JsonCursor> Elements(std::size_t largestCount) const;
 
+    bool IsNull() const { return moValue->is_null(); }
     bool IsObject() const { return moValue->is_object(); }
     bool IsBoolean() const { return moValue->is_boolean(); }
     bool IsInteger() const { return moValue->is_number_integer(); }

@@ -1,0 +1,31 @@
+#include "reference/model/contract/ModelFactory.h"
+
+#include "reference/model/contract/Module.h"
+#include "reference/model/contract/Modules.h"
+#include "reference/model/contract/RackPlaces.h"
+
+#include <memory>
+#include <utility>
+
+namespace zqbchwcx::reference {
+
+ModelFactory::ModelFactory(ModelContextPtr oContext) : moContext(std::move(oContext)) {}
+
+VxHWRackPlacesPtr ModelFactory::CreateRackPlaces()
+{
+    return std::make_shared<RackPlaces>();
+}
+
+VxHWModulesPtr ModelFactory::CreateModules()
+{
+    return std::make_shared<Modules>(moContext);
+}
+
+VxHWModulePtr ModelFactory::CreateModule()
+{
+    auto body = std::make_shared<ModuleBody>();
+    body->context = moContext;
+    return std::make_shared<Module>(std::move(body));
+}
+
+} // namespace zqbchwcx::reference

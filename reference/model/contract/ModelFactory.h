@@ -1,0 +1,21 @@
+#pragma once
+
+#include "foundation/model/VxHWModelFactory.h"
+#include "reference/model/contract/ModelContext.h"
+
+namespace zqbchwcx::reference {
+
+/// Makes the free-standing objects of the model.
+class ModelFactory : public VxHWModelFactory {
+public:
+    explicit ModelFactory(ModelContextPtr oContext);
+
+    VxHWRackPlacesPtr CreateRackPlaces() override;
+    VxHWModulesPtr CreateModules() override;
+    VxHWModulePtr CreateModule() override;
+
+private:
+    ModelContextPtr moContext;
+};
+
+} // namespace zqbchwcx::reference

@@ -1,0 +1,56 @@
+#include "reference/model/contract/Tooltips.h"
+
+#include "foundation/model/Enumerations.h"
+#include "reference/model/editing/ModuleAttributes.h"
+
+#include <string_view>
+
+namespace zqbchwcx::reference {
+namespace {
+
+void AddLine(std::string& text, std::string_view line)
+{
+    if (line.empty()) return;
+    if (!text.empty()) text += "\r\n";
+    text += line;
+}
+
+void AddAddresses(std::string& text, const ModuleData& module, const ModuleType* type, Language language)
+{
+    const LocalizedText inputs{"Inputs ", "Eingänge "};
+    const LocalizedText outputs{"Outputs ", "Ausgänge "};
+    if (module.inputAddress) AddLine(text, inputs.In(language) + AddressText(AddressArea::Input, module, type));
+    if (module.outputAddress) AddLine(text, outputs.In(language) + AddressText(AddressArea::Output, module, type));
+}
+
+const std::string& NameOf(const ModuleData& module, const ModuleType* type, Language language)
+{
+    if (!module.name.empty()) return module.name;
+    return type ? type->name.In(language) : module.orderNumber;
+}
+
+} // namespace
+
+LocalizedText EmptyPlaceText(const PlaceData& data, PlaceRef place)
+{
+    const std::string number = std::to_string(place.place);
+    if (data.usability == vxPlaceActive) return {"Place " + number + ": free", "Steckplatz " + number + ": frei"};
+    if (data.usability == vxPlaceInactive)
+        return {"Place " + number + ": inactive", "Steckplatz " + number + ": nicht aktiv"};
+    return {"Place " + number + ": not usable", "Steckplatz " + number + ": nicht nutzbar"};
+}
+
+std::string ModuleText(const ModuleData& module, const Catalogue& catalogue, Language language)
+{
+    const ModuleType* type = catalogue.Find(module.orderNumber);
+    std::string text = NameOf(module, type, language);
+    if (text != module.orderNumber) AddLine(text, module.orderNumber);
+    if (type) AddLine(text, type->description.In(language));
+    AddAddresses(text, module, type, language);
+    for (const ModuleData& subModule : module.subModules)
+        AddLine(text, "- " + NameOf(subModule, catalogue.Find(subModule.orderNumber), language));
+    AddLine(text, module.comment);
+    return text;
+}
+
+} // namespace zqbchwcx::reference

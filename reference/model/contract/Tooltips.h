@@ -1,0 +1,18 @@
+#pragma once
+
+#include "reference/catalogue/Catalogue.h"
+#include "reference/model/PlaceRef.h"
+#include "reference/model/StationData.h"
+
+#include <string>
+
+namespace zqbchwcx::reference {
+
+/// What an empty place is good for: active, inactive or not usable.
+LocalizedText EmptyPlaceText(const PlaceData& data, PlaceRef place);
+
+/// Name, order number, description, addresses, sub-modules and comment, each on a line of its own that ends in a
+/// carriage return and a line feed, the last one without.
+std::string ModuleText(const ModuleData& module, const Catalogue& catalogue, Language language);
+
+} // namespace zqbchwcx::reference
