@@ -4,6 +4,7 @@
 #include "adapters/qt/PictureBoxWidget.h"
 #include "adapters/qt/ShapeWidget.h"
 #include "adapters/qt/SystemColors.h"
+#include "adapters/qt/UiFont.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -59,7 +60,7 @@ void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& contr
 } // namespace
 
 ControlWidget::ControlWidget(QWidget* parent, Backdrop backdrop)
-    : QWidget(parent), mBackdrop(backdrop), mRatio(devicePixelRatioF())
+    : QWidget(parent), mBackdrop(backdrop), mFont(DefaultUiFont()), mRatio(devicePixelRatioF())
 {
     setContextMenuPolicy(Qt::PreventContextMenu);
     Receiver(nullptr);
@@ -75,12 +76,12 @@ void ControlWidget::Receiver(UserControlEvents* receiver)
 void ControlWidget::TextFont(const QFont& font)
 {
     mFont = font;
-    for (auto* box : findChildren<PictureBoxWidget*>({}, Qt::FindDirectChildrenOnly)) box->Picture().Font(font);
+    for (auto* box : findChildren<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly)) box->Picture().Font(font);
 }
 
 QColor ControlWidget::BackgroundColor() const
 {
-    auto* box = findChild<PictureBoxWidget*>({}, Qt::FindDirectChildrenOnly);
+    auto* box = findChild<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly);
     return box != nullptr ? box->Picture().Background() : ToQColor(vxColorWindowBackground).value_or(Qt::white);
 }
 
@@ -109,7 +110,8 @@ void ControlWidget::SetRatio(double ratio)
 {
     if (ratio == mRatio) return;
     mRatio = ratio;
-    for (auto* box : findChildren<PictureBoxWidget*>({}, Qt::FindDirectChildrenOnly)) box->Picture().Ratio(ratio);
+    for (auto* box : findChildren<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        box->Picture().Ratio(ratio);
     emit AppearanceChanged();
 }
 

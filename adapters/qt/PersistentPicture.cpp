@@ -3,6 +3,7 @@
 #include "adapters/qt/QtImage.h"
 #include "adapters/qt/QtImageList.h"
 #include "adapters/qt/SystemColors.h"
+#include "adapters/qt/UiFont.h"
 
 #include <algorithm>
 #include <utility>
@@ -53,7 +54,7 @@ Rect Normalized(const Rect& rect)
 } // namespace
 
 PersistentPicture::PersistentPicture(Size size, double ratio)
-    : mSize(size), mGrid(ratio), mBackground(Translate(mBackColor))
+    : mSize(size), mGrid(ratio), mBackground(Translate(mBackColor)), mFont(DefaultUiFont())
 {
     mImage = NewImage(mGrid, mSize, mBackground);
     mTexts.Font(mFont, ratio);
@@ -122,8 +123,9 @@ void PersistentPicture::DrawCenteredText(std::string_view text, const Rect& box,
     if (text.empty()) return;
     const TextCell& cell = mTexts.Cell(text, weight, Translate(color), mBackground);
     const QRect device = mGrid.Device(box);
-    const QPoint middle(device.left() + (device.width() + 1) / 2, device.top() + device.height() / 2);
-    const QRect target = QRect(middle + cell.offset, cell.image.size());
+    const QPoint corner(device.left() + (device.width() - cell.image.width()) / 2,
+                        device.top() + device.height() / 2 - cell.middle);
+    const QRect target(corner, cell.image.size());
     const QRect visible = target.intersected(device);
     Painter().drawImage(visible.topLeft(), cell.image, visible.translated(-target.topLeft()));
     Changed(visible);

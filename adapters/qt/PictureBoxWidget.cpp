@@ -52,11 +52,6 @@ void PictureBoxWidget::ShowChanges()
     update(logical.toAlignedRect());
 }
 
-void PictureBoxWidget::OverrideRatio(double ratio)
-{
-    mPicture.Ratio(ratio > 0 ? ratio : devicePixelRatioF());
-}
-
 void PictureBoxWidget::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
@@ -151,20 +146,20 @@ void PictureBoxWidget::dropEvent(QDropEvent* event)
 void PictureBoxWidget::Drag()
 {
     if (mReceiver == nullptr) return;
-    auto data = std::make_shared<SourceDataObject>();
+    auto offered = std::make_shared<SourceDataObject>();
     // The desktop may ask for announced data as long as it keeps the drag's data, even after this window.
-    data->OnWanted([self = QPointer(this), weakData = std::weak_ptr(data)](std::int16_t nFormat) {
+    offered->OnWanted([self = QPointer(this), weakData = std::weak_ptr(offered)](std::int16_t nFormat) {
         if (self && self->mReceiver != nullptr) self->mReceiver->OLESetData(weakData.lock(), nFormat);
     });
 
     std::int32_t lAllowed = vxDropEffectNone;
-    mReceiver->OLEStartDrag(data, lAllowed);
+    mReceiver->OLEStartDrag(offered, lAllowed);
 
     std::int32_t lEffect = vxDropEffectNone;
     const QPointer self(this);
-    if (lAllowed != vxDropEffectNone && !data->MimeTypes().isEmpty()) {
+    if (lAllowed != vxDropEffectNone && !offered->MimeTypes().isEmpty()) {
         auto* drag = new QDrag(this); // the desktop deletes it when the drag is over
-        drag->setMimeData(new SourceMimeData(data));
+        drag->setMimeData(new SourceMimeData(offered));
         // The views draw what is dragged themselves.
         QPixmap nothing(1, 1);
         nothing.fill(Qt::transparent);

@@ -21,8 +21,6 @@ public:
     void ShowChanges();
     /// Starts a drag with this window as its source; returns when it is over.
     void Drag();
-    /// Draws at another ratio than the window's, for pictures of it; 0 goes back to the window's own.
-    void OverrideRatio(double ratio);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

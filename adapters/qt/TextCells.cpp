@@ -45,7 +45,7 @@ TextCell TextCells::Draw(const QString& text, FontWeight weight, const QColor& c
     TextCell cell;
     cell.image = QImage(cellWidth, std::max(ink.height(), 1), QImage::Format_RGB32);
     cell.image.fill(background);
-    cell.offset = {-cellWidth / 2, -metrics.height() / 2 + metrics.ascent() + ink.top()};
+    cell.middle = -ink.top() - regular.capHeight() / 2;
     QPainter painter(&cell.image);
     painter.setFont(weight == FontWeight::Bold ? mBold : mRegular);
     painter.setPen(color);

@@ -17,8 +17,8 @@ namespace zqbchwcx::qt {
 /// One line of text in an opaque cell, in device pixels.
 struct TextCell {
     QImage image;
-    /// Where the cell's top-left corner lies when the middle of the text is at the origin.
-    QPoint offset;
+    /// The row halfway up a capital letter or digit.
+    int middle = 0;
 };
 
 /// Texts as they are drawn: opaque cells, remembered. The cell of a text has the same size in both weights, so that

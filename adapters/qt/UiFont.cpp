@@ -47,6 +47,12 @@ QFont UiFont(std::string_view family, double points)
     return font;
 }
 
+QFont DefaultUiFont()
+{
+    constexpr double Points = 8.25;
+    return UiFont({}, Points);
+}
+
 QFont ScaledFont(const QFont& font, double ratio)
 {
     QFont scaled = font;

@@ -10,6 +10,9 @@ namespace zqbchwcx::qt {
 /// is not installed (the Tahoma of the package fonts-wine is found although no font list has it).
 QFont UiFont(std::string_view family, double points);
 
+/// The desktop's font in the size of the views, for text of a control that was given no font.
+QFont DefaultUiFont();
+
 /// The same font for a device of the ratio, where a logical pixel is that many device pixels.
 QFont ScaledFont(const QFont& font, double ratio);
 

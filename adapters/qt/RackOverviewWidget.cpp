@@ -1,0 +1,99 @@
+#include "adapters/qt/RackOverviewWidget.h"
+
+#include "adapters/qt/ControlWidget.h"
+#include "adapters/qt/QtUserControl.h"
+#include "views/config/VxHWRackOverview.h"
+
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+
+namespace zqbchwcx::qt {
+namespace {
+
+constexpr QSize SmallestSize(3525 / vxTwipsPerPixel, 5880 / vxTwipsPerPixel);
+/// The picture box and, right of it, the way of the arrow with its head.
+constexpr QSize ComfortableSize(242 + 28, 392);
+
+constexpr double SmallestScale = 0.5;
+constexpr double LargestScale = 8;
+
+/// The view with the site that it lives in, which must not end before it.
+struct HostedView {
+    explicit HostedView(ControlWidget& window) : site(window), view(site) {}
+
+    QtUserControl site;
+    VxHWRackOverview view;
+};
+
+std::shared_ptr<VxHWRackOverview> MakeView(ControlWidget& window)
+{
+    auto hosted = std::make_shared<HostedView>(window);
+    auto* view = &hosted->view;
+    return {std::move(hosted), view};
+}
+
+} // namespace
+
+struct RackOverviewWidget::Members {
+    explicit Members(RackOverviewWidget& self)
+        : window(new ControlWidget(&self, ControlWidget::Backdrop::Own)), view(MakeView(*window))
+    {
+    }
+
+    ControlWidget* window;
+    std::shared_ptr<VxHWRackOverview> view;
+    EventConnection contentChange;
+    EventConnection selChange;
+    EventConnection focusChange;
+};
+
+RackOverviewWidget::RackOverviewWidget(QWidget* parent) : QWidget(parent), m(std::make_unique<Members>(*this))
+{
+    setObjectName(QStringLiteral("rackOverview"));
+    setAccessibleName(tr("Rack overview"));
+    setAccessibleDescription(tr("Racks of the station with their places and modules; the arrow keys move the focus"));
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMinimumSize(SmallestSize);
+    setFocusProxy(m->window);
+    m->window->resize(size());
+    m->window->show();
+    m->contentChange = m->view->ContentChange.Connect([this] { emit contentChanged(); });
+    m->selChange = m->view->SelChange.Connect([this] { emit selChanged(); });
+    m->focusChange = m->view->FocusChange.Connect([this] { emit focusChanged(); });
+}
+
+RackOverviewWidget::~RackOverviewWidget() = default;
+
+std::shared_ptr<VxHWRackOverview> RackOverviewWidget::Control() const
+{
+    return m->view;
+}
+
+QImage RackOverviewWidget::RenderToImage(double scale)
+{
+    // Drawing anew is no news for the host.
+    const QSignalBlocker silence(this);
+    m->window->OverrideRatio(std::clamp(scale, SmallestScale, LargestScale));
+    QImage image = m->window->ToImage();
+    m->window->OverrideRatio(0);
+    return image;
+}
+
+QSize RackOverviewWidget::sizeHint() const
+{
+    return ComfortableSize;
+}
+
+QSize RackOverviewWidget::minimumSizeHint() const
+{
+    return SmallestSize;
+}
+
+void RackOverviewWidget::resizeEvent(QResizeEvent* /*event*/)
+{
+    m->window->resize(size());
+}
+
+} // namespace zqbchwcx::qt
