@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/Shape.h"
+#include "tests/support/services/CallLog.h"
+
+#include <utility>
+
+namespace zqbchwcx::testing {
+
+class RecordingShape : public Frame {
+public:
+    RecordingShape(CallLogPtr log, const Rect& rect) : moLog(std::move(log)), mBounds(rect) {}
+
+    Rect Bounds() const override { return mBounds; }
+    void Move(const Rect& rect) override
+    {
+        moLog->Call("Shape.Move");
+        mBounds = rect;
+    }
+    bool Visible() const override { return mbVisible; }
+    void Visible(bool bVisible) override
+    {
+        moLog->Call("Shape.Visible");
+        mbVisible = bVisible;
+        ++visibleWrites;
+    }
+
+    std::int32_t visibleWrites = 0;
+
+private:
+    CallLogPtr moLog;
+    Rect mBounds;
+    bool mbVisible = true;
+};
+
+} // namespace zqbchwcx::testing

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "platform/Toolkit.h"
+#include "tests/support/services/FakeClock.h"
+#include "tests/support/services/FakeDesktop.h"
+#include "tests/support/toolkit/RecordingControl.h"
+#include "tests/support/toolkit/RecordingImageListFactory.h"
+#include "tests/support/toolkit/RecordingPictureBox.h"
+#include "tests/support/toolkit/RecordingPopupMenu.h"
+#include "tests/support/toolkit/RecordingShape.h"
+#include "tests/support/toolkit/RecordingTooltips.h"
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace zqbchwcx::testing {
+
+/// A windowing system without windows: what views draw is recorded, what a user does is done by the test. The
+/// children that it made are found by name while their view lives.
+class RecordingToolkit : public Toolkit {
+public:
+    explicit RecordingToolkit(const CallLogPtr& log)
+        : clock(log), desktop(log), imageLists(log), tooltips(log), moLog(log)
+    {
+    }
+
+    PictureBoxPtr CreatePictureBox(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingPictureBox>(pictureBoxes[std::string(name)], rect);
+    }
+    ChildControlPtr CreateChildControl(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingControl>(controls[std::string(name)], rect);
+    }
+    FramePtr CreateFrame(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingShape>(shapes[std::string(name)].emplace_back(), rect);
+    }
+    ShapePtr CreateShape(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingShape>(shapes[std::string(name)].emplace_back(), rect);
+    }
+    PopupMenuPtr CreatePopupMenu(UserControl&, std::string_view name) override
+    {
+        return Made<RecordingPopupMenu>(menus[std::string(name)]);
+    }
+    SysInfoPtr CreateSysInfo(UserControl&) override
+    {
+        moLog->Call("Toolkit.CreateSysInfo");
+        return std::make_unique<ForwardingSysInfo>(sysColorsChanged);
+    }
+    TimerPtr CreateTimer() override { return clock.CreateTimer(); }
+    Desktop& GetDesktop() override { return desktop; }
+    TooltipService& GetTooltipService() override { return tooltips; }
+    ImageListFactory& GetImageListFactory() override { return imageLists; }
+
+    FakeClock clock;
+    FakeDesktop desktop;
+    RecordingImageListFactory imageLists;
+    RecordingTooltips tooltips;
+    std::map<std::string, RecordingPictureBox*> pictureBoxes;
+    std::map<std::string, RecordingControl*> controls;
+    std::map<std::string, RecordingPopupMenu*> menus;
+    std::map<std::string, std::vector<RecordingShape*>> shapes;
+    std::function<void()> sysColorsChanged; ///< the test calls it
+
+private:
+    class ForwardingSysInfo : public SysInfo {
+    public:
+        explicit ForwardingSysInfo(std::function<void()>& handler) : mHandler(handler) {}
+        void OnSysColorsChanged(std::function<void()> handler) override { mHandler = std::move(handler); }
+
+    private:
+        std::function<void()>& mHandler;
+    };
+
+    template <class Child, class... Args>
+    std::unique_ptr<Child> Made(Child*& found, Args&&... args)
+    {
+        moLog->Call("Toolkit.Create");
+        auto child = std::make_unique<Child>(moLog, std::forward<Args>(args)...);
+        found = child.get();
+        return child;
+    }
+
+    CallLogPtr moLog;
+};
+
+} // namespace zqbchwcx::testing
