@@ -153,13 +153,19 @@ bool VxHWSelectionHandler::IsParentModuleSelected(const VxHWModulePtr& oParentMo
 bool VxHWSelectionHandler::IsModuleInSelection() const noexcept
 {
     bool bFound = false;
-    G_Trap(ClassName, "IsModuleInSelection", [&] {
+    FindModuleInSelection(bFound);
+    return bFound;
+}
+
+bool VxHWSelectionHandler::FindModuleInSelection(bool& bFound) const noexcept
+{
+    bFound = false;
+    return G_Trap(ClassName, "IsModuleInSelection", [&] {
         for (const auto& oPlace : G_Require(moSelPlaces, "The selection")) {
             bFound = HasModule(oPlace);
             if (bFound) return;
         }
     });
-    return bFound;
 }
 
 bool VxHWSelectionHandler::IsModuleInFocus() const noexcept
@@ -176,7 +182,14 @@ bool VxHWSelectionHandler::IsModuleInFocus() const noexcept
 VxHWModulesPtr VxHWSelectionHandler::GetSelectedModules() const noexcept
 {
     VxHWModulesPtr oModules;
-    G_Trap(ClassName, "GetSelectedModules", [&] {
+    CollectSelectedModules(oModules);
+    return oModules;
+}
+
+bool VxHWSelectionHandler::CollectSelectedModules(VxHWModulesPtr& oModules) const noexcept
+{
+    oModules = nullptr;
+    return G_Trap(ClassName, "GetSelectedModules", [&] {
         auto& factory = *G_ServiceRoot().modelFactory;
         oModules = factory.CreateModules();
         const auto oGathered = factory.CreateRackPlaces();
@@ -200,14 +213,16 @@ VxHWModulesPtr VxHWSelectionHandler::GetSelectedModules() const noexcept
             oModules->Add(bOwn ? oModule : factory.CreateModule(), true);
         }
     });
-    return oModules;
 }
 
 bool VxHWSelectionHandler::SetSelectionToClipboard() const noexcept
 {
+    bool bModules = false;
+    if (!FindModuleInSelection(bModules)) return false;
+    if (!bModules) return true;
+    VxHWModulesPtr oModules;
+    if (!CollectSelectedModules(oModules)) return false;
     return G_Trap(ClassName, "SetSelectionToClipboard", [&] {
-        if (!IsModuleInSelection()) return;
-        const auto oModules = GetSelectedModules();
         const auto oExchange = G_ServiceRoot().objectFactory->CreateExchangeData();
         oExchange->StartEmpty();
         G_Require(moStation, "The station").WriteModulesToExchange(oModules, oExchange);

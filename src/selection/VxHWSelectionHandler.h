@@ -48,6 +48,9 @@ public:
     /// Leaves the clipboard alone when no module is selected. False when an error kept the modules from the clipboard.
     bool SetSelectionToClipboard() const noexcept;
 
+    /// Only for the controllers of this library: like `GetSelectedModules`, but tells whether the collection is
+    /// complete, so that nobody takes a part of the modules for all of them.
+    bool CollectSelectedModules(VxHWModulesPtr& oModules) const noexcept;
     /// Only for the managers of this library: the station whose places are selected; null for none.
     VxHWStationPtr VxHWStation() const noexcept;
     void VxHWStation(VxHWStationPtr oStation) noexcept;
@@ -57,6 +60,9 @@ public:
     Event<std::int32_t> FocusChange;
 
 private:
+    /// Whether the answer could be found; it is False until then.
+    bool FindModuleInSelection(bool& bFound) const noexcept;
+
     InstanceRegistration mRegistration;
     VxHWRackPlacesPtr moSelPlaces;
     Array2D<bool> mabSelPlaces;

@@ -91,10 +91,11 @@ Array2D<std::int32_t> VxHWConfigCtrlDD::PossibleDropPlaces() const noexcept
 void VxHWConfigCtrlDD::OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lAllowedEffects) noexcept
 {
     G_Trap(className(), "IVxHWDragDropController_OLEStartDrag", [&] {
-        const auto oModules = SelHandler()->GetSelectedModules();
+        VxHWModulesPtr oModules;
+        // A drag of some of the modules could end with all of them being taken away here.
+        if (!SelHandler()->CollectSelectedModules(oModules)) return;
         auto& data = G_Require(oData, "The data object");
-        const ByteArray text = G_EncodeConfigText(G_Require(oModules, "The collection of modules").ConfigText());
-        data.SetData(ConfigTextFormat(), text);
+        data.SetData(ConfigTextFormat(), G_EncodeConfigText(oModules->ConfigText()));
         data.AnnounceFormat(CreateExchangeData()->FormatId());
         lAllowedEffects = vxDropEffectCopyOrMove;
         mbDragSource = true;
@@ -106,7 +107,9 @@ void VxHWConfigCtrlDD::OLESetData(const DataObjectPtr& oData, std::int16_t nData
     G_Trap(className(), "IVxHWDragDropController_OLESetData", [&] {
         const auto oExchange = CreateExchangeData();
         if (nDataFormat != oExchange->FormatId()) return;
-        Station()->WriteModulesToExchange(SelHandler()->GetSelectedModules(), oExchange);
+        VxHWModulesPtr oModules;
+        if (!SelHandler()->CollectSelectedModules(oModules)) return;
+        Station()->WriteModulesToExchange(oModules, oExchange);
         G_Require(oData, "The data object").SetData(nDataFormat, oExchange->Data());
     });
 }

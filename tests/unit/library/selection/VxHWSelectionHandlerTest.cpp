@@ -1,0 +1,170 @@
+#include "tests/unit/library/StationFixture.h"
+
+#include <optional>
+
+namespace zqbchwcx::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class SelectionHandler : public StationFixture {
+protected:
+    SelectionHandler()
+    {
+        mSelChange = handler->SelChange.Connect([this] { mcolEvents.push_back("SelChange"); });
+        mFocusChange = handler->FocusChange.Connect(
+            [this](std::int32_t lPrevious) { mcolEvents.push_back("FocusChange " + std::to_string(lPrevious)); });
+    }
+    std::vector<std::string> TakeEvents() { return std::exchange(mcolEvents, {}); }
+    std::string SelectedOrderNumbers() const
+    {
+        std::string text;
+        const auto oModules = handler->GetSelectedModules();
+        for (const auto& oModule : *oModules) text += (oModule->IsEmpty() ? "-" : oModule->OrderNumber()) + " ";
+        return text;
+    }
+
+private:
+    std::vector<std::string> mcolEvents;
+    EventConnection mSelChange;
+    EventConnection mFocusChange;
+};
+
+TEST_F(SelectionHandler, FocusChangeTellsThePreviousFocusOnce)
+{
+    EXPECT_EQ(handler->FocusPosition(), -1);
+    EXPECT_EQ(handler->ShiftSelPosition(), -1);
+    handler->FocusPosition(4);
+    handler->FocusPosition(4);
+    handler->ShiftSelPosition(9);
+    handler->FocusPosition(1003);
+    EXPECT_THAT(TakeEvents(), ElementsAre("FocusChange -1", "FocusChange 4"));
+}
+
+TEST_F(SelectionHandler, SelChangeCompleteFillsTheArrayThatIsGivenAsACopy)
+{
+    Select({{0, 1}, {1, 11}});
+    Array2D<bool> array = handler->SelPlacesArray();
+    EXPECT_EQ(array.RowFirst(), 0);
+    EXPECT_EQ(array.RowLast(), 1);
+    EXPECT_EQ(array.ColumnFirst(), 1);
+    EXPECT_EQ(array.ColumnLast(), 11);
+    EXPECT_TRUE(array.Get(0, 1));
+    EXPECT_TRUE(array.Get(1, 11));
+    EXPECT_FALSE(array.Get(1, 1));
+    array.Set(0, 2, true);
+    SelPlaces().Add(station->Place(0, 3));
+    EXPECT_FALSE(handler->SelPlacesArray().Get(0, 2)) << "a copy";
+    EXPECT_FALSE(handler->SelPlacesArray().Get(0, 3)) << "not completed yet";
+    Select({{0, 3}});
+    EXPECT_FALSE(handler->SelPlacesArray().Get(0, 1));
+    EXPECT_TRUE(handler->SelPlacesArray().Get(0, 3));
+    handler->VxHWStation(nullptr);
+    EXPECT_TRUE(handler->SelPlacesArray().IsEmpty());
+}
+
+TEST_F(SelectionHandler, SelChangeCompleteRaisesTheFocusAgainWhenNothingIsSelectedAndTheFocusIsOnNoPlace)
+{
+    handler->SelChangeComplete();
+    EXPECT_THAT(TakeEvents(), ElementsAre("SelChange", "FocusChange -1"));
+    handler->FocusPosition(5);
+    TakeEvents();
+    handler->SelChangeComplete();
+    EXPECT_THAT(TakeEvents(), ElementsAre("SelChange", "FocusChange -1"));
+    EXPECT_EQ(handler->FocusPosition(), 5);
+    Select({{0, 1}});
+    EXPECT_THAT(TakeEvents(), ElementsAre("SelChange")) << "something is selected";
+    handler->FocusPosition(4);
+    TakeEvents();
+    Select({});
+    EXPECT_THAT(TakeEvents(), ElementsAre("SelChange")) << "the focus is on a place";
+}
+
+TEST_F(SelectionHandler, SelectRangeAddsPlacesInWalkingOrderWithinOneRack)
+{
+    handler->SelectRange(1008, 1002);
+    EXPECT_EQ(Selection(), "1/4 1/3 1/2 1/1");
+    Select({{0, 3}});
+    handler->SelectRange(3, 9);
+    EXPECT_EQ(Selection(), "0/3 0/2 0/4") << "gaps are skipped, selected places stay where they are";
+    handler->SelectRange(4, 1004);
+    EXPECT_EQ(Selection(), "0/3 0/2 0/4");
+    Select({});
+    handler->SelectRange(0, 4);
+    EXPECT_EQ(Selection(), "0/1 0/2") << "the rack itself is no place";
+}
+
+TEST_F(SelectionHandler, UnusablePlacesAreSkippedInDistributedStationsOnly)
+{
+    station->Place(0, 2)->usability = vxPlaceNotUsable;
+    station->Place(0, 3)->usability = vxPlaceInactive;
+    for (const std::int32_t lKind : {vxStationKindCentral, vxStationKindDistributed1, vxStationKindDistributed2}) {
+        station->stationKind = lKind;
+        const bool bCentral = lKind == vxStationKindCentral;
+        Select({});
+        handler->SelectRange(2, 6);
+        EXPECT_EQ(Selection(), bCentral ? "0/1 0/2 0/3" : "0/1 0/3");
+        handler->SelectRack(station->Rack(0));
+        EXPECT_EQ(SelPlaces().places.size(), bCentral ? 11U : 10U);
+    }
+}
+
+TEST_F(SelectionHandler, TellsWhetherModulesAreSelectedOrFocused)
+{
+    station->Put(0, 2, "A");
+    const auto wide = station->Put(1, 3, "W", 3);
+    EXPECT_FALSE(handler->IsModuleInSelection());
+    Select({{0, 1}});
+    EXPECT_FALSE(handler->IsModuleInSelection());
+    Select({{0, 1}, {0, 2}});
+    EXPECT_TRUE(handler->IsModuleInSelection());
+    EXPECT_FALSE(handler->IsParentModuleSelected(wide));
+    Select({{1, 5}});
+    EXPECT_TRUE(handler->IsParentModuleSelected(wide));
+    for (const auto& [lFocus, bModule] : std::vector<std::pair<std::int32_t, bool>>{
+             {4, true}, {2, false}, {5, false}, {1000, false}, {-1, false}, {1006, true}}) {
+        handler->FocusPosition(lFocus);
+        EXPECT_EQ(handler->IsModuleInFocus(), bModule) << lFocus;
+    }
+}
+
+TEST_F(SelectionHandler, SelectedModulesAreWidenedToWholeModules)
+{
+    station->Put(0, 2, "A");
+    station->Put(0, 4, "W", 3);
+    EXPECT_EQ(SelectedOrderNumbers(), "");
+    Select({{0, 1}});
+    EXPECT_EQ(SelectedOrderNumbers(), "- ");
+    Select({{0, 5}, {0, 1}, {0, 2}, {0, 6}});
+    EXPECT_EQ(SelectedOrderNumbers(), "W - A W W ");
+    const auto oModules = handler->GetSelectedModules();
+    const auto lIndex = [&](std::int32_t lItem) { return oModules->Item(lItem)->IndexInParent(); };
+    EXPECT_THAT((std::vector{lIndex(0), lIndex(3), lIndex(4)}), ElementsAre(2, 3, 1));
+}
+
+TEST_F(SelectionHandler, PutsModulesOnTheClipboardButNoEmptySelection)
+{
+    station->Put(0, 2, "A");
+    Select({{0, 1}});
+    EXPECT_TRUE(handler->SetSelectionToClipboard());
+    EXPECT_THAT(TakeLines(), IsEmpty());
+    Select({{0, 1}, {0, 2}});
+    EXPECT_TRUE(handler->SetSelectionToClipboard());
+    EXPECT_THAT(TakeLines(), ElementsAre("WriteModulesToExchange [- A]", "PutOnClipboard"));
+}
+
+TEST_F(SelectionHandler, ReportsUseWithoutAStationAndGoesOn)
+{
+    handler->VxHWStation(nullptr);
+    handler->SelChangeComplete();
+    handler->SelectRack(station->Rack(0));
+    handler->SelectRange(2, 4);
+    EXPECT_THAT(TakeEvents(), IsEmpty());
+    EXPECT_THAT(TakeReports(),
+                ElementsAre("zqbchwcx.VxHWSelectionHandler.SelChangeComplete",
+                            "zqbchwcx.VxHWSelectionHandler.SelectRack", "zqbchwcx.VxHWSelectionHandler.SelectRange"));
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
