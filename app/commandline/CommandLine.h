@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference/catalogue/Catalogue.h"
+#include "reference/commands/ModuleListText.h"
 
 #include <optional>
 #include <string>
@@ -9,11 +10,10 @@
 namespace quillon_ed {
 
 using zqbchwcx::reference::Language;
+using zqbchwcx::reference::ListFormat;
 using zqbchwcx::reference::LocalizedText;
 
 enum class Command { Open, Render, Check, List, Convert };
-
-enum class TableFormat { Plain, Csv, Json, Markdown };
 
 /// What the user asked for on the command line.
 struct CommandLine {
@@ -22,11 +22,11 @@ struct CommandLine {
     bool version = false; ///< show the version instead of running the command
     /// Open, Check: any number of stations; Render, List: one; Convert: the file to read and the file to write.
     std::vector<std::string> files;
-    std::string output;                ///< Render, List: the file to write; List: empty for standard output
-    std::string view = "overview";     ///< Render
-    double scale = 1;                  ///< Render: device pixels to a logical pixel
-    std::optional<TableFormat> format; ///< List
-    std::optional<Language> language;  ///< none: the user's setting, or the desktop's language
+    std::string output;               ///< Render, List: the file to write; List: empty for standard output
+    std::string view = "overview";    ///< Render
+    double scale = 1;                 ///< Render: device pixels to a logical pixel
+    std::optional<ListFormat> format; ///< List
+    std::optional<Language> language; ///< none: the user's setting, or the desktop's language
 };
 
 /// Exit codes of the program.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <initializer_list>
 #include <string_view>
 
 namespace quillon_ed {
@@ -71,7 +72,7 @@ Reason setLanguage(CommandLine& line, const std::string& value)
     return {};
 }
 
-Reason setFormat(CommandLine& line, TableFormat format)
+Reason setFormat(CommandLine& line, ListFormat format)
 {
     if (line.format && *line.format != format)
         return LocalizedText{"only one of --csv, --json and --md can be given",
@@ -108,11 +109,11 @@ constexpr std::array OptionRules{
     OptionRule{"--scale", 0, true, bit(Command::Render), setScale},
     OptionRule{"--view", 0, true, bit(Command::Render), setView},
     OptionRule{"--csv", 0, false, bit(Command::List),
-               [](CommandLine& line, const std::string&) { return setFormat(line, TableFormat::Csv); }},
+               [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Csv); }},
     OptionRule{"--json", 0, false, bit(Command::List),
-               [](CommandLine& line, const std::string&) { return setFormat(line, TableFormat::Json); }},
+               [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Json); }},
     OptionRule{"--md", 0, false, bit(Command::List),
-               [](CommandLine& line, const std::string&) { return setFormat(line, TableFormat::Markdown); }},
+               [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Markdown); }},
 };
 
 std::vector<std::string> optionNames(Command command)
@@ -127,6 +128,11 @@ LocalizedText withHint(LocalizedText text, const std::string& meant)
 {
     if (meant.empty()) return text;
     return {text.en + "; did you mean '" + meant + "'?", text.de + "; war '" + meant + "' gemeint?"};
+}
+
+bool endsInOneOf(const std::string& name, std::initializer_list<std::string_view> endings)
+{
+    return std::any_of(endings.begin(), endings.end(), [&](std::string_view ending) { return name.ends_with(ending); });
 }
 
 /// Reads one command line; each step returns why it cannot go on.
@@ -219,6 +225,13 @@ private:
         if (line.command == Command::Render && line.output.empty())
             return LocalizedText{"'render' needs the file to write: -o FILE.png",
                                  "'render' braucht die Datei, die geschrieben wird: -o DATEI.png"};
+        if (line.command == Command::Render && !endsInOneOf(line.output, {".png", ".svg", ".pdf"}))
+            return LocalizedText{"the name of the picture '" + line.output + "' must end in .png, .svg or .pdf",
+                                 "der Name des Bilds '" + line.output + "' muss auf .png, .svg oder .pdf enden"};
+        if (line.command == Command::Convert && !endsInOneOf(line.files[1], {".json", ".csv", ".md"}))
+            return LocalizedText{"the name of the new file '" + line.files[1] + "' must end in .json, .csv or .md",
+                                 "der Name der neuen Datei '" + line.files[1] +
+                                     "' muss auf .json, .csv oder .md enden"};
         return mistypedCommand();
     }
 

@@ -141,6 +141,13 @@ void StationPages::PaintRows(QPainter& painter, const PrintedTable& table, const
     for (std::size_t row = first; row < first + count; ++row) paintRow(table.rows[row], mFont);
 }
 
+void UseStandardPage(QPagedPaintDevice& device)
+{
+    constexpr double Margin = 15;
+    device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                     QMarginsF(Margin, Margin, Margin, Margin), QPageLayout::Millimeter));
+}
+
 QSizeF PageSizeOf(const QPagedPaintDevice& device)
 {
     return device.pageLayout().paintRect(QPageLayout::Inch).size() * PixelsPerInch;

@@ -53,6 +53,9 @@ private:
     std::vector<std::function<void(QPainter&)>> mcolPages;
 };
 
+/// An upright A4 page with margins of 15 mm.
+void UseStandardPage(QPagedPaintDevice& device);
+
 /// The size of a device's page within its margins, in logical pixels.
 QSizeF PageSizeOf(const QPagedPaintDevice& device);
 

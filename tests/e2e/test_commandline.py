@@ -39,11 +39,11 @@ class Check(Home):
     def test_the_examples_keep_the_rules_save_the_one_that_shows_broken_ones(self):
         examples = sorted(EXAMPLES.glob("*.station.json"))
         broken = [path for path in examples if self.run_command("check", path).returncode != CLEAN]
-        self.assertEqual([path.name for path in broken], ["broken-rules.station.json"])
+        self.assertEqual([path.name for path in broken], ["training-mistakes.station.json"])
         self.assertGreaterEqual(len(examples), 6)
 
     def test_every_broken_rule_is_named_with_file_place_rule_and_reason(self):
-        path = EXAMPLES / "broken-rules.station.json"
+        path = EXAMPLES / "training-mistakes.station.json"
         done = self.run_command("check", path)
         self.assertEqual((done.returncode, done.stderr), (BROKEN, ""))
         self.assertGreaterEqual(len(done.stdout.splitlines()), 3)
@@ -65,7 +65,7 @@ class Check(Home):
         self.assertIn(": /surprise: ", done.stderr)
 
     def test_an_unreadable_file_does_not_hide_what_is_broken_in_the_others(self):
-        path = EXAMPLES / "broken-rules.station.json"
+        path = EXAMPLES / "training-mistakes.station.json"
         done = self.run_command("check", self.folder / "missing.json", path)
         self.assertEqual(done.returncode, UNREADABLE)
         self.assertIn("missing.json: ", done.stderr)
@@ -151,7 +151,7 @@ class Render(Home):
 
     def test_different_stations_look_different_and_equal_ones_the_same(self):
         pictures = []
-        for example in ("water-works", "water-works", "packaging-line"):
+        for example in ("waterworks", "waterworks", "packaging-line"):
             self.succeed("render", EXAMPLES / f"{example}.station.json", "-o", "view.png")
             pictures.append(read_png(self.folder / "view.png"))
         self.assertEqual(pictures[0], pictures[1])

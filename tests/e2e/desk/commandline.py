@@ -44,7 +44,7 @@ class Home(unittest.TestCase):
         self.assertEqual((done.returncode, done.stderr), (0, ""), f"{arguments}: {done.stdout}")
         return done.stdout
 
-    def station(self, example="water-works", name=None):
+    def station(self, example="waterworks", name=None):
         """A copy of an example in the test's folder, written as this program writes it."""
         copy = self.folder / f"{name or example}.station.json"
         self.succeed("convert", EXAMPLES / f"{example}.station.json", copy)

@@ -66,9 +66,9 @@ TEST(ParseCommandLine, ShowsHelpAndVersionWithoutAskingForFiles)
 TEST(ParseCommandLine, ReadsTheFormatOfAList)
 {
     EXPECT_FALSE(Understood({"list", "s.json"}).format.has_value());
-    EXPECT_EQ(Understood({"list", "s.json", "--csv"}).format, TableFormat::Csv);
-    EXPECT_EQ(Understood({"list", "--json", "s.json"}).format, TableFormat::Json);
-    EXPECT_EQ(Understood({"list", "--md", "--md", "s.json"}).format, TableFormat::Markdown);
+    EXPECT_EQ(Understood({"list", "s.json", "--csv"}).format, ListFormat::Csv);
+    EXPECT_EQ(Understood({"list", "--json", "s.json"}).format, ListFormat::Json);
+    EXPECT_EQ(Understood({"list", "--md", "--md", "s.json"}).format, ListFormat::Markdown);
     EXPECT_EQ(Refusal({"list", "s.json", "--csv", "--md"}), "only one of --csv, --json and --md can be given");
 }
 
@@ -93,10 +93,10 @@ TEST(ParseCommandLine, RefusesValuesThatAreMissingSuperfluousOrWrong)
     EXPECT_EQ(Refusal({"render", "s.json", "-o"}), "the option '-o' needs a value");
     EXPECT_EQ(Refusal({"--help=yes"}), "the option '--help' takes no value");
     EXPECT_EQ(Refusal({"--lang", "fr"}), "there is no language 'fr'; the languages are: de, en");
-    EXPECT_EQ(Refusal({"render", "s.json", "-o", "x", "--view", "top"}),
+    EXPECT_EQ(Refusal({"render", "s.json", "-o", "x.png", "--view", "top"}),
               "there is no view 'top'; the views are: overview");
     for (const std::string scale : {"", "two", "2x", "0", "0.2", "17", "-1", "nan", "inf"})
-        EXPECT_EQ(Refusal({"render", "s.json", "-o", "x", "--scale", scale}),
+        EXPECT_EQ(Refusal({"render", "s.json", "-o", "x.png", "--scale", scale}),
                   "the scale '" + scale + "' is not a number from 0.25 to 16");
 }
 
@@ -106,6 +106,14 @@ TEST(ParseCommandLine, CountsTheFiles)
     EXPECT_EQ(Refusal({"convert", "a"}), "'convert' needs 2 files");
     EXPECT_EQ(Refusal({"convert", "a", "b", "c"}), "'c' is one file too many for 'convert'");
     EXPECT_EQ(Refusal({"render", "a"}), "'render' needs the file to write: -o FILE.png");
+}
+
+TEST(ParseCommandLine, RefusesFilesWhoseEndingSaysNoFormat)
+{
+    EXPECT_EQ(Refusal({"render", "a", "-o", "b.bmp"}),
+              "the name of the picture 'b.bmp' must end in .png, .svg or .pdf");
+    EXPECT_EQ(Refusal({"convert", "a", "json"}), "the name of the new file 'json' must end in .json, .csv or .md");
+    EXPECT_EQ(Refusal({"convert", "a", "b.md"}), "accepted");
 }
 
 TEST(ParseCommandLine, KeepsTheCommandAndLanguageOfAnArgumentItRefuses)

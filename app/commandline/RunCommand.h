@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/commandline/CommandLine.h"
+
+#include <ostream>
+
+namespace quillon_ed {
+
+struct CommandStreams {
+    std::ostream& out;
+    std::ostream& err;
+};
+
+/// The language that the command line or, without it there, the desktop asks for.
+Language LanguageOf(const CommandLine& line);
+
+/// Runs "check", "list" or "convert", which need neither a display nor an application object. Failures are told on
+/// the error stream; the result is the exit code.
+int RunCommand(const CommandLine& line, const CommandStreams& streams);
+
+} // namespace quillon_ed

@@ -1,0 +1,49 @@
+#include "app/commandline/RunRender.h"
+
+#include "app/commandline/TellErrors.h"
+#include "app/export/ExportOverview.h"
+#include "app/host/AppServices.h"
+#include "app/host/Strings.h"
+#include "reference/files/StationReader.h"
+#include "reference/json/FileError.h"
+#include "reference/model/contract/Station.h"
+
+#include <QSettings>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx::reference;
+
+namespace {
+
+/// What the library reports while it draws is no reason to stop, but must not be lost either.
+void tellReports(const ErrorLog& log, std::ostream& err)
+{
+    for (const ErrorEntry& entry : log.Entries())
+        err << "quillon-ed: " << entry.source << ": " << entry.description << '\n';
+}
+
+} // namespace
+
+int RunRender(const CommandLine& line, const CommandStreams& streams)
+{
+    return TellErrors(streams.err, [&] {
+        QSettings settings;
+        AppServices services(settings);
+        services.ShowLanguage(LanguageOf(line));
+
+        const std::string& file = line.files[0];
+        StationData data = LoadStation(file, services.Catalogue()).data;
+        if (data.kind != zqbchwcx::vxStationKindCentral)
+            throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed");
+        const PageHeader header{ToQString(data.name), QDate::currentDate(),
+                                QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
+        const auto context = std::make_shared<ModelContext>(ModelContext{
+            std::make_shared<const Catalogue>(services.Catalogue()), [&] { return services.CurrentLanguage(); }});
+        ExportOverview(std::make_shared<Station>(context, std::move(data)), header, line.scale, ToQString(line.output));
+        tellReports(services.Errors(), streams.err);
+        return ExitClean;
+    });
+}
+
+} // namespace quillon_ed

@@ -1,0 +1,89 @@
+#include "app/export/ExportOverview.h"
+
+#include "adapters/qt/RackOverviewWidget.h"
+#include "app/export/PaperOverview.h"
+#include "app/export/ShowStation.h"
+#include "app/export/WriteBytes.h"
+#include "reference/json/FileError.h"
+#include "views/config/VxHWRackOverview.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx;
+
+namespace {
+
+QByteArray PngOf(const VxHWStationPtr& station, double scale)
+{
+    qt::RackOverviewWidget widget;
+    ShowStation(*widget.Control(), station);
+    QBuffer buffer;
+    widget.RenderToImage(scale).save(&buffer, "PNG");
+    return buffer.data();
+}
+
+QByteArray SvgOf(const VxHWStationPtr& station, const QString& title)
+{
+    const PaperOverview overview(station);
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setTitle(title);
+    generator.setSize(overview.Size().toSize());
+    generator.setViewBox(QRectF(QPointF(), overview.Size()));
+    QPainter painter(&generator);
+    painter.fillRect(generator.viewBoxF(), Qt::white);
+    overview.Paint(painter);
+    painter.end();
+    return buffer.data();
+}
+
+QByteArray PdfOf(const VxHWStationPtr& station, const PageHeader& header)
+{
+    const PaperOverview overview(station);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    UseStandardPage(writer);
+    writer.setTitle(header.stationName);
+    writer.setCreator(QStringLiteral("Quillon Ed"));
+    StationPages pages(header, PageSizeOf(writer));
+    pages.AddDrawing(overview.Size(), [&](QPainter& painter) { overview.Paint(painter); });
+    PaintPages(pages, writer, 1, pages.Count());
+    return buffer.data();
+}
+
+} // namespace
+
+std::optional<PictureFormat> PictureFormatOf(const QString& fileName)
+{
+    const QString ending = QFileInfo(fileName).suffix().toLower();
+    if (ending == QLatin1String("png")) return PictureFormat::Png;
+    if (ending == QLatin1String("svg")) return PictureFormat::Svg;
+    if (ending == QLatin1String("pdf")) return PictureFormat::Pdf;
+    return {};
+}
+
+void ExportOverview(const VxHWStationPtr& station, const PageHeader& header, double scale, const QString& fileName)
+{
+    const auto format = PictureFormatOf(fileName);
+    if (!format)
+        throw reference::FileError(fileName.toStdString(), {}, "the name of a picture ends in .png, .svg or .pdf");
+    switch (*format) {
+    case PictureFormat::Png:
+        return WriteBytes(fileName, PngOf(station, scale));
+    case PictureFormat::Svg:
+        return WriteBytes(fileName, SvgOf(station, header.stationName));
+    case PictureFormat::Pdf:
+        return WriteBytes(fileName, PdfOf(station, header));
+    }
+}
+
+} // namespace quillon_ed

@@ -1,0 +1,18 @@
+#include "app/export/WriteBytes.h"
+
+#include "reference/files/AtomicWrite.h"
+#include "reference/json/FileError.h"
+
+#include <QFile>
+
+namespace quillon_ed {
+
+void WriteBytes(const QString& fileName, const QByteArray& bytes)
+{
+    using namespace zqbchwcx::reference;
+    const std::string name = QFile::encodeName(fileName).toStdString();
+    if (bytes.isEmpty()) throw FileError(name, {}, "the content could not be made");
+    AtomicWrite(SystemFiles(), name, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+} // namespace quillon_ed

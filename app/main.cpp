@@ -1,0 +1,59 @@
+#include "app/commandline/HelpText.h"
+#include "app/commandline/OpenStations.h"
+#include "app/commandline/ParseCommandLine.h"
+#include "app/commandline/RunCommand.h"
+#include "app/commandline/RunRender.h"
+
+#include <QApplication>
+
+#include <iostream>
+
+using namespace quillon_ed;
+
+namespace {
+
+int refuse(const UsageError& error)
+{
+    const std::string word = CommandWord(error.understood.command);
+    const std::string command = word.empty() ? "quillon-ed" : "quillon-ed " + word;
+    const Language language = LanguageOf(error.understood);
+    std::cerr << "quillon-ed: " << error.reason.In(language) << '\n'
+              << LocalizedText{"See '" + command + " --help'.", "Siehe '" + command + " --help'."}.In(language) << '\n';
+    return ExitUsage;
+}
+
+void nameProgram()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Halvar"));
+    QCoreApplication::setApplicationName(QStringLiteral("Quillon_Ed"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(QUILLON_VERSION));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillon Ed"));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const auto parsed = ParseCommandLine({argv + 1, argv + argc});
+    if (const auto* error = std::get_if<UsageError>(&parsed)) return refuse(*error);
+    const auto& line = std::get<CommandLine>(parsed);
+    if (line.help) {
+        std::cout << HelpText(line.command, LanguageOf(line));
+        return ExitClean;
+    }
+    if (line.version) {
+        std::cout << "Quillon Ed " QUILLON_VERSION "\n";
+        return ExitClean;
+    }
+
+    const CommandStreams streams{std::cout, std::cerr};
+    nameProgram();
+    if (line.command == Command::Open || line.command == Command::Render) {
+        if (line.command == Command::Render) qputenv("QT_QPA_PLATFORM", "offscreen");
+        // The arguments have been read; the application gets none of them.
+        int count = 1;
+        const QApplication application(count, argv);
+        return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
+    }
+    return RunCommand(line, streams);
+}
