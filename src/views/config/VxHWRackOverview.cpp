@@ -235,9 +235,11 @@ void VxHWRackOverview::Refresh() noexcept
         mbRefreshPending = !mContext.Station().IsDrawable();
         mbSelectionPending = false;
         if (mContext.oSelHandler) mSelection.Take(mContext.oSelHandler->SelPlacesArray());
-        for (const auto& oRack : *mContext.Station().Racks()) {
+        const auto oRacks = mContext.Station().Racks();
+        for (const auto& oRack : *oRacks) {
             moHWStation_RackChange(oRack);
-            for (const auto& oPlace : *oRack->Places()) moHWStation_RackPlaceChange(oPlace);
+            const auto oPlaces = oRack->Places();
+            for (const auto& oPlace : *oPlaces) moHWStation_RackPlaceChange(oPlace);
         }
         moSelHandler_FocusChange(vxNoPosition);
     });
@@ -328,7 +330,8 @@ void VxHWRackOverview::DrawOutdatedSelection()
 void VxHWRackOverview::P_SetBorderSelection(const VxHWModulePtr& oParentModule) noexcept
 {
     G_Trap(ClassName, "P_SetBorderSelection", [&] {
-        for (const auto& oPlace : *mContext.Station().ParentModulePlaces(oParentModule)) {
+        const auto oPlaces = mContext.Station().ParentModulePlaces(oParentModule);
+        for (const auto& oPlace : *oPlaces) {
             if (mLayout.Shows(oPlace->Rack()->Number(), oPlace->Number())) mPlacePainter.P_DrawBorder(oPlace);
         }
     });

@@ -90,7 +90,8 @@ bool PlaceMenu::P_IsEditableModuleInSelection() const noexcept
 {
     bool bFound = false;
     G_Trap(mContext.className, "P_IsEditableModuleInSelection", [&] {
-        for (const auto& oPlace : *mContext.SelHandler().SelPlaces()) {
+        const auto oPlaces = mContext.SelHandler().SelPlaces();
+        for (const auto& oPlace : *oPlaces) {
             const auto oModule = oPlace->Module();
             if (oModule->IsEmpty() || !oModule->HasParamDialog()) continue;
             bFound = true;

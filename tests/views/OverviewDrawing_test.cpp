@@ -1,0 +1,338 @@
+#include "tests/views/OverviewFixture.h"
+
+namespace zqbchwcx::testing {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+class OverviewDrawingTest : public OverviewFixture {
+protected:
+    bool IsLinkVisible(std::size_t index) const { return toolkit->shapes.at("fra_IMLink").at(index)->Visible(); }
+};
+
+TEST_F(OverviewDrawingTest, StationSetupDrawsTheRailsOfAllBandsOnTheStationsBackground)
+{
+    EXPECT_THAT(toolkit->imageLists.created, ElementsAre("IDB_CRX_ALL 18", "IDB_CRX_RACK 218"));
+    EXPECT_EQ(site.font, "Tahoma 8.25");
+    const auto setup = [&](std::int32_t lDisplayMode) {
+        station->displayMode = lDisplayMode;
+        Pic().TakeLines();
+        view->VxHWStation(station);
+        return Pic().TakeLines();
+    };
+    const auto rails = [](const std::string& color) {
+        return ElementsAre("BackColor " + color, "Image IDB_CRX_RACK 11,305 style 1",
+                           "Image IDB_CRX_RACK 11,213 style 1", "Image IDB_CRX_RACK 11,121 style 1",
+                           "Image IDB_CRX_RACK 11,29 style 1");
+    };
+    EXPECT_THAT(setup(0), rails("window"));
+    EXPECT_THAT(setup(1), rails("16772578"));
+    EXPECT_THAT(setup(7), rails("16772578")) << "an unknown mode keeps the colour";
+    view->VxHWStation(nullptr);
+    EXPECT_THAT(Pic().TakeLines(), ElementsAre("BackColor window"));
+    toolkit->sysColorsChanged();
+    EXPECT_THAT(Pic().TakeLines(), IsEmpty());
+}
+
+TEST_F(OverviewDrawingTest, LockingChangesTheBackgroundAndDrawsAnew)
+{
+    view->Refresh();
+    Pic().TakeLines();
+    view->Locked(true);
+    const auto lines = Pic().TakeLines();
+    EXPECT_EQ(lines.front(), "BackColor " + std::to_string(vxColorLight3D));
+    EXPECT_THAT(lines, Contains("Image IDB_CRX_PLACE_ACTIVE 25,306 style 0"));
+    view->Locked(true);
+    EXPECT_THAT(Pic().TakeLines(), IsEmpty());
+    toolkit->desktop.systemColors[vxColorLight3D] = toolkit->desktop.systemColors[vxColorButtonFace];
+    toolkit->sysColorsChanged();
+    EXPECT_EQ(Pic().TakeLines().front(), "BackColor " + std::to_string(G_Rgb(234, 232, 228)));
+}
+
+TEST_F(OverviewDrawingTest, PlacesShowTheirUsabilityAndTheDrag)
+{
+    struct Case {
+        std::int32_t usability;
+        bool drag;
+        std::string number;
+        std::string picture;
+    };
+    const Case cases[] = {
+        {-1, false, "Fill 82,342 13x8 window", "INACTIVE"}, {-1, true, "Fill 82,342 13x8 window", "INACTIVE_NODROP"},
+        {0, false, "Text 4 82,339 13x13 gray", "INACTIVE"}, {0, true, "Text 4 82,339 13x13 gray", "INACTIVE_NODROP"},
+        {1, false, "Text 4 82,339 13x13 text", "ACTIVE"},   {1, true, "Text 4 82,339 13x13 text", "NODROP"},
+    };
+    for (const auto& c : cases) {
+        station->Place(0, 4)->usability = c.usability;
+        controller->state = c.drag ? vxDragDropStateActive : vxDragDropStateInactive;
+        EXPECT_THAT(DrawingOf(0, 4), ElementsAre(c.number, "Image IDB_CRX_PLACE_" + c.picture + " 79,306 style 0"));
+    }
+    controller->dropPlace = station->Place(0, 4);
+    EXPECT_THAT(DrawingOf(0, 4), Contains("Image IDB_CRX_PLACE_DROP 79,306 style 0"));
+    station->Place(0, 4)->usability = 5;
+    EXPECT_THAT(DrawingOf(0, 4), IsEmpty());
+
+    // Only empty places of the end close the rail; the drag leaves modules alone.
+    EXPECT_THAT(DrawingOf(3, 11),
+                ElementsAre("Text 11 208,63 13x13 text", "Image IDB_CRX_PLACE_NODROP_END 205,30 style 0"));
+    Put(3, 11, "IDB_CRX_MODULE_PS");
+    EXPECT_THAT(DrawingOf(3, 11), ElementsAre("Text 11 208,63 13x13 text", "Image IDB_CRX_MODULE_PS 205,30 style 0"));
+}
+
+TEST_F(OverviewDrawingTest, RackNumbersShowWhetherTheRackIsPresent)
+{
+    const auto drawingOf = [&](std::int32_t lState) {
+        station->Rack(1)->state = lState;
+        Pic().TakeLines();
+        station->RackChange.Raise(station->Rack(1));
+        return Pic().TakeLines();
+    };
+    EXPECT_THAT(drawingOf(1),
+                ElementsAre("Image IDB_CRX_RACKNR_ACTIVE 12,214 style 0", "Text 1 12,214 13x13 bold text"));
+    EXPECT_THAT(drawingOf(0), ElementsAre("Image IDB_CRX_RACKNR_INACTIVE 12,214 style 0", "Text 1 12,214 13x13 gray"));
+    EXPECT_THAT(drawingOf(2), IsEmpty());
+}
+
+TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoadedOnce)
+{
+    services.settings->values[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
+    auto& files = *toolkit->imageLists.files;
+    files.existing = {"C:\\Data\\HWPics\\PUMP.bmp"};
+    Put(0, 5, "Pump");
+    Put(0, 6, "NoSuchFile");
+    Put(0, 7, "IDB_CRX_MODULE_CPU");
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_THAT(DrawingOf(0, 5), Contains(HasSubstr("Image PUMP ")));
+        EXPECT_THAT(DrawingOf(0, 6), Contains(HasSubstr("Image IDB_CRX_MODULE_DEFAULT ")));
+        EXPECT_THAT(DrawingOf(0, 7), Contains(HasSubstr("Image IDB_CRX_MODULE_CPU ")));
+    }
+    EXPECT_THAT(files.asked, ElementsAre("C:\\Data\\HWPics\\PUMP.bmp", "C:\\Data\\HWPics\\NOSUCHFILE.bmp"));
+
+    Put(0, 8, "IDB_NO_SUCH_KEY");
+    EXPECT_THAT(DrawingOf(0, 8), Not(Contains(HasSubstr("Image"))));
+    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWRackOverview.moHWStation_RackPlaceChange"));
+}
+
+TEST_F(OverviewDrawingTest, GroupFramesFollowTheModulesAndTheirSelection)
+{
+    Put(0, 4, "IDB_CRX_MODULE_IO_DIGITAL", 3);
+    const auto frameOf = [&](std::int32_t lPlace) { return DrawingOf(0, lPlace).back(); };
+    EXPECT_EQ(frameOf(4), "Image IDB_CRX_FRAME_LEFT 79,306 style 1");
+    EXPECT_EQ(frameOf(5), "Image IDB_CRX_FRAME_MID 97,306 style 1");
+    EXPECT_EQ(frameOf(6), "Image IDB_CRX_FRAME_RIGHT 115,306 style 1");
+    Put(0, 8, "IDB_CRX_MODULE_IO_DIGITAL", 1);
+    EXPECT_EQ(frameOf(8), "Image IDB_CRX_FRAME_TOTAL 151,306 style 1");
+
+    Pic().TakeLines();
+    Select({{0, 5}});
+    EXPECT_THAT(Pic().TakeLines(),
+                ElementsAre("Text 5 100,339 13x13 text", "Image IDB_CRX_MODULE_IO_DIGITAL 97,306 style 4",
+                            "Image IDB_CRX_FRAME_MID 97,306 style 5", "Image IDB_CRX_FRAME_LEFT 79,306 style 5",
+                            "Image IDB_CRX_FRAME_MID 97,306 style 5", "Image IDB_CRX_FRAME_RIGHT 115,306 style 5"));
+    Select({});
+    EXPECT_THAT(Pic().TakeLines(),
+                ElementsAre(HasSubstr("Text 5"), EndsWith("style 0"), EndsWith("97,306 style 1"),
+                            EndsWith("79,306 style 1"), EndsWith("97,306 style 1"), EndsWith("115,306 style 1")));
+}
+
+TEST_F(OverviewDrawingTest, ASelectionChangeDrawsOnlyWhatChangedAndTellsIt)
+{
+    Select({{0, 4}, {0, 5}, {1, 1}});
+    Pic().TakeLines();
+    Lines events;
+    const auto content = view->ContentChange.Connect([&] { events.emplace_back("content"); });
+    const auto selection = view->SelChange.Connect([&] { events.emplace_back("selection"); });
+    Select({{0, 5}, {1, 1}, {1, 2}});
+    EXPECT_THAT(Pic().TakeLines(), ElementsAre(StartsWith("Text 4"), "Image IDB_CRX_PLACE_ACTIVE 79,306 style 0",
+                                               StartsWith("Text 2"), "Image IDB_CRX_PLACE_ACTIVE 43,214 style 4"));
+    EXPECT_THAT(events, ElementsAre("selection", "content", "content", "content"));
+
+    events.clear();
+    view->Refresh();
+    EXPECT_THAT(events, ElementsAre("content", "content", "content")) << "one for each selected place";
+}
+
+TEST_F(OverviewDrawingTest, WhatChangesWhileDrawingIsOffIsDrawnWhenItIsOnAgain)
+{
+    view->Refresh();
+    station->IsDrawable(false);
+    Pic().TakeLines();
+    Select({{0, 4}});
+    EXPECT_THAT(DrawingOf(0, 9), IsEmpty());
+    station->IsDrawable(true);
+    EXPECT_THAT(DrawingOf(0, 9), Contains("Image IDB_CRX_PLACE_ACTIVE 79,306 style 4"));
+    EXPECT_THAT(DrawingOf(0, 9), Not(Contains(HasSubstr("79,306"))));
+
+    // A drop ends the drag before drawing is on again.
+    controller->state = vxDragDropStateActive;
+    view->StateChange(vxDragDropStateInactive);
+    station->IsDrawable(false);
+    controller->state = vxDragDropStateInactive;
+    Pic().TakeLines();
+    view->StateChange(vxDragDropStateActive);
+    EXPECT_THAT(Pic().TakeLines(), IsEmpty());
+    station->IsDrawable(true);
+    std::int32_t lEffect = 0;
+    Mouse().OLEDragDrop(data, lEffect, 0, 0, 30, 340);
+    EXPECT_THAT(Pic().TakeLines(), Contains("Image IDB_CRX_PLACE_ACTIVE 25,306 style 0"));
+}
+
+TEST_F(OverviewDrawingTest, FocusMarksAreFourTrianglesOrAnIBeam)
+{
+    Pic().TakeLines();
+    handler->FocusPosition(8);
+    auto lines = Pic().TakeLines();
+    EXPECT_EQ(lines.size(), 20U);
+    EXPECT_THAT(lines, Contains("Line 79,300 79,300 gray"));
+    EXPECT_THAT(lines, Contains("Line 75,304 79,304 gray"));
+    EXPECT_THAT(lines, Contains("Line 97,304 101,304 gray"));
+    EXPECT_THAT(lines, Contains("Line 75,367 79,367 gray"));
+    EXPECT_THAT(lines, Contains("Line 97,371 97,371 gray"));
+
+    handler->FocusPosition(2007);
+    lines = Pic().TakeLines();
+    EXPECT_THAT(lines, ElementsAre("Fill 11,300 218x6 window", "Fill 11,366 218x6 window",
+                                   "Image IDB_CRX_RACK 11,305 style 1", "Fill 76,116 5x2 gray", "Fill 77,118 3x2 gray",
+                                   "Line 78,120 78,183 gray", "Fill 77,184 3x2 gray", "Fill 76,186 5x2 gray"));
+
+    handler->FocusPosition(-1);
+    EXPECT_THAT(Pic().TakeLines(),
+                ElementsAre("Fill 11,116 218x6 window", "Fill 11,182 218x6 window", "Fill 78,121 1x47 window",
+                            "Image IDB_CRX_RACK 11,121 style 1", StartsWith("Text 3"), EndsWith("61,122 style 0"),
+                            StartsWith("Text 4"), EndsWith("79,122 style 0")));
+}
+
+TEST_F(OverviewDrawingTest, TheFocusMarkShowsWhetherThePictureHasTheKeyboard)
+{
+    handler->FocusPosition(8);
+    Pic().TakeLines();
+    Pic().Focus(true);
+    EXPECT_THAT(Pic().TakeLines(), Contains("Line 79,300 79,300 text"));
+    handler->FocusPosition(9);
+    EXPECT_THAT(Pic().TakeLines(), Contains(EndsWith("5x2 text")));
+    Pic().Focus(false);
+    EXPECT_THAT(Pic().TakeLines(), Contains(EndsWith("5x2 gray")));
+}
+
+TEST_F(OverviewDrawingTest, TheArrowPointsFromTheFocusedPlaceToItsRow)
+{
+    const auto stub = [&] { return *toolkit->shapes.at("shp_Arrow").at(0); };
+    const auto tip = [&] { return *toolkit->shapes.at("shp_End").at(3); };
+    int focusEvents = 0;
+    const auto focus = view->FocusChange.Connect([&] { ++focusEvents; });
+    handler->FocusPosition(2008);
+    EXPECT_TRUE(stub().Visible());
+    EXPECT_EQ(stub().Bounds(), MakeRect(4 + 25 + 54 + 7, 92 + 29 - 10, 3, 10));
+    EXPECT_EQ(tip().Bounds(), MakeRect(258, 7 + 45 + 41, 2, 1));
+    handler->FocusPosition(2009);
+    EXPECT_FALSE(stub().Visible());
+    EXPECT_EQ(focusEvents, 2);
+
+    view->Style(vxStyleHWCompare);
+    handler->FocusPosition(2008);
+    EXPECT_EQ(tip().Bounds().top, 7 + 45 + 61);
+    site.Resize(6000, 6000);
+    EXPECT_EQ(tip().Bounds().right, 400);
+    view->VxHWStation(nullptr);
+    EXPECT_FALSE(stub().Visible());
+}
+
+TEST_F(OverviewDrawingTest, DiagnosticsDrawSymbolsOnModulesOnRefreshOnly)
+{
+    Put(0, 2, "IDB_CRX_MODULE_CPU");
+    diag->failures = {{"0/2", 1}, {"0/5", 1}};
+    view->Style(vxStyleHWDiag);
+    EXPECT_THAT(DrawingOf(0, 2), IsEmpty());
+    for (const auto& [lState, name] : std::map<std::int32_t, std::string>{{10, "RUN"}, {11, "STOP"}, {12, "HOLD"}}) {
+        diag->cpuStates = {{"0/2", lState}};
+        view->Refresh();
+        const auto lines = Pic().TakeLines();
+        EXPECT_THAT(lines, Contains("Image IDB_DIAG_CPU_" + name + " 46,309 style 1"));
+        EXPECT_THAT(lines, Contains("Image IDB_DIAG_FAILURE 46,351 style 1"));
+        EXPECT_THAT(lines, Not(Contains("Image IDB_DIAG_FAILURE 100,351 style 1"))) << "an empty place";
+    }
+}
+
+TEST_F(OverviewDrawingTest, CompareDrawsTheResultOnEveryPlace)
+{
+    view->Style(vxStyleHWCompare);
+    const std::vector<std::string> symbols{"EQUAL",      "POTEQUAL",   "NOMODULE",  "NOMODULE",
+                                           "MODULEDIFF", "MODULEDIFF", "PARAMDIFF", "PARAMDIFF"};
+    for (std::int32_t lResult = 1; lResult <= 8; ++lResult) compare->results["1/" + std::to_string(lResult)] = lResult;
+    view->Refresh();
+    const auto lines = Pic().TakeLines();
+    for (std::int32_t i = 0; i < 8; ++i)
+        EXPECT_THAT(lines, Contains("Image IDB_COMP_" + symbols[static_cast<std::size_t>(i)] + " " +
+                                    std::to_string(26 + 18 * i) + ",257 style 1"));
+    EXPECT_EQ(
+        std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.starts_with("Image IDB_COMP_"); }),
+        8);
+    EXPECT_THAT(lines, Contains("Image IDB_CRX_MODULE_DEFAULT 79,214 style 0")) << "only in the other station";
+    EXPECT_THAT(DrawingOf(1, 4), IsEmpty());
+    station->TotalRefresh.Raise();
+    EXPECT_THAT(Pic().TakeLines(), IsEmpty());
+    view->StateChange(vxDragDropStateInactive);
+    EXPECT_THAT(Pic().TakeLines(), Not(IsEmpty()));
+}
+
+TEST_F(OverviewDrawingTest, LinksJoinRacksThatBothHaveAnInterfaceModule)
+{
+    EXPECT_FALSE(IsLinkVisible(0) || IsLinkVisible(1) || IsLinkVisible(2));
+    EXPECT_EQ(toolkit->shapes.at("fra_IMLink").at(2)->Bounds(), MakeRect(78, 90, 3, 32));
+    Put(1, 3, "IDB_CRX_MODULE_IM");
+    Put(2, 3, "IDB_CRX_MODULE_IM");
+    DrawingOf(2, 3);
+    EXPECT_FALSE(IsLinkVisible(0) || IsLinkVisible(2));
+    EXPECT_TRUE(IsLinkVisible(1));
+    station->Place(1, 3)->Empty();
+    DrawingOf(1, 3);
+    EXPECT_FALSE(IsLinkVisible(1));
+}
+
+TEST_F(OverviewDrawingTest, SmallAndHugeStationsDrawWhatFits)
+{
+    const auto refreshOf = [&](std::int32_t lRacks, std::int32_t lPlaces) {
+        station = std::make_shared<FakeStation>(log, lRacks, lPlaces);
+        handler->VxHWStation(station);
+        view->VxHWStation(station);
+        Pic().TakeLines();
+        view->Refresh();
+        const auto lines = Pic().TakeLines();
+        return std::count_if(lines.begin(), lines.end(), [](const auto& line) { return line.starts_with("Image"); });
+    };
+    EXPECT_EQ(refreshOf(1, 2), 3);
+    EXPECT_EQ(refreshOf(6, 15), 4 * 12);
+    handler->FocusPosition(5 * 1000 + 30);
+    handler->FocusPosition(5 * 1000 + 31);
+    Select({{5, 15}, {0, 12}});
+    EXPECT_THAT(Pic().TakeLines(), IsEmpty());
+}
+
+TEST_F(OverviewDrawingTest, CoordinatesAreThoseOfTheControl)
+{
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    view->CoordinatesByPosition(-1, x, y);
+    EXPECT_EQ((Point{x, y}), (Point{4, 0}));
+    view->CoordinatesByPosition(2023, x, y);
+    EXPECT_EQ((Point{x, y}), (Point{227, 152}));
+    std::int32_t lPosition = 0;
+    view->PositionByCoordinates(x, y, lPosition);
+    EXPECT_EQ(lPosition, 2023);
+    view->PositionByCoordinates(3, y, lPosition);
+    EXPECT_EQ(lPosition, -1);
+
+    site.Resize(100, 100);
+    EXPECT_EQ(site.Width(), 3525);
+    EXPECT_EQ(site.Height(), 5880);
+    EXPECT_EQ(toolkit->controls.at("arw_Arrow")->bounds, MakeRect(0, 0, 235, 392));
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
