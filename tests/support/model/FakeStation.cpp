@@ -321,7 +321,8 @@ FakeStation::Places FakeStation::WithFellowMembers(const Places& places) const
     Places all = places;
     for (const auto& place : places) {
         if (!place->module->parent) continue;
-        for (const auto& fellow : PlacesOf(ParentModulePlaces(place->module->parent)))
+        const auto oFellows = ParentModulePlaces(place->module->parent);
+        for (const auto& fellow : PlacesOf(oFellows))
             if (!Contains(all, fellow)) all.push_back(fellow);
     }
     return all;
