@@ -50,15 +50,8 @@ void Station::IsDrawable(bool bDrawable)
 {
     if (bDrawable == mbDrawable) return;
     mbDrawable = bDrawable;
-    if (bDrawable) {
-        StationChange kept;
-        kept.everything = std::exchange(mbEverythingChanged, false);
-        const auto racks = std::exchange(mcolChangedRacks, {});
-        const auto places = std::exchange(mcolChangedPlaces, {});
-        kept.racks.assign(racks.begin(), racks.end());
-        kept.places.assign(places.begin(), places.end());
-        Tell(kept);
-    }
+    // The views did not draw what the batch changed, be it places, the selection or the state of a drag.
+    if (bDrawable) TotalRefresh.Raise();
     DrawableChange.Raise(bDrawable);
 }
 
@@ -271,12 +264,6 @@ Outcome<Edit> Station::TryPlacing(std::int32_t lPosition, const VxHWModulesPtr& 
 
 void Station::Tell(const StationChange& change)
 {
-    if (!mbDrawable) {
-        mbEverythingChanged = mbEverythingChanged || change.everything;
-        mcolChangedRacks.insert(change.racks.begin(), change.racks.end());
-        mcolChangedPlaces.insert(change.places.begin(), change.places.end());
-        return;
-    }
     if (change.everything) {
         TotalRefresh.Raise();
         return;

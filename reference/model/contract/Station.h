@@ -98,9 +98,6 @@ private:
     StationStatePtr moState;
     StationServices moServices;
     bool mbDrawable = true;
-    bool mbEverythingChanged = false;
-    std::set<std::int32_t> mcolChangedRacks;
-    std::set<PlaceRef> mcolChangedPlaces;
 };
 using StationPtr = std::shared_ptr<Station>;
 

@@ -130,7 +130,7 @@ Outcome<BlockLayout> LayOutAtGap(StationDraft& draft, std::int32_t rack, std::in
     if (layout) return layout;
     if (const PlaceRef first = BeginBeforeGap(draft, behind, block); first.place != 0) {
         Outcome<BlockLayout> leftLayout = InsertAt(draft, first, block, ToTheLeft);
-        if (leftLayout) return leftLayout;
+        if (leftLayout || behind.place > occupancy.PlaceCount()) return leftLayout;
     }
     return layout;
 }
