@@ -1,0 +1,146 @@
+#include "reference/files/AtomicWrite.h"
+
+#include "reference/files/StationWriter.h"
+#include "tests/unit/reference/files/FaultyFiles.h"
+#include "tests/unit/reference/files/Samples.h"
+#include "tests/unit/reference/files/TemporaryDirectory.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <csignal>
+#include <random>
+#include <thread>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace zqbchwcx::reference {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::AnyOf;
+using testing::HasSubstr;
+
+constexpr int MostCalls = 200;
+const std::string OldContent(2500, 'o');
+const std::string NewContent(3500, 'n');
+
+TEST(AtomicWrite, LeavesOldOrNewContentWhicheverCallFails)
+{
+    int failures = 0;
+    for (int call = 1; call < MostCalls; ++call) {
+        SCOPED_TRACE(call);
+        const TemporaryDirectory directory;
+        directory.Write("plant.json", OldContent);
+        FaultyFiles files(call, FaultyFiles::Fault::FailOnce, std::errc::no_space_on_device);
+        const FileError error = ErrorOf([&] { AtomicWrite(files, directory.File("plant.json"), NewContent); });
+        const std::string content = directory.Read("plant.json");
+        EXPECT_EQ(directory.FileCount(), 1U) << "a temporary file was left behind";
+        if (error.reason == "no error") {
+            EXPECT_EQ(content, NewContent);
+            // The last call closes the directory: nobody is told of that any more.
+            if (files.Calls() < call) break;
+            continue;
+        }
+        ++failures;
+        EXPECT_EQ(error.fileName, directory.File("plant.json"));
+        EXPECT_THAT(error.reason, HasSubstr("No space left"));
+        EXPECT_THAT(error.reason, HasSubstr(content == OldContent ? "old content is unchanged" : "new content is in"));
+        EXPECT_THAT(content, AnyOf(OldContent, NewContent));
+    }
+    EXPECT_GE(failures, 10);
+}
+
+TEST(AtomicWrite, LeavesOldOrNewContentWhereverTheProgramDies)
+{
+    for (int call = 1;; ++call) {
+        ASSERT_LT(call, MostCalls);
+        SCOPED_TRACE(call);
+        const TemporaryDirectory directory;
+        directory.Write("plant.json", OldContent);
+        FaultyFiles files(call, FaultyFiles::Fault::Dead);
+        ErrorOf([&] { AtomicWrite(files, directory.File("plant.json"), NewContent); });
+        EXPECT_THAT(directory.Read("plant.json"), AnyOf(OldContent, NewContent));
+        // What the dead program left does not stand in the way of the next one.
+        AtomicWrite(SystemFiles(), directory.File("plant.json"), NewContent);
+        EXPECT_EQ(directory.Read("plant.json"), NewContent);
+        if (files.Calls() < call) break;
+    }
+}
+
+TEST(AtomicWrite, KeepsPermissionsAndFollowsLinks)
+{
+    const TemporaryDirectory directory;
+    fs::create_directory(directory.File("real"));
+    directory.Write("real/plant.json", OldContent);
+    fs::permissions(directory.File("real/plant.json"), fs::perms(0640));
+    fs::create_symlink("real/plant.json", directory.File("link.json"));
+    AtomicWrite(SystemFiles(), directory.File("link.json"), NewContent);
+    EXPECT_TRUE(fs::is_symlink(directory.File("link.json")));
+    EXPECT_EQ(directory.Read("real/plant.json"), NewContent);
+    EXPECT_EQ(fs::status(directory.File("real/plant.json")).permissions(), fs::perms(0640));
+
+    fs::create_symlink("loop.json", directory.File("loop.json"));
+    EXPECT_NE(ErrorOf([&] { AtomicWrite(SystemFiles(), directory.File("loop.json"), ""); }).reason, "no error");
+    fs::create_symlink("real/later.json", directory.File("dangling.json"));
+    AtomicWrite(SystemFiles(), directory.File("dangling.json"), NewContent);
+    EXPECT_EQ(directory.Read("real/later.json"), NewContent);
+}
+
+TEST(AtomicWrite, RefusesProtectedAndImpossibleTargets)
+{
+    const TemporaryDirectory directory;
+    directory.Write("plant.json", OldContent);
+    fs::permissions(directory.File("plant.json"), fs::perms(0444));
+    EXPECT_THAT(ErrorOf([&] { AtomicWrite(SystemFiles(), directory.File("plant.json"), NewContent); }).reason,
+                HasSubstr("write-protected"));
+    EXPECT_EQ(directory.Read("plant.json"), OldContent);
+    EXPECT_THAT(ErrorOf([&] { AtomicWrite(SystemFiles(), directory.Path(), NewContent); }).reason,
+                HasSubstr("not a regular file"));
+    EXPECT_THAT(ErrorOf([&] { AtomicWrite(SystemFiles(), directory.File("no/such.json"), NewContent); }).reason,
+                HasSubstr("No such file or directory"));
+    if (::geteuid() == 0) return; // an administrator may write into read-only directories
+    fs::permissions(directory.Path(), fs::perms(0555));
+    EXPECT_THAT(ErrorOf([&] { AtomicWrite(SystemFiles(), directory.File("new.json"), NewContent); }).reason,
+                HasSubstr("Permission denied"));
+    fs::permissions(directory.Path(), fs::perms(0755));
+}
+
+/// Saves two stations in turn until it is killed.
+[[noreturn]] void SaveForever(const std::string& file, const StationData& a, const StationData& b)
+{
+    for (;;) {
+        SaveStation(a, file);
+        SaveStation(b, file);
+    }
+}
+
+TEST(AtomicWrite, SurvivesAKilledProgramAHundredTimes)
+{
+    const TemporaryDirectory directory;
+    const std::string file = directory.File("plant.station.json");
+    const StationData small = FullStation(1, 4);
+    const StationData large = FullStation(4, 60);
+    SaveStation(small, file);
+    std::mt19937 random(std::random_device{}());
+    std::uniform_int_distribution<int> delay(0, 15'000);
+    int smallOnes = 0;
+    for (int i = 0; i < 100; ++i) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) SaveForever(file, large, small);
+        std::this_thread::sleep_for(std::chrono::microseconds(delay(random)));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const StationData found = LoadStation(file, ShippedCatalogue()).data;
+        const bool isSmall = SameStation(found, small);
+        ASSERT_TRUE(isSmall || SameStation(found, large)) << "after kill " << i;
+        smallOnes += isSmall ? 1 : 0;
+    }
+    RecordProperty("smallOnes", smallOnes);
+}
+
+} // namespace
+} // namespace zqbchwcx::reference

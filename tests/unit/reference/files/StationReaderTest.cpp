@@ -1,0 +1,148 @@
+#include "tests/unit/reference/files/Samples.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+namespace zqbchwcx::reference {
+namespace {
+
+using nlohmann::ordered_json;
+using testing::HasSubstr;
+
+FileError ParseError(const std::string& text)
+{
+    return ErrorOf([&] { ParseStation(text, "plant.json", ShippedCatalogue()); });
+}
+
+ordered_json ValidStation()
+{
+    return ordered_json::parse(R"({
+        "format": "quillon-station", "version": 1, "name": "Plant", "kind": "central",
+        "displayMode": 0, "readOnly": false,
+        "racks": [{"present": true, "placeCount": 11, "places": [
+            {"place": 4, "module": {"orderNumber": "Q3-CG04-A", "parameters": {"protocol": "rtu"},
+                "subModules": [{"orderNumber": "Q3-CG04-SP", "inputAddress": 0, "outputAddress": 0}]}},
+            {"place": 6, "usability": "inactive"},
+            {"place": 7, "module": {"orderNumber": "Q3-AI08-A", "inputAddress": 8, "name": "Levels"}}]}]})");
+}
+
+struct Damage {
+    const char* what;
+    const char* where; ///< the member that is replaced or added
+    const char* value; ///< its JSON text; empty to remove it
+    const char* pointer;
+    const char* reason;
+};
+
+TEST(StationReader, RefusesWhatIsNotExactlyAStation)
+{
+    const Damage damages[] = {
+        {"no format", "/format", "", "", "\"format\" is missing"},
+        {"another format", "/format", R"("quillon-texts")", "/format", "must be \"quillon-station\""},
+        {"version from the future", "/version", "2", "/version", "reads versions up to 1"},
+        {"version 0", "/version", "0", "/version", "must be an integer from 1"},
+        {"unknown member", "/colour", R"("red")", "/colour", "unknown"},
+        {"name of a wrong type", "/name", "7", "/name", "must be a string"},
+        {"unknown kind", "/kind", R"("remote")", "/kind", "\"central\", \"distributedA\", \"distributedB\""},
+        {"display mode out of range", "/displayMode", "3", "/displayMode", "from 0 to 2"},
+        {"display mode with fraction", "/displayMode", "1.0", "/displayMode", "must be an integer"},
+        {"read-only as a number", "/readOnly", "1", "/readOnly", "must be true or false"},
+        {"racks as an object", "/racks", "{}", "/racks", "must be an array"},
+        {"no racks", "/racks", "[]", "/racks", "at least one rack"},
+        {"rack as a number", "/racks/0", "5", "/racks/0", "must be an object"},
+        {"no places", "/racks/0/placeCount", "0", "/racks/0/placeCount", "from 1 to 499"},
+        {"too many places", "/racks/0/placeCount", "500", "/racks/0/placeCount", "from 1 to 499"},
+        {"place out of range", "/racks/0/places/2/place", "12", "/racks/0/places/2/place", "from 1 to 11"},
+        {"place beyond 64 bits", "/racks/0/places/2/place", "18446744073709551615", "/racks/0/places/2/place",
+         "from 1 to 11"},
+        {"place twice", "/racks/0/places/1/place", "4", "/racks/0/places/1/place", "stands twice"},
+        {"places out of order", "/racks/0/places/1/place", "2", "/racks/0/places/1/place", "rising order"},
+        {"unknown usability", "/racks/0/places/1/usability", R"("off")", "/racks/0/places/1/usability", "\"inactive\""},
+        {"no order number", "/racks/0/places/2/module/orderNumber", "", "/racks/0/places/2/module",
+         "\"orderNumber\" is missing"},
+        {"empty order number", "/racks/0/places/2/module/orderNumber", R"("")", "/racks/0/places/2/module/orderNumber",
+         "must not be empty"},
+        {"negative address", "/racks/0/places/2/module/inputAddress", "-1", "/racks/0/places/2/module/inputAddress",
+         "from 0 to"},
+        {"address as text", "/racks/0/places/2/module/inputAddress", R"("8")", "/racks/0/places/2/module/inputAddress",
+         "must be an integer"},
+        {"parameter as a list", "/racks/0/places/0/module/parameters/protocol", "[]",
+         "/racks/0/places/0/module/parameters/protocol", "must be true, false, a number or a string"},
+        {"sub-module of a sub-module", "/racks/0/places/0/module/subModules/0/subModules", "[]",
+         "/racks/0/places/0/module/subModules/0/subModules", "no sub-modules of their own"},
+        {"name with a slash and a tilde", "/racks/0/places/0/module/parameters/a~1b~0c", "null",
+         "/racks/0/places/0/module/parameters/a~1b~0c", "must be true, false"},
+        {"module beyond the last place", "/racks/0/places/2",
+         R"({"place": 10, "module": {"orderNumber": "Q3-PO03-W"}})", "/racks/0/places/2/module",
+         "spans 3 places and reaches beyond place 11"},
+    };
+    ASSERT_EQ(ErrorOf([] { ParseStation(ValidStation().dump(), "plant.json", ShippedCatalogue()); }).reason,
+              "no error");
+    for (const Damage& damage : damages) {
+        SCOPED_TRACE(damage.what);
+        ordered_json station = ValidStation();
+        const ordered_json::json_pointer where(damage.where);
+        if (*damage.value) station[where] = ordered_json::parse(damage.value);
+        else station[where.parent_pointer()].erase(where.back());
+        const FileError error = ParseError(station.dump());
+        EXPECT_EQ(error.fileName, "plant.json");
+        EXPECT_EQ(error.pointer, damage.pointer);
+        EXPECT_THAT(error.reason, HasSubstr(damage.reason));
+        EXPECT_THAT(error.what(), HasSubstr(std::string("plant.json: ") + damage.pointer));
+    }
+}
+
+TEST(StationReader, RefusesDamagedAndHostileJson)
+{
+    const std::string valid = ValidStation().dump(2);
+    EXPECT_THAT(ParseError("").reason, HasSubstr("line 1"));
+    EXPECT_THAT(ParseError(valid + "x").reason, HasSubstr("syntax error"));
+    EXPECT_THAT(ParseError("{\"format\": \"\xff\"}").reason, HasSubstr("UTF-8"));
+    EXPECT_THAT(ParseError(R"({"name": 1e999})").reason, HasSubstr("overflow"));
+
+    const FileError repeated = ParseError(R"({"racks": [{"places": [], "places": []}]})");
+    EXPECT_EQ(repeated.pointer, "/racks/0/places");
+    EXPECT_THAT(repeated.reason, HasSubstr("stands twice"));
+
+    EXPECT_THAT(ParseError(std::string(5'000'000, '[')).reason, HasSubstr("nested deeper"));
+    ordered_json manyRacks = ValidStation();
+    for (int i = 0; i < MaxRacks; ++i) manyRacks["racks"].push_back(manyRacks["racks"][0]);
+    EXPECT_EQ(ParseError(manyRacks.dump()).pointer, "/racks");
+    ordered_json longText = ValidStation();
+    longText["name"] = std::string(MaxTextBytes + 1, 'x');
+    EXPECT_EQ(ParseError(longText.dump()).pointer, "/name");
+
+    // Whatever is cut off, it is refused and never half read.
+    for (std::size_t length = 0; length < valid.size(); length += 7)
+        EXPECT_NE(ParseError(valid.substr(0, length)).reason, "no error") << length;
+}
+
+TEST(StationReader, ReadsStationsThatBreakRules)
+{
+    ordered_json station = ValidStation();
+    station["racks"][0]["places"][2]["module"]["orderNumber"] = "Unknown-1";
+    station["racks"][0]["places"][0]["module"]["parameters"]["noSuch"] = 5;
+    const StationData data = ParseStation(station.dump(), "plant.json", ShippedCatalogue());
+    EXPECT_EQ(data.racks[0]->places[6].module->orderNumber, "Unknown-1");
+    EXPECT_EQ(data.racks[0]->places[3].module->parameters.at("noSuch"), ParameterValue(std::int64_t{5}));
+    EXPECT_EQ(data.racks[0]->places[5].usability, 0);
+    EXPECT_EQ(data.racks[0]->places[10].usability, 1);
+}
+
+TEST(StationReader, TakesWholeNumbersForRealParameters)
+{
+    ordered_json station = ValidStation();
+    station["racks"][0]["places"][2]["module"]["parameters"] = {{"highLimit", 12}};
+    const StationData data = ParseStation(station.dump(), "plant.json", ShippedCatalogue());
+    EXPECT_EQ(data.racks[0]->places[6].module->parameters.at("highLimit"), ParameterValue(12.0));
+}
+
+TEST(StationReader, TellsWhyAFileCannotBeRead)
+{
+    EXPECT_THAT(ErrorOf([] { LoadStation("no/such.json", ShippedCatalogue()); }).what(),
+                HasSubstr("no/such.json: there is no such file"));
+    EXPECT_THAT(ErrorOf([] { LoadStation("/", ShippedCatalogue()); }).reason, HasSubstr("not a regular file"));
+}
+
+} // namespace
+} // namespace zqbchwcx::reference
