@@ -56,12 +56,13 @@ void DropTarget::Drop(QDropEvent& event, const Handler& drop)
 
 DragOverEvent DropTarget::Translate(const QDropEvent& event, std::int16_t nState)
 {
+    const QPointF at = ToPixel(event.position());
     mLast = {DataObjectOf(event.mimeData()),
              ToEffects(event.possibleActions()),
              ToButtons(event.buttons()),
              ToShift(event.modifiers()),
-             static_cast<float>(event.position().x()),
-             static_cast<float>(event.position().y()),
+             static_cast<float>(at.x()),
+             static_cast<float>(at.y()),
              nState};
     return mLast;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace zqbchwcx::qt {
@@ -20,6 +21,11 @@ constexpr std::array<std::pair<int, std::int16_t>, 25> SpecialKeys{{
 constexpr std::int16_t KeyF1 = 112;
 
 } // namespace
+
+QPointF ToPixel(QPointF position)
+{
+    return {std::floor(position.x()), std::floor(position.y())};
+}
 
 std::int16_t ToButtons(Qt::MouseButtons buttons)
 {

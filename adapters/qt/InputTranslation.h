@@ -2,12 +2,15 @@
 
 #include "platform/Input.h"
 
+#include <QPointF>
 #include <Qt>
 
 #include <cstdint>
 
 namespace zqbchwcx::qt {
 
+/// The logical pixel that the pointer is on. Between two pixels of a fine screen it is still on the first.
+QPointF ToPixel(QPointF position);
 /// The mask of the buttons of `nButton`; buttons that it does not know are left out.
 std::int16_t ToButtons(Qt::MouseButtons buttons);
 /// The mask of `nShift`.

@@ -68,38 +68,34 @@ void PictureBoxWidget::resizeEvent(QResizeEvent* /*event*/)
     mPicture.Resize({width(), height()});
 }
 
-void PictureBoxWidget::MouseDown(const QMouseEvent& event)
+void PictureBoxWidget::Tell(MouseHandler handler, Qt::MouseButtons buttons, const QMouseEvent& event)
 {
     if (mReceiver == nullptr) return;
-    mReceiver->MouseDown(ToButtons(event.button()), ToShift(event.modifiers()),
-                         static_cast<float>(event.position().x()), static_cast<float>(event.position().y()));
+    const QPointF at = ToPixel(event.position());
+    (mReceiver->*handler)(ToButtons(buttons), ToShift(event.modifiers()), static_cast<float>(at.x()),
+                          static_cast<float>(at.y()));
 }
 
 void PictureBoxWidget::mousePressEvent(QMouseEvent* event)
 {
     setFocus(Qt::MouseFocusReason);
-    MouseDown(*event);
+    Tell(&PictureBoxEvents::MouseDown, event->button(), *event);
 }
 
 void PictureBoxWidget::mouseMoveEvent(QMouseEvent* event)
 {
-    if (mReceiver == nullptr) return;
-    mReceiver->MouseMove(ToButtons(event->buttons()), ToShift(event->modifiers()),
-                         static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+    Tell(&PictureBoxEvents::MouseMove, event->buttons(), *event);
 }
 
 void PictureBoxWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (mReceiver == nullptr) return;
-    mReceiver->MouseUp(ToButtons(event->button()), ToShift(event->modifiers()),
-                       static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+    Tell(&PictureBoxEvents::MouseUp, event->button(), *event);
 }
 
 void PictureBoxWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (mReceiver == nullptr) return;
-    if (event->button() == Qt::LeftButton) mReceiver->DblClick();
-    else MouseDown(*event);
+    if (event->button() != Qt::LeftButton) Tell(&PictureBoxEvents::MouseDown, event->button(), *event);
+    else if (mReceiver != nullptr) mReceiver->DblClick();
 }
 
 void PictureBoxWidget::focusInEvent(QFocusEvent* event)

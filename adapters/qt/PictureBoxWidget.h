@@ -38,7 +38,8 @@ protected:
 
 private:
     void Remember(const QRect& device);
-    void MouseDown(const QMouseEvent& event);
+    using MouseHandler = void (PictureBoxEvents::*)(std::int16_t, std::int16_t, float, float) noexcept;
+    void Tell(MouseHandler handler, Qt::MouseButtons buttons, const QMouseEvent& event);
     DropTarget::Handler DragOverHandler();
 
     PersistentPicture mPicture;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "adapters/qt/PictureBoxWidget.h"
+#include "adapters/qt/PictureCatalog.h"
+#include "adapters/qt/QtToolkit.h"
+#include "adapters/qt/RackOverviewWidget.h"
+#include "managers/VxHWConfigManager.h"
+#include "selection/VxHWSelectionHandler.h"
+#include "tests/support/model/FakeStation.h"
+#include "tests/support/services/TestServices.h"
+#include "views/config/VxHWRackOverview.h"
+
+#include <memory>
+
+namespace zqbchwcx::testing {
+
+/// A station in two real overviews of configuration mode, not shown yet. The second one stands where the rack table
+/// would.
+class OverviewStage {
+public:
+    explicit OverviewStage(FakeStationPtr oStation = nullptr);
+    ~OverviewStage();
+    OverviewStage(const OverviewStage&) = delete;
+    OverviewStage& operator=(const OverviewStage&) = delete;
+
+    /// Four racks with something of everything.
+    static FakeStationPtr FullStation(const CallLogPtr& log);
+
+    VxHWRackOverview& View() { return *widget->Control(); }
+    VxHWSelectionHandler& Selection() { return *manager.VxHWSelectionHandler(); }
+    qt::PictureBoxWidget& Main() { return *widget->findChild<qt::PictureBoxWidget*>("pic_Main"); }
+    void SelectPlace(std::int32_t lRack, std::int32_t lPlace);
+
+    std::shared_ptr<qt::QtToolkit> toolkit;
+    TestServices services;
+    FakeStationPtr station;
+    std::unique_ptr<qt::RackOverviewWidget> widget;
+    std::unique_ptr<qt::RackOverviewWidget> other;
+    VxHWConfigManager manager;
+};
+
+} // namespace zqbchwcx::testing
