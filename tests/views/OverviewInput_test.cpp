@@ -1,0 +1,428 @@
+#include "platform/Input.h"
+#include "tests/views/OverviewFixture.h"
+
+namespace zqbchwcx::testing {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+constexpr std::int16_t Left = vxButtonLeft;
+constexpr std::int16_t Right = vxButtonRight;
+constexpr std::int16_t Middle = vxButtonMiddle;
+
+class OverviewInputTest : public OverviewFixture {
+protected:
+    OverviewInputTest() { Pic().TakeLines(); }
+
+    void Press(float x, float y, std::int16_t nButton = Left) { Mouse().MouseDown(nButton, 0, x, y); }
+    void Move(float x, float y, std::int16_t nButton = Left) { Mouse().MouseMove(nButton, 0, x, y); }
+    void Release(float x, float y, std::int16_t nButton = Left) { Mouse().MouseUp(nButton, 0, x, y); }
+    int DragCount() const { return static_cast<int>(std::count(Pic().lines.begin(), Pic().lines.end(), "OLEDrag")); }
+    /// The cursor key's new position, or -1 when it leads nowhere.
+    std::int32_t CursorFrom(std::int32_t lFocus, std::int16_t nKeyCode, std::int16_t nShift = 0)
+    {
+        handler->FocusPosition(lFocus);
+        controller->Take();
+        site.User().KeyDown(nKeyCode, nShift);
+        const auto lines = controller->Take();
+        if (lines.empty()) return -1;
+        const std::string prefix = "CursorKeyDown ";
+        EXPECT_TRUE(lines.front().starts_with(prefix) && lines.front().ends_with(" " + std::to_string(nShift)));
+        return std::stoi(lines.front().substr(prefix.size()));
+    }
+    std::string TooltipAt(std::int32_t lPosition) const
+    {
+        return toolkit->tooltips.Hover(Pic().hWnd(), CenterOf(lPosition)).text;
+    }
+};
+
+TEST_F(OverviewInputTest, MouseEventsBecomePositions)
+{
+    Mouse().MouseDown(Left, vxShiftMask, 33.6F, 330.5F);
+    Mouse().MouseUp(Left, vxCtrlMask, 41, 330);
+    Mouse().DblClick();
+    Mouse().MouseDown(Middle, 0, 230, 5);
+    Mouse().MouseUp(Middle, 0, 13, 31);
+    EXPECT_THAT(controller->Take(),
+                ElementsAre("MouseDown 2 1 1", "MouseUp 3 1 2", "DblClick 2", "MouseDown -1 4 0", "MouseUp 3000 4 0"));
+    EXPECT_THAT(Menu().shown, IsEmpty());
+}
+
+TEST_F(OverviewInputTest, ADragStartsAtTheThresholdOfTheDesktop)
+{
+    services.settings->values = {{{"Control Panel\\Desktop", "DragWidth"}, "6"},
+                                 {{"Control Panel\\Desktop", "DragHeight"}, "3"}};
+    RecordingControl otherSite(log);
+    view = MakeView(otherSite);
+    controller->dragPosition = 2;
+    struct Case {
+        float dx;
+        float dy;
+        bool drags;
+    };
+    for (const auto& c :
+         {Case{5, 2, false}, Case{6, 0, true}, Case{-6, 0, true}, Case{0, 3, true}, Case{0, -3, true}}) {
+        Pic().TakeLines();
+        Press(33, 330);
+        Move(33 + c.dx, 330 + c.dy, 0);
+        EXPECT_EQ(DragCount(), 0) << "no button held";
+        Move(33 + c.dx, 330 + c.dy);
+        EXPECT_EQ(DragCount(), c.drags ? 1 : 0) << c.dx << " " << c.dy;
+        Move(33 + 2 * c.dx, 330 + 2 * c.dy);
+        Release(33, 330);
+        Move(90, 380);
+        EXPECT_LE(DragCount(), 1) << "one press, one drag";
+    }
+    Pic().TakeLines();
+    Press(33, 330, Middle);
+    Move(90, 330, Middle);
+    Press(70, 330);
+    Move(90, 330);
+    EXPECT_EQ(DragCount(), 0) << "wrong button, then a position without drag";
+
+    services.settings->values[{"Control Panel\\Desktop", "DragWidth"}] = "wide";
+    RecordingControl thirdSite(log);
+    view = MakeView(thirdSite);
+    ASSERT_EQ(services.errors->reports.size(), 1U);
+    EXPECT_THAT(services.errors->reports[0].description, AllOf(HasSubstr("DragWidth"), HasSubstr("wide")));
+    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWRackOverview.P_ReadDragDelayFromRegistry"));
+    Press(33, 330);
+    Move(37, 330);
+    EXPECT_EQ(DragCount(), 1) << "the usual 4 instead";
+    view.reset();
+}
+
+TEST_F(OverviewInputTest, AMoveDuringTheDragStartsNoSecondOne)
+{
+    controller->dragPosition = 2;
+    Pic().onDrag = [&] { Move(90, 380); };
+    Press(33, 330);
+    Move(60, 330);
+    EXPECT_EQ(DragCount(), 1);
+}
+
+TEST_F(OverviewInputTest, ARubberBandSelectsWhatItCovers)
+{
+    view->Refresh();
+    const Raster before = Pic().raster;
+    Select({{3, 1}});
+    Pic().TakeLines();
+    Press(234, 375);
+    Move(100, 300);
+    EXPECT_THAT(Pic().TakeLines(), ElementsAre("Invert 100,300 134x75"));
+    Move(-20, 260);
+    EXPECT_THAT(Pic().TakeLines(), ElementsAre("Invert 100,300 134x75", "Invert 0,260 234x115"));
+    Move(60, 250);
+    Pic().TakeLines();
+    Release(60, 250);
+    EXPECT_EQ(Pic().TakeLines().front(), "Invert 60,250 174x125");
+    EXPECT_EQ(Selection(), "0/3 0/4 0/5 0/6 0/7 0/8 0/9 0/10 0/11 1/3 1/4 1/5 1/6 1/7 1/8 1/9 1/10 1/11");
+
+    station->Rack(1)->state = 0;
+    Press(234, 375);
+    Release(60, 250);
+    EXPECT_EQ(Selection(), "0/3 0/4 0/5 0/6 0/7 0/8 0/9 0/10 0/11") << "a rack that is not present";
+    Press(5, 375);
+    Move(20, 380);
+    Release(20, 380);
+    EXPECT_EQ(Selection(), "");
+    EXPECT_EQ(Raster::FirstDifference(Pic().raster, before), "");
+    Move(100, 100);
+    EXPECT_THAT(Pic().TakeLines(), Not(Contains(HasSubstr("100,100"))));
+}
+
+TEST_F(OverviewInputTest, ARubberBandNeedsAnEmptySpotAndTheControllersConsent)
+{
+    const auto bands = [&](float x, float y, std::int16_t nButton) {
+        Press(x, y, nButton);
+        Move(100, 200, nButton);
+        const bool bBand = Pic().TakeLines() == Lines{"Invert " + std::to_string(static_cast<int>(std::min(x, 100.F))) +
+                                                      ",200 " + std::to_string(static_cast<int>(std::abs(x - 100))) +
+                                                      "x" + std::to_string(static_cast<int>(y - 200))};
+        Release(100, 200, nButton);
+        Pic().TakeLines();
+        return bBand;
+    };
+    EXPECT_TRUE(bands(234, 375, Left));
+    EXPECT_TRUE(bands(234, 375, Right));
+    EXPECT_FALSE(bands(234, 375, Middle));
+    EXPECT_FALSE(bands(33, 330, Left));
+    controller->dragPosition = -1;
+    EXPECT_FALSE(bands(234, 375, Left)) << "a drag goes before a band";
+    controller->dragPosition = -2;
+    controller->canSelectByRubberBand = false;
+    EXPECT_FALSE(bands(234, 375, Left));
+}
+
+TEST_F(OverviewInputTest, NothingIsDrawnBelowTheRubberBand)
+{
+    view->Refresh();
+    Press(234, 375);
+    Move(10, 10);
+    Pic().TakeLines();
+    station->RackPlaceChange.Raise(station->Place(0, 4));
+    const auto lines = Pic().TakeLines();
+    EXPECT_EQ(lines.front(), "Invert 10,10 224x365");
+    EXPECT_EQ(lines.back(), "Invert 10,10 224x365");
+    toolkit->sysColorsChanged();
+    Press(230, 376); // the release was lost: the old band goes
+    Move(231, 377);
+    Release(231, 377);
+    const Raster shown = Pic().raster;
+    RecordingControl otherSite(log);
+    const auto fresh = MakeView(otherSite);
+    fresh->Refresh();
+    EXPECT_EQ(Raster::FirstDifference(shown, Pic().raster), "");
+}
+
+TEST_F(OverviewInputTest, DragEventsReachTheControllerWithTheirPosition)
+{
+    std::int32_t lEffect = 3;
+    Mouse().OLEStartDrag(data, lEffect);
+    Mouse().OLESetData(data, 55);
+    lEffect = 3;
+    Mouse().OLEDragOver(data, lEffect, 1, 2, 33, 330, vxDragEnter);
+    EXPECT_EQ(lEffect, 1);
+    lEffect = 3;
+    Mouse().OLEDragDrop(data, lEffect, 1, 2, 41, 330);
+    EXPECT_EQ(lEffect, 2);
+    Mouse().OLECompleteDrag(lEffect);
+    lEffect = 3;
+    site.User().OLEDragOver(data, lEffect, 0, 0, 250, 10, vxDragOver);
+    EXPECT_THAT(controller->Take(), ElementsAre("OLEStartDrag", "OLESetData 55", "OLEDragOver 2 3 1 2 0",
+                                                "OLEDragDrop 3 3 1 2", "OLECompleteDrag 2", "OLEDragOver -1 3 0 0 2"));
+}
+
+TEST_F(OverviewInputTest, TheDragPointerShowsTheModulesUnderTheMouse)
+{
+    Put(1, 4, "IDB_CRX_MODULE_IO_DIGITAL", 2);
+    auto modules = std::make_shared<FakeModules>(log);
+    modules->modules = {station->Module(1, 4), station->Module(1, 5), station->Module(0, 1)};
+    controller->dragModules = modules;
+    std::int32_t lEffect = 3;
+    const auto over = [&](float x, std::int16_t nState) { Mouse().OLEDragOver(data, lEffect, 0, 0, x, 330, nState); };
+
+    over(50, vxDragEnter);
+    EXPECT_FALSE(DragPic().Visible()) << "the drag carries nothing for this view";
+    controller->state = vxDragDropStateActive;
+    over(50, vxDragOver);
+    EXPECT_TRUE(DragPic().Visible());
+    EXPECT_EQ(DragPic().Bounds(), MakeRect(45, 321, 54, 60));
+    EXPECT_THAT(DragPic().TakeLines(),
+                ElementsAre("BackColor window", "Image IDB_CRX_MODULE_IO_DIGITAL 0,0 style 0",
+                            "Image IDB_CRX_FRAME_LEFT 0,0 style 1", "Image IDB_CRX_MODULE_IO_DIGITAL 18,0 style 0",
+                            "Image IDB_CRX_FRAME_RIGHT 18,0 style 1", "Image IDB_CRX_PLACE_ACTIVE 36,0 style 0"));
+    over(60, vxDragOver);
+    EXPECT_EQ(DragPic().Bounds(), MakeRect(55, 321, 54, 60));
+    EXPECT_THAT(DragPic().TakeLines(), IsEmpty());
+    over(60, vxDragLeave);
+    EXPECT_FALSE(DragPic().Visible());
+    over(60, vxDragEnter);
+    EXPECT_TRUE(DragPic().Visible());
+    Mouse().OLEDragDrop(data, lEffect, 0, 0, 60, 330);
+    EXPECT_FALSE(DragPic().Visible());
+    over(60, vxDragEnter);
+    Mouse().OLECompleteDrag(lEffect);
+    EXPECT_FALSE(DragPic().Visible());
+    over(60, vxDragEnter);
+    modules->modules.clear();
+    over(60, vxDragLeave);
+    over(60, vxDragEnter);
+    EXPECT_FALSE(DragPic().Visible());
+}
+
+TEST_F(OverviewInputTest, KeysReachTheKeyController)
+{
+    for (const std::int16_t nKey :
+         std::vector<std::int16_t>{vxKeySpace, vxKeyDelete, vxKeyClear, vxKeyReturn, vxKeyF10, 65})
+        Key(nKey, vxCtrlMask);
+    EXPECT_THAT(controller->Take(), ElementsAre("SpaceKeyDown 2", "Delete", "Delete", "KeyReturn"));
+}
+
+TEST_F(OverviewInputTest, CursorKeysStepThroughGapsAndPlacesOnlyWhereEditingIsPossible)
+{
+    // Fine: configuration, not locked, no modifier.
+    EXPECT_EQ(CursorFrom(4, vxKeyLeft), 3);
+    EXPECT_EQ(CursorFrom(2, vxKeyLeft), 1);
+    EXPECT_EQ(CursorFrom(1, vxKeyLeft), -1);
+    EXPECT_EQ(CursorFrom(1022, vxKeyRight), 1023);
+    EXPECT_EQ(CursorFrom(1023, vxKeyRight), -1);
+    EXPECT_EQ(CursorFrom(1000, vxKeyRight), 1001);
+
+    const auto expectCoarse = [&](std::int16_t nShift) {
+        EXPECT_EQ(CursorFrom(4, vxKeyLeft, nShift), 2);
+        EXPECT_EQ(CursorFrom(3, vxKeyLeft, nShift), 2);
+        EXPECT_EQ(CursorFrom(2, vxKeyLeft, nShift), -1);
+        EXPECT_EQ(CursorFrom(3, vxKeyRight, nShift), 4);
+        EXPECT_EQ(CursorFrom(4, vxKeyRight, nShift), 6);
+        EXPECT_EQ(CursorFrom(22, vxKeyRight, nShift), -1);
+        EXPECT_EQ(CursorFrom(21, vxKeyRight, nShift), 22);
+    };
+    for (const std::int16_t nShift : std::vector<std::int16_t>{vxShiftMask, vxCtrlMask, vxAltMask})
+        expectCoarse(nShift);
+    view->Locked(true);
+    expectCoarse(0);
+    view->Locked(false);
+    view->Style(vxStyleHWDiag);
+    expectCoarse(0);
+}
+
+TEST_F(OverviewInputTest, CursorKeysChangeTheRackOrGoToItsEnds)
+{
+    EXPECT_EQ(CursorFrom(7, vxKeyUp), 1007);
+    EXPECT_EQ(CursorFrom(3008, vxKeyUp), -1);
+    EXPECT_EQ(CursorFrom(2008, vxKeyDown), 1008);
+    EXPECT_EQ(CursorFrom(8, vxKeyDown), -1);
+    station->Rack(1)->state = 0;
+    EXPECT_EQ(CursorFrom(8, vxKeyUp), -1);
+    EXPECT_EQ(CursorFrom(2008, vxKeyDown), -1);
+    for (const std::int16_t nShift : std::vector<std::int16_t>{vxShiftMask, vxCtrlMask}) {
+        EXPECT_EQ(CursorFrom(2009, vxKeyUp, nShift), 2002);
+        EXPECT_EQ(CursorFrom(2002, vxKeyUp, nShift), -1);
+        EXPECT_EQ(CursorFrom(2003, vxKeyDown, nShift), 2022);
+    }
+    EXPECT_EQ(CursorFrom(2008, vxKeyUp, vxAltMask), -1);
+    for (const std::int16_t nKey : std::vector<std::int16_t>{vxKeyLeft, vxKeyUp, vxKeyRight, vxKeyDown})
+        EXPECT_EQ(CursorFrom(-1, nKey), -1);
+}
+
+TEST_F(OverviewInputTest, TheMenuEnablesWhatTheSelectionAndTheStationAllow)
+{
+    const auto shown = [&] {
+        Menu().shown.clear();
+        Mouse().MouseUp(Right, 0, 33, 330);
+        return Menu().shown.empty() ? std::string() : Menu().shown.back();
+    };
+    EXPECT_EQ(shown(), "");
+    EXPECT_THAT(controller->Take(), ElementsAre("MouseUp 2 2 0"));
+    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    Select({{0, 3}, {0, 4}});
+    EXPECT_EQ(shown(), "at mouse Cut Copy Delete");
+    station->Module(0, 4)->hasParamDialog = true;
+    EXPECT_EQ(shown(), "at mouse EditModuleParams* Cut Copy Delete");
+    station->readOnly = true;
+    EXPECT_EQ(shown(), "at mouse EditModuleParams* Copy");
+    station->displayMode = 1;
+    EXPECT_EQ(shown(), "at mouse EditModuleParams*");
+    station->displayMode = 0;
+    station->readOnly = false;
+
+    handler->SetSelectionToClipboard();
+    handler->FocusPosition(12);
+    Select({});
+    EXPECT_EQ(shown(), "at mouse Paste");
+    handler->FocusPosition(8);
+    EXPECT_EQ(shown(), "") << "the focused place is taken";
+    handler->FocusPosition(12);
+    station->readOnly = true;
+    EXPECT_EQ(shown(), "");
+    station->readOnly = false;
+
+    for (const auto eStyle : {vxStyleHWCompare, vxStyleHWDiag}) {
+        view->Style(eStyle);
+        EXPECT_EQ(shown(), "");
+    }
+    view->Style(vxStyleHWConfig);
+    Mouse().MouseUp(Left, 0, 33, 330);
+    EXPECT_THAT(Menu().shown, IsEmpty());
+}
+
+TEST_F(OverviewInputTest, TheKeyboardOpensTheMenuAtTheFocus)
+{
+    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    Select({{0, 4}});
+    const auto openedBy = [&](std::int32_t lFocus, std::int16_t nKeyCode, std::int16_t nShift) {
+        handler->FocusPosition(lFocus);
+        Menu().shown.clear();
+        site.User().KeyDown(nKeyCode, nShift);
+        EXPECT_THAT(Menu().shown, IsEmpty()) << "only the release opens it";
+        site.User().KeyUp(nKeyCode, nShift);
+        return Menu().shown.empty() ? std::string() : Menu().shown.back().substr(0, Menu().shown.back().find(" Cut"));
+    };
+    EXPECT_EQ(openedBy(2008, vxKeyApps, 0), "at 86,125");
+    EXPECT_EQ(openedBy(2007, vxKeyF10, vxShiftMask), "at 83,125");
+    EXPECT_EQ(openedBy(2000, vxKeyApps, 0), "at 22,128");
+    EXPECT_EQ(openedBy(2008, vxKeyF10, 0), "");
+}
+
+TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)
+{
+    Put(0, 4, "IDB_CRX_MODULE_CPU")->hasParamDialog = true;
+    handler->FocusPosition(12);
+    Select({{0, 4}});
+    handler->SetSelectionToClipboard();
+    for (const auto& item : Menu().items) {
+        Menu().choose = item.name;
+        Key(vxKeyApps);
+    }
+    EXPECT_THAT(controller->Take(), ElementsAre("KeyReturn", "Cut", "Copy", "Paste", "Delete"));
+
+    Lines captions;
+    services.texts->module->texts = {{57635, "Ausschneiden"}};
+    Key(vxKeyApps);
+    for (const auto& item : Menu().items) captions.push_back(item.caption);
+    EXPECT_THAT(captions, ElementsAre("T41001", "-", "Ausschneiden", "T57634", "T57637", "-", "T57632"));
+}
+
+TEST_F(OverviewInputTest, ConfigurationTooltips)
+{
+    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    station->Place(0, 6)->usability = 0;
+    const auto tooltip = toolkit->tooltips.Hover(Pic().hWnd(), CenterOf(8));
+    EXPECT_EQ(tooltip.text, "module HQ IDB_CRX_MODULE_CPU");
+    EXPECT_EQ(tooltip.area, MakeRect(79, 306, 18, 60));
+    EXPECT_EQ(TooltipAt(10), "T6100");
+    EXPECT_EQ(TooltipAt(12), "empty 0/6");
+    EXPECT_EQ(TooltipAt(9), "");
+    EXPECT_EQ(TooltipAt(0), "");
+    controller->state = vxDragDropStateActive;
+    EXPECT_EQ(TooltipAt(8), "");
+    controller->state = vxDragDropStateInactive;
+    view->Locked(true);
+    EXPECT_EQ(TooltipAt(8), "module HQ IDB_CRX_MODULE_CPU");
+    EXPECT_EQ(TooltipAt(10), "");
+    EXPECT_EQ(TooltipAt(12), "");
+    view->VxHWStation(nullptr);
+    EXPECT_FALSE(toolkit->tooltips.IsConnected(Pic().hWnd()));
+}
+
+TEST_F(OverviewInputTest, DiagnosticsTooltips)
+{
+    view->Style(vxStyleHWDiag);
+    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    diag->diagStates = {{"0/4", 1}, {"0/4", 2}, {"0/4", 4}};
+    EXPECT_EQ(TooltipAt(8), "") << "no failure, no state";
+    diag->cpuStates = {{"0/4", 11}, {"0/5", 10}};
+    EXPECT_EQ(TooltipAt(8), "T6102");
+    diag->failures = {{"0/4", 1}};
+    EXPECT_EQ(TooltipAt(8), "T6102\r\nT2021\r\nT2026\r\nT2027");
+    EXPECT_EQ(TooltipAt(10), "") << "an empty place";
+}
+
+TEST_F(OverviewInputTest, CompareTooltips)
+{
+    view->Style(vxStyleHWCompare);
+    const std::int32_t texts[3][8] = {{6107, 6119, 6109, 6110, 6108, 6108, 6112, 6112},
+                                      {6107, 6119, 6109, 6111, 6108, 6108, 6112, 6112},
+                                      {6107, 6119, 6110, 6111, 6108, 6108, 6112, 6112}};
+    for (std::int32_t lType = 0; lType < 3; ++lType) {
+        compare->compareType = lType;
+        for (std::int32_t lResult = 1; lResult <= 8; ++lResult) {
+            compare->results["0/4"] = lResult;
+            EXPECT_EQ(TooltipAt(8), "T" + std::to_string(texts[lType][lResult - 1]) + "\r\nplace text 0/4");
+        }
+    }
+    compare->compareType = 9;
+    compare->results["0/4"] = 3;
+    EXPECT_EQ(TooltipAt(8), "place text 0/4");
+    compare->results["0/4"] = 0;
+    EXPECT_EQ(TooltipAt(8), "");
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
