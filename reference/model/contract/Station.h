@@ -18,8 +18,8 @@ namespace zqbchwcx::reference {
 /// A station held in memory. Every change goes through the edits of reference/model/editing; one that a rule stands
 /// against changes nothing, makes the operation answer False, and is told by `Refused`.
 ///
-/// While `IsDrawable` is False, changes are kept back from the events; when it becomes True again, each changed rack
-/// and place is told once.
+/// While `IsDrawable` is False, changes raise their events as ever, but views draw nothing; when it becomes True again,
+/// `TotalRefresh` tells them to draw what they missed.
 class Station : public VxHWStation {
 public:
     Station(ModelContextPtr oContext, StationData data, StationServices services = {});
