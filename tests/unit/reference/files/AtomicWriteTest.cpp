@@ -20,8 +20,8 @@ namespace zqbchwcx::reference {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::AnyOf;
-using testing::HasSubstr;
+using ::testing::AnyOf;
+using ::testing::HasSubstr;
 
 constexpr int MostCalls = 200;
 const std::string OldContent(2500, 'o');

@@ -7,7 +7,7 @@ namespace zqbchwcx::reference {
 namespace {
 
 using nlohmann::ordered_json;
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
 FileError ParseError(const std::string& text)
 {

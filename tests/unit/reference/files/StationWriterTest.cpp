@@ -11,7 +11,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
 TEST(StationWriter, WritesEveryExampleAsItStands)
 {

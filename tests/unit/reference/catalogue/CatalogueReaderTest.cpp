@@ -1,0 +1,126 @@
+#include "reference/catalogue/CatalogueReader.h"
+
+#include "tests/unit/reference/files/Samples.h"
+
+#include <gmock/gmock.h>
+
+namespace zqbchwcx::reference {
+namespace {
+
+using nlohmann::ordered_json;
+using ::testing::HasSubstr;
+
+ordered_json ValidCatalogue()
+{
+    return ordered_json::parse(R"({
+        "format": "quillon-catalogue", "version": 1, "maker": "Maker",
+        "parameterSets": {"delay": [{"key": "delay", "label": "Delay", "kind": "integer", "unit": "ms",
+                                     "minimum": 1, "maximum": 20, "default": 3}]},
+        "types": [
+            {"orderNumber": "DI", "family": "digital", "name": {"en": "Inputs", "de": "Eingänge"},
+             "description": "-", "picture": "IDB_X", "stations": ["central", "distributedB"], "inputBytes": 2,
+             "subModules": ["SUB"], "parameterSets": ["delay"],
+             "parameters": [{"key": "edge", "label": "Edge", "kind": "choice", "default": "up",
+                             "choices": [{"key": "up", "label": "Up"}, {"key": "down", "label": "Down"}]},
+                            {"key": "factor", "label": "Factor", "kind": "real", "minimum": 0, "maximum": 2,
+                             "default": 1}]},
+            {"orderNumber": "SUB", "family": "digital", "name": "Sub", "description": "-", "isSubModule": true}],
+        "groups": [{"name": "All", "types": ["DI"]}]})");
+}
+
+Catalogue Read(const ordered_json& json)
+{
+    std::vector<JsonDocument> documents;
+    documents.push_back(ParseStrictJson(json.dump(), "types.json"));
+    return ReadCatalogue(documents);
+}
+
+TEST(CatalogueReader, ReadsTypes)
+{
+    const Catalogue catalogue = Read(ValidCatalogue());
+    EXPECT_EQ(catalogue.Maker(), "Maker");
+    const ModuleType* type = catalogue.Find("DI");
+    ASSERT_TRUE(type);
+    EXPECT_EQ(type->name.In(Language::German), "Eingänge");
+    EXPECT_TRUE(type->FitsStation(0));
+    EXPECT_FALSE(type->FitsStation(1));
+    EXPECT_TRUE(type->FitsStation(2));
+    ASSERT_EQ(type->parameters.size(), 3U);
+    EXPECT_EQ(type->parameters[0].key, "delay");
+    EXPECT_EQ(type->parameters[2].defaultValue, ParameterValue(1.0));
+    EXPECT_EQ(catalogue.Groups().at(0).orderNumbers.at(0), "DI");
+    EXPECT_FALSE(catalogue.Find("di"));
+}
+
+TEST(CatalogueReader, RefusesWhatDoesNotFitTogether)
+{
+    struct Damage {
+        const char* where;
+        const char* value; ///< JSON text; empty to remove the member
+        const char* pointer;
+        const char* reason;
+    };
+    const Damage damages[] = {
+        {"/maker", "", "", "\"maker\" is missing"},
+        {"/types/0/family", R"("lamp")", "/types/0/family", "must be one of"},
+        {"/types/0/name/fr", R"("Entrées")", "/types/0/name/fr", "unknown"},
+        {"/types/0/name/de", "", "/types/0/name", "\"de\" is missing"},
+        {"/types/0/places", "0", "/types/0/places", "from 1"},
+        {"/types/0/stations", "[]", "/types/0/stations", "must not be empty"},
+        {"/types/0/stations/1", R"("central")", "/types/0/stations/1", "stands twice"},
+        {"/types/0/inputBytes", "-1", "/types/0/inputBytes", "from 0"},
+        {"/types/0/subModules/0", R"("NONE")", "/types/0/subModules/0", "no module type"},
+        {"/types/0/subModules/0", R"("DI")", "/types/0/subModules/0", "is no sub-module"},
+        {"/types/0/parameterSets/0", R"("none")", "/types/0/parameterSets/0", "no parameter set"},
+        {"/types/0/parameters/0/key", R"("delay")", "/types/0/parameters/0", "stands twice"},
+        {"/types/0/parameters/0/default", R"("left")", "/types/0/parameters/0/default", "none of the choices"},
+        {"/types/0/parameters/0/maximum", "1", "/types/0/parameters/0/maximum", "no range"},
+        {"/types/0/parameters/0/choices/1/key", R"("up")", "/types/0/parameters/0/choices/1/key", "stands twice"},
+        {"/types/0/parameters/1/default", "2.5", "/types/0/parameters/1/default", "own range"},
+        {"/types/0/parameters/1/minimum", "3", "/types/0/parameters/1/minimum", "greater than the maximum"},
+        {"/types/0/parameters/1/choices", "[]", "/types/0/parameters/1/choices", "no choices"},
+        {"/parameterSets/delay/0/default", "3.5", "/parameterSets/delay/0/default", "must be an integer"},
+        {"/parameterSets/delay/0/minimum", "", "/parameterSets/delay/0", "\"minimum\" is missing"},
+        {"/types/1/orderNumber", R"("DI")", "/types/1/orderNumber", "stands twice"},
+        {"/types/1/picture", R"("IDB_X")", "/types/1/picture", "do not have this"},
+        {"/groups/0/types/0", R"("NONE")", "/groups/0/types/0", "no module type"},
+    };
+    for (const Damage& damage : damages) {
+        SCOPED_TRACE(damage.where);
+        ordered_json json = ValidCatalogue();
+        const ordered_json::json_pointer where(damage.where);
+        if (*damage.value) json[where] = ordered_json::parse(damage.value);
+        else json[where.parent_pointer()].erase(where.back());
+        const FileError error = ErrorOf([&] { Read(json); });
+        EXPECT_EQ(error.fileName, "types.json");
+        EXPECT_EQ(error.pointer, damage.pointer);
+        EXPECT_THAT(error.reason, HasSubstr(damage.reason));
+    }
+}
+
+TEST(CatalogueReader, JoinsFiles)
+{
+    std::vector<JsonDocument> documents;
+    documents.push_back(ParseStrictJson(ValidCatalogue().dump(), "a.json"));
+    const auto withSecond = [&](const char* text) {
+        documents.push_back(ParseStrictJson(text, "b.json"));
+        const FileError error = ErrorOf([&] { ReadCatalogue(documents); });
+        documents.pop_back();
+        return error;
+    };
+    EXPECT_EQ(withSecond(R"({"format": "quillon-catalogue", "version": 1, "maker": "Maker", "types": [
+                 {"orderNumber": "DO", "family": "digital", "name": "Outputs", "description": "-", "picture": "P",
+                  "stations": ["central"], "parameterSets": ["delay"], "subModules": ["SUB"]}]})")
+                  .reason,
+              "no error");
+    EXPECT_EQ(withSecond(R"({"format": "quillon-catalogue", "version": 1, "maker": "Other"})").pointer, "/maker");
+    EXPECT_EQ(withSecond(R"({"format": "quillon-catalogue", "version": 1, "maker": "Maker",
+                             "parameterSets": {"delay": []}})")
+                  .pointer,
+              "/parameterSets/delay");
+    EXPECT_THAT(ErrorOf([] { LoadCatalogueDirectory(QUILLON_SOURCE_DIR "/assets/texts/none"); }).reason,
+                HasSubstr("no catalogue file"));
+}
+
+} // namespace
+} // namespace zqbchwcx::reference

@@ -1,0 +1,86 @@
+#include "reference/commands/CheckReport.h"
+#include "reference/commands/Convert.h"
+#include "reference/commands/ModuleListText.h"
+#include "tests/unit/reference/files/Samples.h"
+#include "tests/unit/reference/files/TemporaryDirectory.h"
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+namespace zqbchwcx::reference {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const std::vector<ModuleRow> Awkward = {
+    {0, 4, 0, "DI 16", "Q3-DI16-A", "0..1", "", "says \"stop\", then waits"},
+    {1, 11, 2, "a|b\\c", "X", "", "4", "Größe\r\nzwei"},
+};
+
+TEST(ModuleList, FollowsRacksPlacesAndSubModules)
+{
+    const auto rows = ListModules(ExampleStation("tank-farm"), ShippedCatalogue(), Language::German);
+    ASSERT_GE(rows.size(), 10U);
+    EXPECT_EQ(rows[1].orderNumber, "Q3-CP30-C");
+    EXPECT_EQ(rows[1].module, "CPU 330C");
+    const ModuleRow levels{0, 2, 1, "Level switches", "Q3-CP30-DI", "0..1", "", ""};
+    EXPECT_EQ(rows[2], levels);
+    EXPECT_EQ(rows.back().module, "Platzhalter");
+}
+
+TEST(ModuleListText, QuotesCsvAsOtherProgramsReadIt)
+{
+    EXPECT_EQ(WriteModuleList(Awkward, ListFormat::Csv, Language::English),
+              "Rack,Place,Sub-module,Module,Order number,I address,O address,Comment\r\n"
+              "0,4,,DI 16,Q3-DI16-A,0..1,,\"says \"\"stop\"\", then waits\"\r\n"
+              "1,11,2,a|b\\c,X,,4,\"Größe\r\nzwei\"\r\n");
+}
+
+TEST(ModuleListText, KeepsTablesWhole)
+{
+    const std::string markdown = WriteModuleList(Awkward, ListFormat::Markdown, Language::German);
+    EXPECT_THAT(markdown, StartsWith("| Träger | Platz |"));
+    EXPECT_THAT(markdown, HasSubstr("| 1 | 11 | 2 | a\\|b\\\\c | X |  | 4 | Größe<br>zwei |\n"));
+    EXPECT_EQ(WriteModuleList(Awkward, ListFormat::Plain, Language::German),
+              "Träger  Platz  Submodul  Baugruppe  Bestellnummer  E-Adresse  A-Adresse  Kommentar\n"
+              "0       4                DI 16      Q3-DI16-A      0..1                  says \"stop\", then waits\n"
+              "1       11     2         a|b\\c      X                         4          Größe  zwei\n");
+    const auto json = nlohmann::json::parse(WriteModuleList(Awkward, ListFormat::Json, Language::German));
+    EXPECT_EQ(json[1]["comment"], "Größe\r\nzwei");
+    EXPECT_EQ(json[0].count("outputs"), 0U);
+    EXPECT_EQ(WriteModuleList({}, ListFormat::Json, Language::English), "[]\n");
+}
+
+TEST(CheckReport, SaysFilePlaceRuleAndReason)
+{
+    const std::vector<Refusal> found = {{Rule::WrongPlace, {1, 4}, {"No.", "Nein."}}, {Rule::ReadOnly, {}, {"R", "S"}}};
+    EXPECT_EQ(WriteCheckReport(found, "a.json", Language::English),
+              "a.json: place 4 of rack 1: wrong-place: No.\na.json: read-only: R\n");
+    EXPECT_EQ(WriteCheckReport({}, "a.json", Language::German), "");
+}
+
+TEST(Convert, WritesWhatTheNameSays)
+{
+    const TemporaryDirectory directory;
+    const std::string source = QUILLON_SOURCE_DIR "/examples/waterworks.station.json";
+    const auto convert = [&](const std::string& name) {
+        return ErrorOf([&] { ConvertStation(source, directory.File(name), ShippedCatalogue(), Language::English); });
+    };
+    EXPECT_EQ(convert("a.json").reason, "no error");
+    EXPECT_EQ(directory.Read("a.json"), ReadFile(SystemFiles(), source, LargestStationFile));
+    EXPECT_EQ(convert("a.csv").reason, "no error");
+    EXPECT_THAT(directory.Read("a.csv"), HasSubstr("Q3-CP10-A"));
+    EXPECT_EQ(convert("a.md").reason, "no error");
+    EXPECT_THAT(directory.Read("a.md"), StartsWith("| Rack |"));
+    EXPECT_THAT(convert("a.xml").reason, HasSubstr(".json, .csv or .md"));
+
+    directory.Write("damaged.json", "{");
+    EXPECT_THROW(
+        ConvertStation(directory.File("damaged.json"), directory.File("a.csv"), ShippedCatalogue(), Language::English),
+        FileError);
+    EXPECT_THAT(directory.Read("a.csv"), HasSubstr("Q3-CP10-A"));
+}
+
+} // namespace
+} // namespace zqbchwcx::reference
