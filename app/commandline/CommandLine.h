@@ -32,7 +32,7 @@ struct CommandLine {
 /// Exit codes of the program.
 enum ExitCode : int { ExitClean = 0, ExitBrokenRules = 1, ExitUsage = 2, ExitFile = 3 };
 
-inline constexpr double MinimumScale = 0.25;
-inline constexpr double MaximumScale = 16;
+inline constexpr double MinimumScale = 0.5;
+inline constexpr double MaximumScale = 8;
 
 } // namespace quillon_ed

@@ -60,7 +60,7 @@ Draws a view of the station without a display. The ending of FILE says what is w
 .pdf (vectors; a PDF page has a header with the station's name, the date and the page number).
 
   -o, --output FILE   the file to write; one that exists is replaced
-  --scale NUMBER      PNG: device pixels to a logical pixel, from 0.25 to 16; 1 if not given
+  --scale NUMBER      PNG: device pixels to a logical pixel, from 0.5 to 8; 1 if not given
   --view VIEW         the view to draw: overview
 )",
             R"(Aufruf: quillon-ed render STATION -o DATEI [--scale ZAHL] [--view overview] [--lang de|en]
@@ -69,7 +69,7 @@ Zeichnet eine Ansicht der Station ohne Bildschirm. Die Endung von DATEI sagt, wa
 .svg oder .pdf (Vektoren; eine PDF-Seite hat eine Kopfzeile mit Stationsname, Datum und Seitenzahl).
 
   -o, --output DATEI  die Datei, die geschrieben wird; eine vorhandene wird ersetzt
-  --scale ZAHL        PNG: Gerätepunkte je logischem Bildpunkt, von 0.25 bis 16; ohne Angabe 1
+  --scale ZAHL        PNG: Gerätepunkte je logischem Bildpunkt, von 0.5 bis 8; ohne Angabe 1
   --view ANSICHT      die Ansicht, die gezeichnet wird: overview
 )"};
 }

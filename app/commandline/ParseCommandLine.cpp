@@ -47,8 +47,8 @@ Reason setScale(CommandLine& line, const std::string& value)
     // Written so that "nan" is refused too.
     const bool inRange = scale >= MinimumScale && scale <= MaximumScale;
     if (error != std::errc() || end != value.data() + value.size() || !inRange)
-        return LocalizedText{"the scale '" + value + "' is not a number from 0.25 to 16",
-                             "der Maßstab '" + value + "' ist keine Zahl von 0.25 bis 16"};
+        return LocalizedText{"the scale '" + value + "' is not a number from 0.5 to 8",
+                             "der Maßstab '" + value + "' ist keine Zahl von 0.5 bis 8"};
     line.scale = scale;
     return {};
 }

@@ -38,9 +38,8 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
             throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed");
         const PageHeader header{ToQString(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
-        const auto context = std::make_shared<ModelContext>(ModelContext{
-            std::make_shared<const Catalogue>(services.Catalogue()), [&] { return services.CurrentLanguage(); }});
-        ExportOverview(std::make_shared<Station>(context, std::move(data)), header, line.scale, ToQString(line.output));
+        ExportOverview(std::make_shared<Station>(services.Context(), std::move(data)), header, line.scale,
+                       ToQString(line.output));
         tellReports(services.Errors(), streams.err);
         return ExitClean;
     });

@@ -23,6 +23,7 @@ namespace {
 QByteArray PngOf(const VxHWStationPtr& station, double scale)
 {
     qt::RackOverviewWidget widget;
+    widget.resize(widget.sizeHint());
     ShowStation(*widget.Control(), station);
     QBuffer buffer;
     widget.RenderToImage(scale).save(&buffer, "PNG");

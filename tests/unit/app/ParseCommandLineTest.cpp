@@ -95,9 +95,9 @@ TEST(ParseCommandLine, RefusesValuesThatAreMissingSuperfluousOrWrong)
     EXPECT_EQ(Refusal({"--lang", "fr"}), "there is no language 'fr'; the languages are: de, en");
     EXPECT_EQ(Refusal({"render", "s.json", "-o", "x.png", "--view", "top"}),
               "there is no view 'top'; the views are: overview");
-    for (const std::string scale : {"", "two", "2x", "0", "0.2", "17", "-1", "nan", "inf"})
+    for (const std::string scale : {"", "two", "2x", "0", "0.4", "9", "-1", "nan", "inf"})
         EXPECT_EQ(Refusal({"render", "s.json", "-o", "x.png", "--scale", scale}),
-                  "the scale '" + scale + "' is not a number from 0.25 to 16");
+                  "the scale '" + scale + "' is not a number from 0.5 to 8");
 }
 
 TEST(ParseCommandLine, CountsTheFiles)

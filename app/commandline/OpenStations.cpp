@@ -1,0 +1,55 @@
+#include "app/commandline/OpenStations.h"
+
+#include "app/commandline/TellErrors.h"
+#include "app/host/AppServices.h"
+#include "app/host/Strings.h"
+#include "app/window/MainWindow.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QSettings>
+#include <QTimer>
+
+#include <iostream>
+
+namespace quillon_ed {
+
+namespace {
+
+/// A program shows one station: the first one itself, each of the others in a program of its own, so that one that
+/// dies takes no other with it.
+void openOtherStations(const CommandLine& line)
+{
+    for (std::size_t i = 1; i < line.files.size(); ++i) {
+        QStringList arguments;
+        if (line.language)
+            arguments << QStringLiteral("--lang")
+                      << (*line.language == Language::German ? QStringLiteral("de") : QStringLiteral("en"));
+        arguments << QStringLiteral("--") << ToQString(line.files[i]);
+        if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
+            std::cerr << "quillon-ed: " << line.files[i] << ": another program could not be started for it\n";
+    }
+}
+
+} // namespace
+
+int OpenStations(const CommandLine& line)
+{
+    return TellErrors(std::cerr, [&] {
+        QSettings settings;
+        AppServices services(settings);
+        if (line.language) services.ShowLanguage(*line.language);
+        openOtherStations(line);
+
+        MainWindow window(services);
+        window.show();
+        // Dialogs about files belong to a window that is there.
+        QTimer::singleShot(0, &window, [&] {
+            if (!line.files.empty()) window.Files().OpenFile(ToQString(line.files.front()));
+            window.Files().OfferRecovery(false);
+        });
+        return QApplication::exec();
+    });
+}
+
+} // namespace quillon_ed

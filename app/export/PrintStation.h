@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/export/StationPages.h"
+#include "reference/model/contract/Station.h"
+
+class QPrinter;
+
+namespace quillon_ed {
+
+/// Prints the overview of a central station, and the module list of any station, in the language of the station's
+/// context. Only the printer's page range is printed. False when the printer cannot be used.
+bool PrintStation(const zqbchwcx::reference::StationPtr& station, const PageHeader& header, QPrinter& printer);
+
+} // namespace quillon_ed
