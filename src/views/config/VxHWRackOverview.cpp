@@ -289,12 +289,18 @@ void VxHWRackOverview::DrawPlace(const VxHWRackPlacePtr& oPlace)
     const bool bSelected = mSelection.IsSelected(lRack, lPlace);
     if (bSelected) ContentChange.Raise();
     mPlacePainter.Draw(oPlace, bSelected);
-    mSelection.MarkDrawn(lRack, lPlace);
+    // Until a pending selection is drawn as a whole, the frames of its groups are not.
+    if (!mbSelectionPending) mSelection.MarkDrawn(lRack, lPlace);
 
-    // The place may cover the stem of the mark in the gap at its right.
+    DrawCoveredGapMark(lRack, lPlace);
+    if (lPlace == InterfaceModuleLinks::PlaceNumber) mLinks.P_CheckIMLinks();
+}
+
+void VxHWRackOverview::DrawCoveredGapMark(std::int32_t lRack, std::int32_t lPlace)
+{
+    // The stem of the mark in the gap at the right of a place lies on the place.
     const std::int32_t lFocus = mContext.FocusPosition();
     if (lFocus == G_GapPosition(lRack, lPlace)) mFocusMarks.Set(G_PositionInfo(lFocus));
-    if (lPlace == InterfaceModuleLinks::PlaceNumber) mLinks.P_CheckIMLinks();
 }
 
 void VxHWRackOverview::RedrawPlace(std::int32_t lRack, std::int32_t lPlace)
@@ -332,7 +338,11 @@ void VxHWRackOverview::P_SetBorderSelection(const VxHWModulePtr& oParentModule) 
     G_Trap(ClassName, "P_SetBorderSelection", [&] {
         const auto oPlaces = mContext.Station().ParentModulePlaces(oParentModule);
         for (const auto& oPlace : *oPlaces) {
-            if (mLayout.Shows(oPlace->Rack()->Number(), oPlace->Number())) mPlacePainter.P_DrawBorder(oPlace);
+            const std::int32_t lRack = oPlace->Rack()->Number();
+            const std::int32_t lPlace = oPlace->Number();
+            if (!mLayout.Shows(lRack, lPlace)) continue;
+            mPlacePainter.P_DrawBorder(oPlace);
+            DrawCoveredGapMark(lRack, lPlace);
         }
     });
 }

@@ -16,13 +16,19 @@ Raster::Ink ColorInk(OleColor color)
     return Mixed(1, static_cast<std::uint32_t>(color));
 }
 
-Raster::Ink PatternInk(std::string_view name, Point at, std::uint64_t look)
-{
-    Raster::Ink ink = std::hash<std::string_view>()(name);
-    for (const auto value : {static_cast<std::uint64_t>(at.x), static_cast<std::uint64_t>(at.y), look})
-        ink = Mixed(ink, value);
-    return ink;
-}
+/// The inks of one picture, all different.
+class Pattern {
+public:
+    Pattern(std::string_view name, std::uint64_t look) : mBase(Mixed(std::hash<std::string_view>()(name), look)) {}
+
+    Raster::Ink At(std::int32_t x, std::int32_t y) const
+    {
+        return Mixed(mBase, static_cast<std::uint64_t>(x) * 4096 + static_cast<std::uint64_t>(y));
+    }
+
+private:
+    Raster::Ink mBase;
+};
 
 } // namespace
 
@@ -52,19 +58,20 @@ void Raster::Text(std::string_view text, const Rect& box, FontWeight weight, Ole
     const Rect cell =
         MakeRect(box.left + (box.width() - width) / 2, box.top + (box.height() - cellHeight) / 2, width, cellHeight);
     Fill(cell, background);
-    const auto look =
-        static_cast<std::uint64_t>(weight) + 2 * static_cast<std::uint64_t>(static_cast<std::uint32_t>(color));
+    const Pattern pattern(text,
+                          static_cast<std::uint64_t>(weight) + 2 * std::uint64_t{static_cast<std::uint32_t>(color)});
     for (std::int32_t y = glyphRows.top; y < glyphRows.bottom; ++y)
-        for (std::int32_t x = 0; x < width; ++x) Set({cell.left + x, cell.top + y}, PatternInk(text, {x, y}, look));
+        for (std::int32_t x = 0; x < width; ++x) Set({cell.left + x, cell.top + y}, pattern.At(x, y));
 }
 
 void Raster::Draw(const FakeImage& image, Point at, DrawStyle style)
 {
     const Size size = image.PictureSize();
     const bool bBlended = style == DrawStyle::Blended || style == DrawStyle::TransparentBlended;
+    const Pattern pattern(image.Key(), bBlended ? 1 : 0);
     for (std::int32_t y = 0; y < size.height; ++y) {
         for (std::int32_t x = 0; x < size.width; ++x) {
-            if (image.IsOpaque({x, y})) Set({at.x + x, at.y + y}, PatternInk(image.Key(), {x, y}, bBlended ? 1 : 0));
+            if (image.IsOpaque({x, y})) Set({at.x + x, at.y + y}, pattern.At(x, y));
         }
     }
 }
