@@ -6,13 +6,11 @@ import os
 import subprocess
 import xml.etree.ElementTree as xml
 
-from desk.commandline import EXAMPLES, Home
+from desk.commandline import AS_ORDINARY_USER, EXAMPLES, Home
 from desk.picture import read_png
 
 CLEAN, BROKEN, USAGE, UNREADABLE = 0, 1, 2, 3
 
-# Without the rights over every file that the superuser has.
-AS_ORDINARY_USER = ["setpriv", "--bounding-set=-all", "--inh-caps=-all"] if os.geteuid() == 0 else []
 ON_A_FULL_DISK = ["bash", "-c", 'trap "" XFSZ; ulimit -f 0; exec "$@"', "-"]
 
 

@@ -10,6 +10,9 @@ PROGRAM = os.environ["QUILLON_PROGRAM"]
 SOURCE = Path(os.environ["QUILLON_SOURCE"])
 EXAMPLES = SOURCE / "examples"
 
+# In front of a command: without the rights over every file that the superuser has.
+AS_ORDINARY_USER = ["setpriv", "--bounding-set=-all", "--inh-caps=-all"] if os.geteuid() == 0 else []
+
 
 class Home(unittest.TestCase):
     """A test with a folder of its own that is also the user's home: nothing leaks in or out."""

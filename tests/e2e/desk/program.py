@@ -1,15 +1,13 @@
 """Quillon Ed in a window, as a user sees and touches it."""
-import json
 import resource
 import subprocess
 
 from .commandline import PROGRAM, Home
 from .display import Display
-from .picture import read_png
+from .overview import Overview
 from .waiting import until
 
 MODULES_TYPE = "application/x-vxhwconfigtext"
-BAND = 92  # from one rack to the next, in pixels of the picture
 
 
 class OnDisplay(Home):
@@ -20,11 +18,22 @@ class OnDisplay(Home):
         cls.display = Display()
         cls.addClassCleanup(cls.display.close)
 
-    def start(self, *arguments, area=(0, 0, 1000, 900)):
+    def start(self, *arguments, area=(0, 0, 1000, 900), before=()):
         """Starts a program, waits for its window and puts it into the area of the screen."""
-        program = Program(self, arguments, area)
+        program = Program(self, arguments, area, before)
         self.addCleanup(program.kill)
         return program
+
+    def open(self, station, **more):
+        """Starts a program on a station and finds its overview."""
+        program = self.start(station, **more)
+        drawn = self.folder / "drawn.png"
+        self.succeed("render", station, "-o", drawn)
+        return program, Overview(program, drawn)
+
+    def clipboard_modules(self):
+        """The text of the modules on the clipboard."""
+        return self.display.clipboard(MODULES_TYPE).decode("utf-16-le").rstrip("\0")
 
     def setUp(self):
         super().setUp()
@@ -32,11 +41,11 @@ class OnDisplay(Home):
 
 
 class Program:
-    def __init__(self, test, arguments, area):
+    def __init__(self, test, arguments, area, before):
         self.test = test
         self.display = test.display
         # Writing beyond a limit set later shall be an error to the program, not its end.
-        self.process = subprocess.Popen([PROGRAM, "--lang", "en", *[str(argument) for argument in arguments]],
+        self.process = subprocess.Popen([*before, PROGRAM, "--lang", "en", *[str(argument) for argument in arguments]],
                                         env=test.environment(self.display.name), cwd=test.folder,
                                         restore_signals=False, stdin=subprocess.DEVNULL)
         self.window = until(self.main_window, "the program shows its window")
@@ -86,30 +95,3 @@ class Program:
 
     def allow_writing(self):
         resource.prlimit(self.process.pid, resource.RLIMIT_FSIZE, (resource.RLIM_INFINITY, resource.RLIM_INFINITY))
-
-    # The rack overview
-
-    def rack_origin(self, station, rack=0):
-        """Where the overview's drawing surface lies on the screen: found by the left cap of the rack's rail, which
-        looks the same whatever is selected."""
-        drawn = self.test.folder / "origin.png"
-        self.test.succeed("render", station, "-o", drawn)
-        picture = read_png(drawn)
-        top = (3 - rack) * BAND + 29
-        cap = picture.cut(SURFACE_LEFT + 11, top + 15, 13, 40)
-        left, upper, _, _ = self.display.geometry(self.window)
-        self.display.activate(self.window)
-
-        def search():
-            found = self.display.picture().find(cap)
-            inside = [(x, y) for x, y in found if self.contains(x, y)]
-            # The racks look alike: the n-th from the bottom is rack n.
-            inside.sort(key=lambda point: -point[1])
-            return inside
-        found = until(search, "the overview shows its racks")
-        x, y = found[0]
-        return x - 11, y - 15 - 29 - 3 * BAND
-
-    def contains(self, x, y):
-        left, top, width, height = self.display.geometry(self.window)
-        return left <= x < left + width and top <= y < top + height
