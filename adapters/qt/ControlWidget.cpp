@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPalette>
+#include <QResizeEvent>
 
 namespace zqbchwcx::qt {
 namespace {
@@ -77,6 +78,17 @@ void ControlWidget::TextFont(const QFont& font)
 {
     mFont = font;
     for (auto* box : findChildren<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly)) box->Picture().Font(font);
+}
+
+void ControlWidget::ResizeNow(QSize size)
+{
+    const QSize previous = this->size();
+    if (size == previous) return;
+    resize(size);
+    if (!testAttribute(Qt::WA_PendingResizeEvent)) return;
+    setAttribute(Qt::WA_PendingResizeEvent, false);
+    QResizeEvent event(size, previous);
+    resizeEvent(&event);
 }
 
 QColor ControlWidget::BackgroundColor() const

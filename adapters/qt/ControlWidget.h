@@ -26,6 +26,8 @@ public:
     void Receiver(UserControlEvents* receiver);
     void TextFont(const QFont& font);
     const QFont& TextFont() const { return mFont; }
+    /// Resizes, and tells the receiver at once even while it is hidden.
+    void ResizeNow(QSize size);
     /// The colour between and around the child windows.
     QColor BackgroundColor() const;
     /// The control and its children as a picture, at the ratio that was asked for last.

@@ -27,7 +27,7 @@ public:
     std::int32_t Height() const override { return mWidget ? mWidget->height() * vxTwipsPerPixel : 0; }
     void Size(std::int32_t lWidth, std::int32_t lHeight) override
     {
-        if (mWidget) mWidget->resize(lWidth / vxTwipsPerPixel, lHeight / vxTwipsPerPixel);
+        if (mWidget) mWidget->ResizeNow({lWidth / vxTwipsPerPixel, lHeight / vxTwipsPerPixel});
     }
     void Font(std::string_view family, double points) override
     {
@@ -50,7 +50,10 @@ public:
 
     void Move(const Rect& rect) override
     {
-        if (auto* widget = Widget()) widget->setGeometry(rect.left, rect.top, rect.width(), rect.height());
+        auto* widget = Widget();
+        if (widget == nullptr) return;
+        widget->move(rect.left, rect.top);
+        widget->ResizeNow({rect.width(), rect.height()});
     }
 };
 

@@ -56,8 +56,9 @@ RackOverviewWidget::RackOverviewWidget(QWidget* parent) : QWidget(parent), m(std
     setAccessibleDescription(tr("Racks of the station with their places and modules; the arrow keys move the focus"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(SmallestSize);
+    resize(ComfortableSize);
     setFocusProxy(m->window);
-    m->window->resize(size());
+    m->window->ResizeNow(size());
     m->window->show();
     m->contentChange = m->view->ContentChange.Connect([this] { emit contentChanged(); });
     m->selChange = m->view->SelChange.Connect([this] { emit selChanged(); });
@@ -75,6 +76,8 @@ QImage RackOverviewWidget::RenderToImage(double scale)
 {
     // Drawing anew is no news for the host.
     const QSignalBlocker silence(this);
+    // A widget that was never shown has not been told of its size.
+    m->window->ResizeNow(size().expandedTo(SmallestSize));
     m->window->OverrideRatio(std::clamp(scale, SmallestScale, LargestScale));
     QImage image = m->window->ToImage();
     m->window->OverrideRatio(0);
@@ -93,7 +96,7 @@ QSize RackOverviewWidget::minimumSizeHint() const
 
 void RackOverviewWidget::resizeEvent(QResizeEvent* /*event*/)
 {
-    m->window->resize(size());
+    m->window->ResizeNow(size());
 }
 
 } // namespace zqbchwcx::qt

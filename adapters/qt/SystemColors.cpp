@@ -108,7 +108,7 @@ QColor ReadableOn(OleColor color, const QColor& background)
 {
     const QColor wanted = ToQColor(color).value_or(QColor(Qt::black));
     if (!IsSystemColor(color) || Contrast(wanted, background) >= SmallestContrast) return wanted;
-    const bool isGrey = color == vxColorGrayText;
+    const bool isGrey = color == vxColorGrayText || color == vxColorButtonShadow;
     const QColor dark = isGrey ? QColor(0x6E, 0x6E, 0x6E) : QColor(Qt::black);
     const QColor light = isGrey ? QColor(0xA8, 0xA8, 0xA8) : QColor(Qt::white);
     return Contrast(dark, background) >= Contrast(light, background) ? dark : light;

@@ -1,3 +1,4 @@
+#include "adapters/qt/ControlWidget.h"
 #include "foundation/PlacePosition.h"
 #include "foundation/model/VxHWRackPlaces.h"
 #include "tests/qt/OverviewStage.h"
@@ -24,6 +25,116 @@ TEST(OverviewPicture, looksAsStoredAtRatios1And2InLightAndDark)
     stage.View().Refresh();
     EXPECT_TRUE(LooksLikeReference(stage.widget->RenderToImage(2), "online-dark-2x"));
     EXPECT_TRUE(stage.services.errors->reports.empty());
+}
+
+/// Random changes of everything that the overview shows.
+class RandomChanges {
+public:
+    RandomChanges(OverviewStage& stage, std::uint32_t seed) : mStage(stage), mRandom(seed) {}
+
+    void Change()
+    {
+        const std::int32_t lRack = Number(0, 3);
+        const std::int32_t lPlace = Number(1, 11);
+        auto& station = *mStage.station;
+        switch (Number(0, 5)) {
+        case 0:
+            mStage.Selection().FocusPosition(G_PlacePosition(lRack, lPlace));
+            break;
+        case 1:
+            mStage.Selection().FocusPosition(G_GapPosition(lRack, Number(0, 11)));
+            break;
+        case 2:
+            mStage.SelectPlace(lRack, lPlace);
+            break;
+        case 3:
+            station.Rack(lRack)->state = Number(0, 1);
+            station.RackChange.Raise(station.Rack(lRack));
+            break;
+        case 4:
+            station.Place(lRack, lPlace)->usability = Number(0, 1);
+            station.RackPlaceChange.Raise(station.Place(lRack, lPlace));
+            break;
+        default:
+            // Members of modules that span places stay together.
+            if (station.Module(lRack, lPlace)->indexInParent != 0) break;
+            if (Number(0, 1) == 0) station.Place(lRack, lPlace)->Empty();
+            else station.Put(lRack, lPlace, "new")->pictureName = "IDB_CRX_MODULE_IO_ANALOG";
+            station.RackPlaceChange.Raise(station.Place(lRack, lPlace));
+        }
+    }
+
+private:
+    std::int32_t Number(std::int32_t lFrom, std::int32_t lTo)
+    {
+        return std::uniform_int_distribution<std::int32_t>(lFrom, lTo)(mRandom);
+    }
+
+    OverviewStage& mStage;
+    std::mt19937 mRandom;
+};
+
+class OverviewAtRatio : public ::testing::TestWithParam<double> {};
+
+TEST_P(OverviewAtRatio, showsAfterAnyChangesWhatItShowsDrawnAfresh)
+{
+    OverviewStage stage;
+    stage.widget->findChild<qt::ControlWidget*>()->OverrideRatio(GetParam());
+    RandomChanges changes(stage, 20);
+    for (int round = 0; round < 20; ++round) {
+        for (int i = 0; i < 15; ++i) changes.Change();
+        const QImage incremental = stage.Main().Picture().Pixels().copy();
+        stage.View().VxHWStation(stage.station);
+        stage.View().Refresh();
+        const QRect difference = DifferenceOf(incremental, stage.Main().Picture().Pixels());
+        ASSERT_TRUE(difference.isEmpty()) << "round " << round << ": differs at " << difference.x() / GetParam() << ", "
+                                          << difference.y() / GetParam() << ", size " << difference.width() / GetParam()
+                                          << " x " << difference.height() / GetParam();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(ratios, OverviewAtRatio, ::testing::Values(1.0, 1.25, 1.5, 1.75, 2.0, 3.0));
+
+TEST(OverviewWidget, isInvitingAndKeepsItsSmallestSize)
+{
+    OverviewStage stage;
+    EXPECT_EQ(stage.widget->minimumSizeHint(), QSize(235, 392));
+    EXPECT_GE(stage.widget->sizeHint().width(), 242);
+    EXPECT_FALSE(stage.widget->accessibleName().isEmpty());
+    EXPECT_EQ(stage.widget->RenderToImage(1.5).size(), QSize(405, 588));
+
+    int events = 0;
+    QObject::connect(stage.widget.get(), &qt::RackOverviewWidget::focusChanged, [&] { ++events; });
+    QObject::connect(stage.widget.get(), &qt::RackOverviewWidget::contentChanged, [&] { ++events; });
+    stage.widget->RenderToImage(2);
+    EXPECT_EQ(events, 0) << "a picture of the widget is no change of it";
+    stage.Selection().FocusPosition(G_PlacePosition(0, 7));
+    EXPECT_EQ(events, 1);
+}
+
+TEST(OverviewWidget, followsTheSystemColoursWhileItIsShown)
+{
+    OverviewStage stage;
+    stage.widget->show();
+    const QRgb light = stage.widget->RenderToImage(1).pixel(260, 390);
+    const PaletteChange dark(DarkPalette());
+    QCoreApplication::processEvents();
+    const QImage shown = stage.widget->grab().toImage();
+    EXPECT_EQ(light, qRgb(255, 255, 255));
+    EXPECT_EQ(shown.pixel(260, 390), DarkPalette().color(QPalette::Base).rgb()) << "surplus space";
+    EXPECT_EQ(shown.pixel(8, 380), DarkPalette().color(QPalette::Base).rgb()) << "picture";
+}
+
+TEST(OverviewWidget, mayEndBeforeItsView)
+{
+    OverviewStage stage;
+    const auto view = stage.widget->Control();
+    stage.widget.reset();
+    view->Refresh();
+    stage.Selection().FocusPosition(G_PlacePosition(0, 3));
+    stage.station->TotalRefresh.Raise();
+    SUCCEED();
+    stage.manager.Terminate();
 }
 
 } // namespace

@@ -1,0 +1,160 @@
+#include "adapters/qt/PersistentPicture.h"
+#include "adapters/qt/PictureCatalog.h"
+#include "adapters/qt/QtImageList.h"
+#include "adapters/qt/UiFont.h"
+#include "foundation/VxError.h"
+#include "tests/qt/Palettes.h"
+#include "tests/qt/ReferencePicture.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace zqbchwcx::testing {
+namespace {
+
+using qt::PersistentPicture;
+
+constexpr OleColor Red = G_Rgb(255, 0, 0);
+constexpr OleColor Blue = G_Rgb(0, 0, 255);
+
+std::set<QRgb> ColoursOf(const QImage& picture)
+{
+    std::set<QRgb> colours;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) colours.insert(picture.pixel(x, y));
+    }
+    return colours;
+}
+
+class DrawingAtRatio : public ::testing::TestWithParam<double> {
+protected:
+    PersistentPicture mPicture{{90, 70}, GetParam()};
+};
+
+TEST_P(DrawingAtRatio, neighboursMeetWithoutSeamOrBlur)
+{
+    for (std::int32_t x = 0; x < 90; x += 3) mPicture.FillBox(MakeRect(x, 0, 3, 70), x % 2 == 0 ? Red : Blue);
+    EXPECT_EQ(ColoursOf(mPicture.Pixels()), (std::set<QRgb>{qRgb(255, 0, 0), qRgb(0, 0, 255)}));
+
+    qt::PictureCatalog pictures;
+    const auto module = pictures.Picture("IDB_CRX_PLACE_INACTIVE");
+    mPicture.BackColor(Red);
+    for (std::int32_t x = 0; x < 90; x += 18) mPicture.DrawImage(*module, {x, 5}, DrawStyle::Normal);
+    const qt::PixelGrid grid(GetParam());
+    const QImage row = mPicture.Pixels().copy(0, grid.Edge(6), mPicture.Pixels().width(), 1);
+    EXPECT_FALSE(ColoursOf(row).contains(qRgb(255, 0, 0))) << "the background shows between two images";
+}
+
+TEST_P(DrawingAtRatio, anImageDrawnAgainLooksAsDrawnOnce)
+{
+    qt::PictureCatalog pictures;
+    for (const char* name : {"IDB_CRX_MODULE_IM", "IDB_CRX_PLACE_DROP_END", "IDB_CRX_FRAME_TOTAL"}) {
+        mPicture.BackColor(vxColorWindowBackground);
+        const auto image = pictures.Picture(name);
+        mPicture.DrawImage(*image, {25, 3}, DrawStyle::Normal);
+        const QImage once = mPicture.Pixels().copy();
+        mPicture.DrawImage(*image, {25, 3}, DrawStyle::TransparentBlended);
+        if (std::string_view(name) != "IDB_CRX_FRAME_TOTAL") {
+            EXPECT_NE(mPicture.Pixels(), once) << name << " does not look selected";
+        }
+        mPicture.DrawImage(*image, {25, 3}, DrawStyle::Transparent);
+        EXPECT_EQ(mPicture.Pixels(), once) << name;
+    }
+}
+
+TEST_P(DrawingAtRatio, anInvertedRectangleTwiceIsNothing)
+{
+    mPicture.FillBox(MakeRect(10, 10, 30, 30), Blue);
+    const QImage before = mPicture.Pixels().copy();
+    for (const Rect& rect : {Rect{5, 7, 50, 41}, Rect{50, 41, 5, 7}, Rect{20, 20, 21, 60}, Rect{70, 60, 120, 90}}) {
+        mPicture.DrawFocusRect(rect);
+        EXPECT_NE(mPicture.Pixels(), before);
+        mPicture.DrawFocusRect(rect);
+        EXPECT_EQ(mPicture.Pixels(), before);
+    }
+    mPicture.DrawFocusRect({5, 5, 5, 30});
+    EXPECT_EQ(mPicture.Pixels(), before) << "a rectangle without width";
+}
+
+TEST_P(DrawingAtRatio, anotherWeightOrColourOfATextLeavesNothingOfTheFirst)
+{
+    mPicture.Font(qt::UiFont("Tahoma", 8.25));
+    const Rect box = MakeRect(20, 20, 13, 13);
+    for (const char* text : {"1", "3", "10", "11"}) {
+        mPicture.BackColor(vxColorWindowBackground);
+        mPicture.DrawCenteredText(text, box, FontWeight::Regular, vxColorGrayText);
+        const QImage only = mPicture.Pixels().copy();
+        EXPECT_GT(ColoursOf(only).size(), 1U);
+        mPicture.DrawCenteredText(text, box, FontWeight::Bold, vxColorButtonText);
+        EXPECT_NE(mPicture.Pixels(), only);
+        mPicture.DrawCenteredText(text, box, FontWeight::Regular, vxColorGrayText);
+        EXPECT_EQ(mPicture.Pixels(), only) << text;
+    }
+}
+
+TEST_P(DrawingAtRatio, linesIncludeBothEndsAndBoxesStayInside)
+{
+    const qt::PixelGrid grid(GetParam());
+    mPicture.BackColor(Red);
+    mPicture.DrawLine({10, 5}, {14, 5}, Blue);
+    mPicture.DrawBox(MakeRect(20, 20, 10, 10), Blue);
+    const auto at = [&](std::int32_t x, std::int32_t y) { return mPicture.Pixels().pixel(grid.Edge(x), grid.Edge(y)); };
+    const QRgb blue = qRgb(0, 0, 255);
+    const QRgb red = qRgb(255, 0, 0);
+    EXPECT_EQ(std::vector({at(9, 5), at(10, 5), at(14, 5), at(15, 5)}), std::vector({red, blue, blue, red}));
+    EXPECT_EQ(std::vector({at(19, 25), at(20, 25), at(21, 25), at(29, 25), at(30, 25)}),
+              std::vector({red, blue, red, blue, red}));
+}
+
+INSTANTIATE_TEST_SUITE_P(ratios, DrawingAtRatio, ::testing::Values(1.0, 1.25, 1.5, 2.0, 3.0));
+
+TEST(Drawing, keepsWhatWasDrawnWhenThePictureGrowsAndErasesWithTheBackground)
+{
+    PersistentPicture picture({40, 40}, 1);
+    picture.BackColor(Blue);
+    picture.FillBox(MakeRect(0, 0, 10, 10), Red);
+    picture.Resize({80, 20});
+    EXPECT_EQ(picture.Pixels().size(), QSize(80, 20));
+    EXPECT_EQ(picture.Pixels().pixel(5, 5), qRgb(255, 0, 0));
+    EXPECT_EQ(picture.Pixels().pixel(70, 5), qRgb(0, 0, 255));
+    picture.BackColor(Blue);
+    EXPECT_EQ(picture.Pixels().pixel(5, 5), qRgb(0, 0, 255));
+}
+
+TEST(Drawing, selectedImagesAreHalfHighlight)
+{
+    PersistentPicture picture({18, 60}, 1);
+    qt::PictureCatalog pictures;
+    const auto image = pictures.Picture("IDB_CRX_MODULE_PS");
+    picture.DrawImage(*image, {0, 0}, DrawStyle::Normal);
+    const QColor plain = picture.Pixels().pixelColor(9, 0);
+    picture.DrawImage(*image, {0, 0}, DrawStyle::Blended);
+    const QColor blended = picture.Pixels().pixelColor(9, 0);
+    const QColor highlight = QApplication::palette().color(QPalette::Highlight);
+    EXPECT_NEAR(blended.red(), (plain.red() + highlight.red()) / 2, 2);
+    EXPECT_NEAR(blended.green(), (plain.green() + highlight.green()) / 2, 2);
+    EXPECT_NEAR(blended.blue(), (plain.blue() + highlight.blue()) / 2, 2);
+}
+
+TEST(Drawing, textStaysReadableOnAFixedLightBackgroundOfADarkDesktop)
+{
+    const PaletteChange dark(DarkPalette());
+    PersistentPicture picture({30, 30}, 2);
+    picture.BackColor(G_Rgb(226, 237, 255));
+    picture.DrawCenteredText("8", MakeRect(5, 5, 13, 13), FontWeight::Bold, vxColorButtonText);
+    int darkest = 255;
+    for (const QRgb pixel : ColoursOf(picture.Pixels())) darkest = std::min(darkest, qGray(pixel));
+    EXPECT_LT(darkest, 90);
+}
+
+TEST(Drawing, refusesAnImageThatTheListLacks)
+{
+    PersistentPicture picture({30, 30}, 1);
+    qt::PictureCatalog pictures;
+    const auto list = pictures.Create(0, "IDB_CRX_ALL", 18, 0, vxColorCyan, 1);
+    EXPECT_THROW(picture.DrawListImage(*list, "IDB_NONE", {0, 0}, DrawStyle::Normal), VxError);
+}
+
+} // namespace
+} // namespace zqbchwcx::testing

@@ -1,0 +1,182 @@
+#include "adapters/qt/PictureCatalog.h"
+#include "adapters/qt/QtImageList.h"
+#include "foundation/VxError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace zqbchwcx::testing {
+namespace {
+
+using qt::PictureCatalog;
+
+class Pictures : public ::testing::Test {
+protected:
+    QImage Drawn(const std::string& name, double ratio = 1)
+    {
+        return mCatalog.Picture(name)->At({0, 0}, qt::PixelGrid(ratio), DrawStyle::Normal, Qt::black);
+    }
+
+    PictureCatalog mCatalog;
+};
+
+bool IsOpen(const QImage& image, const QRect& area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (qAlpha(image.pixel(x, y)) != 0) return false;
+        }
+    }
+    return true;
+}
+
+bool IsSolid(const QImage& image, const QRect& area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            if (qAlpha(image.pixel(x, y)) != 255) return false;
+        }
+    }
+    return true;
+}
+
+TEST_F(Pictures, everyPictureOfTheStripsIsThereAndNoTwoModulesLookAlike)
+{
+    const auto list = mCatalog.Create(0, "IDB_CRX_ALL", 18, 0, vxColorCyan, 1);
+    EXPECT_EQ(list->Count(), 28);
+    EXPECT_EQ(mCatalog.Create(0, "IDB_CRX_RACK", 218, 0, vxColorCyan, 1)->Count(), 1);
+    EXPECT_THROW(mCatalog.Create(0, "IDB_NONE", 18, 0, vxColorCyan, 1), VxError);
+    EXPECT_THROW(mCatalog.Create(0, "IDB_CRX_ALL", 20, 0, vxColorCyan, 1), VxError);
+    EXPECT_THROW(mCatalog.Picture("IDB_NONE"), VxError);
+
+    std::map<QByteArray, std::string> seen;
+    for (const auto& name : PictureCatalog::Names()) {
+        const QImage image = Drawn(name);
+        EXPECT_FALSE(IsOpen(image, image.rect())) << name << " is empty";
+        const QByteArray bits(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
+        EXPECT_TRUE(seen.emplace(bits, name).second) << name << " looks like " << seen[bits];
+    }
+}
+
+TEST_F(Pictures, placesAndModulesFillTheirCellExceptForTheNumberWindow)
+{
+    const QRect window(2, 34, 14, 11);
+    for (const auto& name : PictureCatalog::Names()) {
+        if (!name.starts_with("IDB_CRX_PLACE_") && !name.starts_with("IDB_CRX_MODULE_")) continue;
+        const QImage image = Drawn(name);
+        ASSERT_EQ(image.size(), QSize(18, 60)) << name;
+        EXPECT_TRUE(IsOpen(image, window)) << name;
+        for (const QRect& around :
+             {QRect(0, 0, 18, 34), QRect(0, 45, 18, 15), QRect(0, 34, 2, 11), QRect(16, 34, 2, 11)})
+            EXPECT_TRUE(IsSolid(image, around)) << name;
+    }
+}
+
+TEST_F(Pictures, theRailIsOpenOverPlacesAndNumberAndCoversTheFirstGap)
+{
+    const QImage rail = Drawn("IDB_CRX_RACK");
+    ASSERT_EQ(rail.size(), QSize(218, 62));
+    EXPECT_TRUE(IsOpen(rail, QRect(14, 1, 198, 60)));
+    EXPECT_TRUE(IsOpen(rail, QRect(1, 1, 12, 13)));
+    for (const QRect& part :
+         {QRect(13, 0, 1, 62), QRect(0, 0, 218, 1), QRect(0, 61, 218, 1), QRect(0, 14, 14, 48), QRect(212, 0, 6, 62)})
+        EXPECT_TRUE(IsSolid(rail, part));
+}
+
+TEST_F(Pictures, symbolsKeepTheSizesThatTheirPlacesLeave)
+{
+    for (const char* name : {"IDB_DIAG_CPU_RUN", "IDB_DIAG_CPU_STOP", "IDB_DIAG_CPU_HOLD"})
+        EXPECT_EQ(Drawn(name, 2).size(), QSize(24, 16));
+    EXPECT_EQ(Drawn("IDB_DIAG_FAILURE").size(), QSize(12, 12));
+    EXPECT_EQ(Drawn("IDB_CRX_RACKNR_ACTIVE").size(), QSize(12, 13));
+    for (const auto& name : PictureCatalog::Names()) {
+        if (!name.starts_with("IDB_COMP_")) continue;
+        EXPECT_EQ(Drawn(name).size(), QSize(16, 16));
+        EXPECT_TRUE(IsOpen(Drawn(name), QRect(0, 0, 16, 2))) << name << " reaches into the number window";
+    }
+}
+
+/// A picture directory with files of all kinds.
+class PictureFiles : public ::testing::Test {
+protected:
+    void Write(const QString& name, const QByteArray& content)
+    {
+        QFile file(mDirectory.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    void WritePicture(const QString& name, QSize size)
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(qRgb(10, 200, 30));
+        for (int x = 0; x < size.width() / 2; ++x) image.setPixel(x, 0, qRgb(0, 255, 255));
+        ASSERT_TRUE(image.save(mDirectory.filePath(name)));
+    }
+    bool Add(const char* name)
+    {
+        const std::string path = QDir::toNativeSeparators(mDirectory.path()).toStdString() + "\\" + name + ".bmp";
+        return mList.AddFile(path, name);
+    }
+    const QImage& Drawn(const char* name, double ratio)
+    {
+        return mList.Image(name).At({0, 0}, qt::PixelGrid(ratio), DrawStyle::Normal, Qt::black);
+    }
+
+    QTemporaryDir mDirectory;
+    qt::QtImageList mList{18, {}};
+};
+
+TEST_F(PictureFiles, bitmapsLoadWithCyanTransparentAndStayCrisp)
+{
+    WritePicture("HQ_COUNTER.bmp", {18, 60});
+    ASSERT_TRUE(Add("HQ_COUNTER"));
+    const QImage& twice = Drawn("HQ_COUNTER", 2);
+    EXPECT_EQ(twice.size(), QSize(36, 120));
+    EXPECT_EQ(qAlpha(twice.pixel(17, 1)), 0);
+    EXPECT_EQ(twice.pixel(18, 1), qRgb(10, 200, 30));
+    EXPECT_EQ(twice.pixel(17, 2), qRgb(10, 200, 30));
+    EXPECT_EQ(Drawn("HQ_COUNTER", 1.25).size(), QSize(23, 75));
+}
+
+TEST_F(PictureFiles, otherKindsAndLetterCasesAreTakenInTheirStead)
+{
+    WritePicture("FINE.png", {36, 120});
+    Write("VECTOR.svg", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 36 120'>"
+                        "<rect width='36' height='120' fill='#ff0000'/></svg>");
+    WritePicture("lower.bmp", {18, 60});
+    EXPECT_TRUE(Add("FINE"));
+    EXPECT_EQ(mList.Image("FINE").LogicalSize(), (Size{18, 60})) << "a finer picture of the same cell";
+    EXPECT_EQ(Drawn("FINE", 2).pixel(0, 0), qRgb(0, 255, 255)) << "cyan is a colour in a PNG file";
+    EXPECT_TRUE(Add("VECTOR"));
+    EXPECT_EQ(Drawn("VECTOR", 3).size(), QSize(54, 180));
+    EXPECT_TRUE(Add("LOWER"));
+    EXPECT_EQ(mList.Count(), 3);
+}
+
+TEST_F(PictureFiles, aFileThatIsNoPictureIsRefusedAndTheListUnchanged)
+{
+    WritePicture("WHOLE.bmp", {18, 60});
+    QFile whole(mDirectory.filePath("WHOLE.bmp"));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    Write("CUT.bmp", whole.read(20));
+    Write("EMPTY.bmp", {});
+    Write("TEXT.bmp", "not a picture at all");
+    Write("BROKEN.svg", "<svg xmlns='http://www.w3.org/2000/svg'><rect");
+    WritePicture("HUGE.bmp", {5000, 2});
+    for (const char* name : {"CUT", "EMPTY", "TEXT", "BROKEN", "HUGE", "MISSING", "../"}) {
+        EXPECT_FALSE(Add(name)) << name;
+        EXPECT_FALSE(mList.Contains(name)) << name;
+    }
+    EXPECT_EQ(mList.Count(), 0);
+
+    WritePicture("CUT.png", {18, 60});
+    EXPECT_TRUE(Add("CUT")) << "a whole picture of the same name beside a broken one";
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
