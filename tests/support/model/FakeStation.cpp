@@ -310,7 +310,7 @@ bool FakeStation::Fill(std::int32_t lPosition, const std::vector<VxHWModulePtr>&
     const Places targets = Targets(lPosition, modules.size(), {});
     for (std::size_t i = 0; i < targets.size(); ++i) {
         targets[i]->module = std::dynamic_pointer_cast<FakeModule>(modules[i]);
-        oPlaces->Add(targets[i]);
+        dynamic_cast<FakeRackPlaces&>(*oPlaces).places.push_back(targets[i]);
         Changed(targets[i]);
     }
     return !targets.empty();

@@ -133,6 +133,8 @@ TEST_F(ConfigDragDrop, TheStationIsAskedOncePerPositionAndDrag)
     Over(9, vxDragLeave);
     Over(8, vxDragEnter);
     EXPECT_THAT(TakeLines(), ::testing::Contains("CanBePlaced 8 [A] move from [0/2]"));
+    Over(8, vxDragLeave);
+    EXPECT_EQ(Over(-1, vxDragEnter), vxDropEffectNone) << "the last decision belongs to the place";
 }
 
 TEST_F(ConfigDragDrop, EffectsDependOnTheSourceAndOnWhatItAllows)

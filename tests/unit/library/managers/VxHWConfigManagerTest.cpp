@@ -93,7 +93,6 @@ TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
 {
     Initialize();
     const auto oDragDrop = overview->dragDrop;
-    handler = nullptr;
     services.Lines().clear();
     manager->Terminate();
     EXPECT_THAT(TakeLines(),
@@ -102,11 +101,28 @@ TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
                             "overview.VxHWDragDropController nothing", "table.VxHWStation nothing",
                             "table.VxHWSelectionHandler nothing", "table.VxHWMouseInputController nothing",
                             "table.VxHWKeyInputController nothing", "table.VxHWDragDropController nothing",
-                            "Unregister VxHWSelectionHandler", "Unregister VxHWConfigCtrlMouse", "Release zqhwuim",
-                            "Unregister VxHWConfigCtrlKey"));
+                            "Unregister VxHWConfigCtrlMouse", "Release zqhwuim", "Unregister VxHWConfigCtrlKey"));
     EXPECT_EQ(dynamic_cast<const IVxHWController&>(*oDragDrop).VxHWStation(), nullptr);
     EXPECT_EQ(manager->VxHWSelectionHandler(), nullptr);
+    EXPECT_TRUE(handler->SelPlacesArray().IsEmpty());
     EXPECT_EQ(station.use_count(), 1);
+}
+
+TEST_F(ConfigManager, TerminateInTheMiddleOfADragTellsNobodyAboutItsEnd)
+{
+    Initialize();
+    station->Put(0, 1, "A");
+    auto oData = std::make_shared<FakeDataObject>(services.log);
+    std::int32_t lEffect = 0;
+    const auto oDragDrop = overview->dragDrop;
+    oDragDrop->OLEStartDrag(oData, lEffect);
+    oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragEnter);
+    oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragLeave);
+    manager->Terminate();
+    services.Lines().clear();
+    services.Minimal()->clock.Advance(20);
+    EXPECT_EQ(oDragDrop->State(), vxDragDropStateInactive);
+    EXPECT_THAT(TakeLines(), IsEmpty());
 }
 
 TEST_F(ConfigManager, SubscribesBothViewsToTheDragAndDropController)
