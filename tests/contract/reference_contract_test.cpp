@@ -1,0 +1,62 @@
+#include "ModelContract.h"
+
+#include "reference/model/contract/ModelFactory.h"
+#include "reference/model/contract/Station.h"
+#include "reference/model/contract/TypeExchange.h"
+#include "tests/unit/reference/model/SampleModel.h"
+
+#include <memory>
+#include <optional>
+
+namespace zqbchwcx::testing {
+namespace {
+
+class LastWritten : public reference::Clipboard {
+public:
+    std::optional<ByteArray> Read(std::string_view /*formatName*/) const override { return moData; }
+    void Write(std::string_view /*formatName*/, const ByteArray& data) override { moData = data; }
+
+private:
+    std::optional<ByteArray> moData;
+};
+
+ContractHost ReferenceHost(std::int32_t kind, bool bReadOnly)
+{
+    const bool central = kind == 0;
+    PlainStation plain(EmptyStation(kind, central ? 2 : 1));
+    plain.Place(G_PlacePosition(0, 1), central ? Block({"PS", "CPU", "IM"}) : Block({"HEAD2"}));
+    reference::StationData data = plain.Data();
+    data.readOnly = bReadOnly;
+
+    const reference::ModelContextPtr context = SampleContext();
+    const auto clipboard = std::make_shared<LastWritten>();
+    reference::StationServices services;
+    services.clipboard = clipboard;
+    const auto station = std::make_shared<reference::Station>(context, data, services);
+    const auto make = [context](const char* orderNumber) {
+        return [context, orderNumber] {
+            return reference::Station(context, EmptyStation(0, 1)).CreateModule(orderNumber);
+        };
+    };
+    ContractHost host;
+    host.station = station;
+    host.factory = std::make_shared<reference::ModelFactory>(context);
+    host.firstPlace = 4;
+    host.lastPlace = 11;
+    host.singleModule = make("DI");
+    host.spanningModule = make("AI2");
+    host.moduleWithSlots = make("CNT3");
+    host.exchangeObject = [clipboard] {
+        return std::make_shared<reference::TypeExchange>(std::int16_t{101}, clipboard);
+    };
+    return host;
+}
+
+const bool registered = [] {
+    RegisterModelContract("ReferenceCentral", [](bool bReadOnly) { return ReferenceHost(0, bReadOnly); });
+    RegisterModelContract("ReferenceDistributed", [](bool bReadOnly) { return ReferenceHost(1, bReadOnly); });
+    return true;
+}();
+
+} // namespace
+} // namespace zqbchwcx::testing

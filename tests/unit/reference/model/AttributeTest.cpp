@@ -1,0 +1,136 @@
+#include "reference/model/rules/CheckStation.h"
+#include "tests/unit/reference/model/SampleModel.h"
+
+#include <gtest/gtest.h>
+
+namespace zqbchwcx::testing {
+namespace {
+
+using namespace reference;
+
+constexpr std::optional<Rule> Done = std::nullopt;
+
+PlainStation SampleStation()
+{
+    PlainStation station(EmptyStation(0, 1));
+    station.Place(G_PlacePosition(0, 4), Block({"DI", "DI", "DO", "AI2", "CNT3"}));
+    return station;
+}
+
+TEST(SetAttribute, ChecksAddresses)
+{
+    PlainStation station = SampleStation();
+    const struct {
+        std::int32_t place;
+        std::string name, value;
+        std::optional<Rule> result;
+    } cases[] = {
+        {4, "I-ADDRESS", "100", Done},
+        {4, "I-Address", " 102 .. 103 ", Done},
+        {8, "I-ADDRESS", "104..111", Done},
+        {4, "I-ADDRESS", "103", Rule::AddressOverlap},
+        {4, "I-ADDRESS", "102..104", Rule::AddressRange},
+        {4, "I-ADDRESS", "1023", Rule::AddressRange},
+        {4, "I-ADDRESS", "-1", Rule::AddressRange},
+        {4, "I-ADDRESS", "2147483647", Rule::AddressRange},
+        {4, "I-ADDRESS", "2147483648", Rule::AddressSyntax},
+        {4, "I-ADDRESS", "", Rule::AddressSyntax},
+        {4, "I-ADDRESS", "4x", Rule::AddressSyntax},
+        {4, "I-ADDRESS", "3", Rule::AddressOverlap},
+        {4, "O-ADDRESS", "0", Rule::NoSuchAttribute},
+        {6, "O-ADDRESS", "2", Done},
+        {6, "O-ADDRESS", "3", Rule::AddressOverlap},
+        {4, "BASIC ADDRESS", "0", Rule::NoSuchAttribute},
+        {4, "COLOUR", "red", Rule::NoSuchAttribute},
+        {3, "COMMENT", "nobody there", Rule::NothingToPlace},
+        {4, "COMMENT", std::string(MaxTextBytes + 1, 'x'), Rule::TextTooLong},
+        {4, "NAME", "Pump 1", Done},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(station.Set({0, c.place}, c.name, c.value), c.result) << c.name << " " << c.value;
+        for (const Refusal& broken : CheckStation(station.Data(), *SampleCatalogue()))
+            ADD_FAILURE() << "after " << c.value << ": " << broken.text.en;
+    }
+    EXPECT_EQ(station.At({0, 4}).inputAddress, 102) << "103 overlapped the analog module";
+    EXPECT_EQ(station.At({0, 4}).name, "Pump 1");
+}
+
+TEST(SetAttribute, ReadsParametersByTheirKindAndDropsDefaults)
+{
+    PlainStation station = SampleStation();
+    const struct {
+        std::string key, value;
+        std::optional<Rule> result;
+    } cases[] = {
+        {"alarm", "1", Done},
+        {"alarm", "maybe", Rule::ValueNotAllowed},
+        {"DELAY", "20", Done},
+        {"delay", "21", Rule::ValueNotAllowed},
+        {"delay", "1.5", Rule::ValueNotAllowed},
+        {"scale", "-9.25", Done},
+        {"scale", "nan", Rule::ValueNotAllowed},
+        {"scale", "11", Rule::ValueNotAllowed},
+        {"edge", "falling", Done},
+        {"edge", "sideways", Rule::ValueNotAllowed},
+        {"label", "äöüßäöüß", Done},
+        {"label", "123456789", Rule::ValueNotAllowed},
+        {"missing", "1", Rule::NoSuchAttribute},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(station.Set({0, 4}, "PARAMETER " + c.key, c.value), c.result) << c.key << " " << c.value;
+    const std::map<std::string, ParameterValue> expected = {{"alarm", true},
+                                                            {"delay", std::int64_t{20}},
+                                                            {"scale", -9.25},
+                                                            {"edge", std::string("falling")},
+                                                            {"label", std::string("äöüßäöüß")}};
+    EXPECT_EQ(station.At({0, 4}).parameters, expected);
+    EXPECT_EQ(station.Set({0, 4}, "PARAMETER delay", "3"), Done);
+    EXPECT_FALSE(station.At({0, 4}).parameters.contains("delay"));
+}
+
+TEST(SetAttribute, LetsABrokenModuleBeMendedStepByStep)
+{
+    PlainStation station = SampleStation();
+    ModuleData broken = station.At({0, 4});
+    broken.parameters = {{"delay", std::int64_t{99}}, {"unknown", true}};
+    station.PutUnchecked({0, 11}, broken);
+    EXPECT_EQ(station.Set({0, 11}, "COMMENT", "still broken"), Done);
+    EXPECT_EQ(station.Set({0, 11}, "PARAMETER delay", "5"), Done);
+    EXPECT_EQ(station.Set({0, 11}, "I-ADDRESS", "60"), Done);
+    EXPECT_EQ(station.Set({0, 11}, "PARAMETER delay", "77"), Rule::ValueNotAllowed);
+}
+
+TEST(CheckStation, FindsEveryBrokenRuleWithItsPlace)
+{
+    PlainStation station(EmptyStation(0, 2));
+    const auto put = [&](std::int32_t rack, std::int32_t place, const std::string& orderNumber,
+                         std::optional<std::int32_t> inputs) {
+        ModuleData module = *NewModuleData(orderNumber);
+        module.inputAddress = inputs;
+        station.PutUnchecked({rack, place}, module);
+    };
+    put(0, 1, "CPU", {});
+    put(0, 4, "AI2", 0);
+    put(0, 5, "DI", 6);
+    put(0, 6, "DI", {});
+    put(0, 7, "DI", 5000);
+    put(0, 8, "GHOST", 5000);
+    put(0, 9, "DM", 1);
+    put(0, 10, "CNT3", {});
+    put(1, 4, "CP", {});
+    station.Usability({1, 4}, 0);
+
+    std::vector<std::pair<PlaceRef, Rule>> found;
+    for (const Refusal& broken : CheckStation(station.Data(), *SampleCatalogue()))
+        found.emplace_back(broken.place, broken.rule);
+    const std::vector<std::pair<PlaceRef, Rule>> expected = {
+        {{0, 1}, Rule::WrongPlace},        {{0, 5}, Rule::PlaceOccupied}, {{0, 5}, Rule::AddressOverlap},
+        {{0, 6}, Rule::AddressMissing},    {{0, 7}, Rule::AddressRange},  {{0, 8}, Rule::UnknownType},
+        {{0, 9}, Rule::AddressUnexpected}, {{0, 10}, Rule::SpanTooLong},  {{0, 10}, Rule::SubModules},
+        {{1, 4}, Rule::PlaceInactive},     {{1, 4}, Rule::LeaderMissing},
+    };
+    EXPECT_EQ(found, expected);
+}
+
+} // namespace
+} // namespace zqbchwcx::testing

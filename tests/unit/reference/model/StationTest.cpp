@@ -1,0 +1,191 @@
+#include "reference/model/contract/Station.h"
+
+#include "foundation/ConfigTextCodec.h"
+#include "foundation/model/VxHWRackPlace.h"
+#include "reference/model/configtext/ConfigText.h"
+#include "reference/model/contract/Module.h"
+#include "reference/model/contract/RackPlaces.h"
+#include "reference/model/contract/TypeExchange.h"
+#include "tests/unit/reference/model/SampleModel.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace zqbchwcx::testing {
+namespace {
+
+using namespace reference;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class MemoryClipboard : public Clipboard {
+public:
+    std::optional<ByteArray> Read(std::string_view formatName) const override
+    {
+        return formatName == ConfigTextName ? moData : std::nullopt;
+    }
+    void Write(std::string_view /*formatName*/, const ByteArray& data) override { moData = data; }
+
+private:
+    std::optional<ByteArray> moData;
+};
+
+/// Rack 0: PS CPU IM DI AI2 + - DO; and what the station tells, as text.
+class ReferenceStation : public ::testing::Test {
+protected:
+    ReferenceStation()
+    {
+        PlainStation plain(EmptyStation(0, 2));
+        plain.Place(G_PlacePosition(0, 1), Block({"PS", "CPU", "IM", "DI", "AI2", "", "DO"}));
+        services.clipboard = clipboard;
+        services.parameterDialog = [this](const ModuleData&, PlaceRef) { return dialogAnswer; };
+        station = std::make_shared<Station>(SampleContext(), plain.Data(), services);
+        placeEvents =
+            station->RackPlaceChange.Connect([this](const VxHWRackPlacePtr& place) { events.push_back(place->Key()); });
+        refreshes = station->TotalRefresh.Connect([this] { events.push_back("all"); });
+        refusals = station->Refused.Connect([this](const Refusal& refusal) { refused.push_back(refusal.rule); });
+    }
+
+    VxHWModulePtr ModuleIn(std::int32_t place) const { return station->PlaceAt({0, place})->Module(); }
+    VxHWModulesPtr ModulesIn(std::initializer_list<std::int32_t> places) const
+    {
+        auto modules = std::make_shared<Modules>(station->Context());
+        for (const std::int32_t place : places) modules->Add(ModuleIn(place), true);
+        return modules;
+    }
+    VxHWRackPlacesPtr Places(std::initializer_list<std::int32_t> places) const
+    {
+        auto collection = std::make_shared<RackPlaces>();
+        for (const std::int32_t place : places) collection->Add(station->PlaceAt({0, place}));
+        return collection;
+    }
+    std::string Row() const { return PlainStation(station->Data()).Row(0); }
+
+    std::shared_ptr<MemoryClipboard> clipboard = std::make_shared<MemoryClipboard>();
+    std::optional<ModuleData> dialogAnswer;
+    StationServices services;
+    StationPtr station;
+    std::vector<std::string> events;
+    std::vector<Rule> refused;
+    EventConnection placeEvents, refreshes, refusals;
+};
+
+TEST_F(ReferenceStation, AnyMemberStandsForItsWholeModuleInOrderOfPlaces)
+{
+    const ModuleBlock block = BlockOf(*ModulesIn({8, 6, 7}));
+    ASSERT_EQ(block.size(), 3u);
+    EXPECT_EQ(block[0]->orderNumber, "AI2") << "its second member was given, behind the module of place 8";
+    EXPECT_EQ(block[1], nullptr);
+    EXPECT_EQ(block[2]->orderNumber, "DO");
+    EXPECT_EQ(BlockOf(*ModulesIn({6, 8, 5})).size(), 2u);
+}
+
+TEST_F(ReferenceStation, MembersShowTheirPartOfTheModule)
+{
+    const VxHWModulePtr first = ModuleIn(5);
+    const VxHWModulePtr second = ModuleIn(6);
+    EXPECT_EQ(first->InputAddressText(), "4..11");
+    EXPECT_EQ(second->InputAddressText(), "") << "an address is shown once";
+    EXPECT_FALSE(second->HasAttribute("I-ADDRESS"));
+    EXPECT_TRUE(second->HasAttribute("COMMENT"));
+    EXPECT_EQ(first->GetAttribute("I-ADDRESS"), first->InputAddressText()) << "an untouched cell is no change";
+    EXPECT_TRUE(station->SetModuleAttribute(station->PlaceAt({0, 6}), "COMMENT", "level"));
+    EXPECT_EQ(ModuleIn(5)->GetAttribute("Comment"), "level");
+    EXPECT_THAT(events, ElementsAre("0/5", "0/6"));
+}
+
+TEST_F(ReferenceStation, TellsEachPlaceThatDiffersAndEverythingAfterABatch)
+{
+    EXPECT_TRUE(station->MoveModules(G_PlacePosition(0, 9), ModulesIn({5}), Places({5}), Places({})));
+    EXPECT_THAT(events, ElementsAre("0/5", "0/6", "0/9", "0/10"));
+    events.clear();
+    station->IsDrawable(false);
+    station->IsDrawable(true);
+    EXPECT_THAT(events, ElementsAre("all")) << "views have missed at least the selection";
+    events.clear();
+    StationData other = station->Data();
+    other.readOnly = true;
+    station->Restore(other);
+    EXPECT_THAT(events, ElementsAre("all"));
+}
+
+TEST_F(ReferenceStation, RefusalsAnswerFalseAndSayWhy)
+{
+    EXPECT_FALSE(station->PlaceModules(G_PlacePosition(0, 3), ModulesIn({4}), Places({})));
+    EXPECT_FALSE(station->SetModuleAttribute(station->PlaceAt({0, 4}), "I-ADDRESS", "4"));
+    EXPECT_THAT(refused, ElementsAre(Rule::WrongPlace, Rule::AddressOverlap));
+    EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(ReferenceStation, ClipboardCarriesModulesAndDamagedContentCountsAsNone)
+{
+    const auto exchange = std::make_shared<TypeExchange>(std::int16_t{77}, clipboard);
+    station->WriteModulesToExchange(ModulesIn({4, 5, 6, 7, 8}), exchange);
+    exchange->PutOnClipboard();
+    const VxHWModulesPtr modules = station->ClipboardModules();
+    EXPECT_EQ(modules->Count(), 5);
+    EXPECT_FALSE(station->CanBePlaced(G_PlacePosition(0, 8), modules, false, nullptr));
+    station->DeleteModules(Places({4, 5, 8}));
+    EXPECT_TRUE(station->PlaceModules(G_PlacePosition(0, 5), modules, Places({})));
+    EXPECT_EQ(Row(), "PS CPU IM - DI AI2 + - DO - -");
+
+    clipboard->Write(ConfigTextName, G_EncodeConfigText("VxHWConfigText 1\n{\"modules\""));
+    EXPECT_EQ(station->ClipboardModules()->Count(), 0);
+    EXPECT_THAT(refused, ElementsAre(Rule::DamagedText));
+    EXPECT_THROW(exchange->LoadData(G_EncodeConfigText("something else")), VxError);
+}
+
+TEST_F(ReferenceStation, CatalogueModuleIsInsertedWithSubModules)
+{
+    const VxHWModulePtr counter = station->CreateModule("CNT3");
+    EXPECT_EQ(counter->PlaceCount(), 3);
+    station->PrepareModule(counter);
+    const VxHWModulesPtr members = station->ExpandModule(counter);
+    ASSERT_EQ(members->Count(), 3);
+    EXPECT_EQ(members->Item(0)->SubModuleCount(), 2);
+    EXPECT_EQ(members->Item(0)->SubModules()->Count(), 0);
+    station->CreateSubModules(members->Item(0));
+    EXPECT_EQ(members->Item(0)->SubModules()->Count(), 2);
+    EXPECT_TRUE(station->PlaceModules(G_PlacePosition(0, 9), members, Places({})));
+    EXPECT_EQ(Row(), "PS CPU IM DI AI2 + - DO CNT3 + +");
+    EXPECT_EQ(ModuleIn(9)->SubModules()->Item(1)->InputAddressText(), "16..19");
+    EXPECT_THROW(static_cast<void>(station->CreateModule("GHOST")), VxError);
+}
+
+TEST_F(ReferenceStation, DropPlacesAgreeWithPlacing)
+{
+    for (const char* orderNumber : {"PS", "DI", "AI2", "CNT3", "IM", "SUB"}) {
+        const VxHWModulePtr module = station->CreateModule(orderNumber);
+        const Array2D<std::int32_t> possible = station->GetPossibleDropPlaces(module);
+        for (std::int32_t rack = 0; rack < 2; ++rack)
+            for (std::int32_t place = 1; place <= 11; ++place) {
+                const bool placed =
+                    station->CanBePlaced(G_PlacePosition(rack, place), station->ExpandModule(module), false, nullptr);
+                EXPECT_EQ(possible.Get(rack, place), placed ? -1 : 0) << orderNumber << " " << rack << "/" << place;
+            }
+    }
+}
+
+TEST_F(ReferenceStation, ParameterDialogChangesTheModuleWhenItsAnswerIsAllowed)
+{
+    EXPECT_TRUE(ModuleIn(4)->HasParamDialog());
+    EXPECT_FALSE(ModuleIn(8)->HasParamDialog());
+    EXPECT_EQ(station->OpenModuleParamDialog(station->PlaceAt({0, 4})), 0) << "cancelled";
+    dialogAnswer = *Module::Of(ModuleIn(4)).Body()->data;
+    dialogAnswer->parameters["delay"] = std::int64_t{9};
+    EXPECT_EQ(station->OpenModuleParamDialog(station->PlaceAt({0, 4})), 1);
+    EXPECT_EQ(ModuleIn(4)->GetAttribute("PARAMETER DELAY"), "9");
+    dialogAnswer->orderNumber = "DO";
+    EXPECT_EQ(station->OpenModuleParamDialog(station->PlaceAt({0, 4})), 0);
+    EXPECT_EQ(ModuleIn(4)->OrderNumber(), "DI");
+}
+
+TEST_F(ReferenceStation, TooltipsTellWhatIsThere)
+{
+    station->SetModuleAttribute(station->PlaceAt({0, 4}), "COMMENT", "Gate 3");
+    EXPECT_EQ(station->ModuleTooltip(ModuleIn(4)), "DI module\r\nDI\r\nA DI\r\nInputs 0..1\r\nGate 3");
+    EXPECT_EQ(station->EmptyPlaceTooltip(station->PlaceAt({0, 7})), "Place 7: free");
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
