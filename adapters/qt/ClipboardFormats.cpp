@@ -31,10 +31,15 @@ std::int16_t ClipboardFormatNumber(std::string_view name)
 
 QString ClipboardMimeType(std::int16_t nFormat)
 {
-    const int index = nFormat - FirstFormat;
-    if (index < 0 || index >= KnownTypes().size())
+    return KnownTypes().value(nFormat - FirstFormat);
+}
+
+QString RequiredMimeType(std::int16_t nFormat)
+{
+    const QString type = ClipboardMimeType(nFormat);
+    if (type.isEmpty())
         throw VxError(vxErrorInvalidArgument, "There is no clipboard format " + std::to_string(nFormat));
-    return KnownTypes().at(index);
+    return type;
 }
 
 } // namespace zqbchwcx::qt

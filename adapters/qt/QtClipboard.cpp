@@ -30,7 +30,7 @@ void QtClipboard::SetData(const std::vector<Entry>& entries)
         return;
     }
     auto content = std::make_unique<QMimeData>();
-    for (const Entry& entry : entries) content->setData(ClipboardMimeType(entry.nFormat), ToQByteArray(entry.data));
+    for (const Entry& entry : entries) content->setData(RequiredMimeType(entry.nFormat), ToQByteArray(entry.data));
     QGuiApplication::clipboard()->setMimeData(content.release());
 }
 

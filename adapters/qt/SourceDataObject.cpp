@@ -8,11 +8,13 @@ namespace zqbchwcx::qt {
 
 void SourceDataObject::SetData(std::int16_t nFormat, const ByteArray& data)
 {
+    RequiredMimeType(nFormat);
     mcolData.insert_or_assign(nFormat, data);
 }
 
 void SourceDataObject::AnnounceFormat(std::int16_t nFormat)
 {
+    RequiredMimeType(nFormat);
     mcolData.insert_or_assign(nFormat, std::nullopt);
 }
 

@@ -1,0 +1,194 @@
+#include "adapters/qt/ClipboardFormats.h"
+#include "adapters/qt/ControlWidget.h"
+#include "adapters/qt/PictureBoxWidget.h"
+#include "adapters/qt/QtClipboard.h"
+#include "adapters/qt/SourceDataObject.h"
+#include "foundation/VxError.h"
+#include "platform/Input.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QMimeData>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace zqbchwcx::testing {
+namespace {
+
+ByteArray Bytes(std::string_view text)
+{
+    return qt::ToByteArray(QByteArray(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+/// Takes what the data object has in one format, with one effect.
+class DragRecorder : public PictureBoxEvents {
+public:
+    void MouseDown(std::int16_t, std::int16_t, float, float) noexcept override {}
+    void MouseMove(std::int16_t, std::int16_t, float, float) noexcept override {}
+    void MouseUp(std::int16_t, std::int16_t, float, float) noexcept override {}
+    void DblClick() noexcept override {}
+    void GotFocus() noexcept override {}
+    void LostFocus() noexcept override {}
+    void OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lAllowedEffects) noexcept override
+    {
+        lines.push_back("start");
+        if (onStart) onStart(*oData, lAllowedEffects);
+    }
+    void OLESetData(const DataObjectPtr& oData, std::int16_t nDataFormat) noexcept override
+    {
+        lines.push_back("set data");
+        oData->SetData(nDataFormat, Bytes("late"));
+    }
+    void OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
+                     float x, float y, std::int16_t nState) noexcept override
+    {
+        Note("over", oData, lEffect, nButton, nShift, x, y);
+        lines.back() += " state " + std::to_string(nState);
+    }
+    void OLEDragDrop(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
+                     float x, float y) noexcept override
+    {
+        Note("drop", oData, lEffect, nButton, nShift, x, y);
+    }
+    void OLECompleteDrag(std::int32_t& lEffect) noexcept override
+    {
+        lines.push_back("complete " + std::to_string(lEffect));
+    }
+
+    std::function<void(DataObject&, std::int32_t&)> onStart;
+    std::int16_t nFormat = 0;
+    std::int32_t lAnswer = vxDropEffectNone;
+    std::vector<std::string> lines;
+
+private:
+    void Note(const char* what, const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton,
+              std::int16_t nShift, float x, float y)
+    {
+        const QByteArray data = qt::ToQByteArray(oData->GetData(nFormat));
+        lines.push_back(std::string(what) + " '" + data.toStdString() + "' allowed " + std::to_string(lEffect) +
+                        " button " + std::to_string(nButton) + " shift " + std::to_string(nShift) + " at " +
+                        std::to_string(static_cast<int>(x)) + "," + std::to_string(static_cast<int>(y)));
+        lEffect = lAnswer;
+    }
+};
+
+class Drag : public ::testing::Test {
+protected:
+    Drag()
+    {
+        mEvents.nFormat = mFormat;
+        mBox.Receiver(&mEvents);
+    }
+    ~Drag() override { mBox.Receiver(nullptr); }
+
+    template <class Event>
+    Qt::DropAction Send(QPoint at, Qt::KeyboardModifiers modifiers = {})
+    {
+        Event event(at, Qt::CopyAction | Qt::MoveAction, &mForeign, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&mBox, &event);
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    }
+    Qt::DropAction SendDrop(QPoint at)
+    {
+        QDropEvent event(at, Qt::CopyAction | Qt::MoveAction, &mForeign, Qt::LeftButton, {});
+        QApplication::sendEvent(&mBox, &event);
+        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
+    }
+
+    const std::int16_t mFormat = qt::ClipboardFormatNumber("VxHWConfigText");
+    qt::ControlWidget mControl{nullptr, qt::ControlWidget::Backdrop::Own};
+    qt::PictureBoxWidget mBox{mControl, "pic_Main", MakeRect(0, 0, 100, 100)};
+    DragRecorder mEvents;
+    QMimeData mForeign;
+};
+
+TEST_F(Drag, overAWindowIsEnterThenOverThenLeaveOrDrop)
+{
+    mForeign.setData("application/x-vxhwconfigtext", "text");
+    mEvents.lAnswer = vxDropEffectCopy;
+    EXPECT_EQ(Send<QDragEnterEvent>({3, 4}, Qt::ShiftModifier), Qt::CopyAction);
+    mEvents.lAnswer = vxDropEffectMove;
+    EXPECT_EQ(Send<QDragMoveEvent>({5, 6}, Qt::ControlModifier), Qt::MoveAction);
+    mEvents.lAnswer = vxDropEffectNone;
+    EXPECT_EQ(Send<QDragMoveEvent>({7, 8}), Qt::IgnoreAction);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(&mBox, &leave);
+    QApplication::sendEvent(&mBox, &leave);
+    Send<QDragEnterEvent>({9, 9});
+    mEvents.lines.pop_back();
+    mEvents.lAnswer = vxDropEffectMove;
+    EXPECT_EQ(SendDrop({9, 9}), Qt::MoveAction);
+    EXPECT_EQ(mEvents.lines, (std::vector<std::string>{"over 'text' allowed 3 button 1 shift 1 at 3,4 state 0",
+                                                       "over 'text' allowed 3 button 1 shift 2 at 5,6 state 2",
+                                                       "over 'text' allowed 3 button 1 shift 0 at 7,8 state 2",
+                                                       "over 'text' allowed 3 button 1 shift 0 at 7,8 state 1",
+                                                       "drop 'text' allowed 3 button 1 shift 0 at 9,9"}));
+}
+
+TEST_F(Drag, aRefusedPositionDoesNotEndTheDrag)
+{
+    QDragEnterEvent enter({1, 1}, Qt::CopyAction, &mForeign, Qt::LeftButton, {});
+    QApplication::sendEvent(&mBox, &enter);
+    EXPECT_TRUE(enter.isAccepted()) << "or the window would not be told of further positions";
+    EXPECT_EQ(enter.dropAction(), Qt::IgnoreAction);
+    mEvents.lAnswer = vxDropEffectMove;
+    QDragMoveEvent move({1, 1}, Qt::CopyAction, &mForeign, Qt::LeftButton, {});
+    QApplication::sendEvent(&mBox, &move);
+    EXPECT_FALSE(move.isAccepted()) << "an effect that the source does not allow";
+}
+
+TEST_F(Drag, announcedDataAreAskedForOnceAndOnlyWhenWanted)
+{
+    const auto other = qt::ClipboardFormatNumber("Host Exchange");
+    auto source = std::make_shared<qt::SourceDataObject>();
+    int asked = 0;
+    source->OnWanted([&](std::int16_t nFormat) {
+        ++asked;
+        source->SetData(nFormat, Bytes("late"));
+    });
+    source->SetData(mFormat, Bytes("now"));
+    source->AnnounceFormat(other);
+    const qt::SourceMimeData mime(source);
+    EXPECT_TRUE(mime.hasFormat("application/x-host exchange"));
+    EXPECT_TRUE(source->GetFormat(other));
+    EXPECT_EQ(mime.data("application/x-vxhwconfigtext"), "now");
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(mime.data("application/x-host exchange"), "late");
+    EXPECT_EQ(source->GetData(other), Bytes("late"));
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(mime.data("text/plain").isEmpty());
+}
+
+TEST_F(Drag, withoutDataOrEffectsIsCompleteAtOnce)
+{
+    mBox.Drag();
+    mEvents.onStart = [&](DataObject& /*data*/, std::int32_t& lAllowed) { lAllowed = vxDropEffectCopyOrMove; };
+    mBox.Drag();
+    mEvents.onStart = [&](DataObject& data, std::int32_t& /*lAllowed*/) { data.SetData(mFormat, Bytes("x")); };
+    mBox.Drag();
+    EXPECT_EQ(mEvents.lines,
+              (std::vector<std::string>{"start", "complete 0", "start", "complete 0", "start", "complete 0"}));
+}
+
+TEST(Clipboard, carriesFormatsByNumber)
+{
+    const auto first = qt::ClipboardFormatNumber("VxHWConfigText");
+    const auto second = qt::ClipboardFormatNumber("Second");
+    EXPECT_EQ(qt::ClipboardFormatNumber("VXHWCONFIGTEXT"), first);
+    EXPECT_NE(first, second);
+    qt::QtClipboard::SetData({{first, Bytes("one")}, {second, Bytes("two")}});
+    EXPECT_TRUE(qt::QtClipboard::GetFormat(first));
+    EXPECT_EQ(qt::QtClipboard::GetData(second), Bytes("two"));
+    qt::QtClipboard::SetData({{second, Bytes("three")}});
+    EXPECT_FALSE(qt::QtClipboard::GetFormat(first));
+    EXPECT_TRUE(qt::QtClipboard::GetData(first).empty());
+    qt::QtClipboard::SetData({});
+    EXPECT_FALSE(qt::QtClipboard::GetFormat(second));
+    EXPECT_FALSE(qt::QtClipboard::GetFormat(1));
+    EXPECT_THROW(qt::QtClipboard::SetData({{1, Bytes("x")}}), VxError);
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
