@@ -1,0 +1,186 @@
+#include "app/catalogue/CatalogueDock.h"
+
+#include "app/catalogue/CatalogueFilter.h"
+#include "app/catalogue/CatalogueTree.h"
+#include "app/catalogue/ModuleTypeCard.h"
+#include "app/host/SvgIcon.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx::reference;
+
+namespace {
+
+constexpr double CardScale = 1.5;
+
+} // namespace
+
+CatalogueDock::CatalogueDock(const Catalogue& catalogue, ModulePictures& pictures, CatalogueModel::DragData dragData,
+                             QWidget* parent)
+    : QDockWidget(parent), moCatalogue(catalogue), moPictures(pictures),
+      moModel(new CatalogueModel(catalogue, std::move(dragData), this)), moFilter(new CatalogueFilter(this)),
+      moSearch(new QLineEdit(this)), moCount(new QLabel(this)),
+      moTree(new CatalogueTree(
+          [this](const QString& orderNumber) {
+              const ModuleType* type = moCatalogue.Find(orderNumber.toStdString());
+              return type ? moPictures.Picture(*type, 1.0, devicePixelRatioF()) : QPixmap();
+          },
+          this)),
+      moCard(new ModuleTypeCard(this)), moInsert(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("catalogueDock"));
+    moFilter->setSourceModel(moModel);
+    moTree->setModel(moFilter);
+    moSearch->setClearButtonEnabled(true);
+    moSearch->addAction(SvgIcon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    moSearch->installEventFilter(this);
+    moCount->setForegroundRole(QPalette::PlaceholderText);
+    moInsert->setAutoDefault(false);
+
+    auto* cardScroll = new QScrollArea(this);
+    cardScroll->setWidgetResizable(true);
+    cardScroll->setFrameShape(QFrame::NoFrame);
+    cardScroll->setWidget(moCard);
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->addWidget(moTree);
+    splitter->addWidget(cardScroll);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    splitter->setSizes({420, 220});
+    splitter->setChildrenCollapsible(false);
+
+    auto* content = new QWidget(this);
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(6, 6, 6, 6);
+    column->addWidget(moSearch);
+    column->addWidget(moCount);
+    column->addWidget(splitter, 1);
+    column->addWidget(moInsert);
+    setWidget(content);
+
+    connect(moSearch, &QLineEdit::textChanged, this, &CatalogueDock::Search);
+    connect(moTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &CatalogueDock::ShowType);
+    connect(moTree, &CatalogueTree::chosen, this, [this](const QString&) { Choose(); });
+    connect(moInsert, &QPushButton::clicked, this, &CatalogueDock::Choose);
+    RetranslateUi();
+    Fill();
+}
+
+void CatalogueDock::RetranslateUi()
+{
+    setWindowTitle(tr("Catalogue"));
+    moSearch->setPlaceholderText(tr("Search name, order number, description"));
+    moSearch->setAccessibleName(tr("Search the catalogue"));
+    moTree->setAccessibleName(tr("Module types"));
+    moInsert->setText(tr("Insert at the focus"));
+}
+
+void CatalogueDock::StationKind(std::int32_t stationKind)
+{
+    if (mlStationKind == stationKind) return;
+    mlStationKind = stationKind;
+    Fill();
+}
+
+void CatalogueDock::UiLanguage(Language language)
+{
+    if (meLanguage == language) return;
+    meLanguage = language;
+    Fill();
+}
+
+void CatalogueDock::InsertEnabled(bool enabled)
+{
+    mbInsertEnabled = enabled;
+    moInsert->setEnabled(enabled && !moTree->CurrentOrderNumber().isEmpty());
+}
+
+void CatalogueDock::FocusSearch()
+{
+    show();
+    raise();
+    moSearch->setFocus(Qt::ShortcutFocusReason);
+    moSearch->selectAll();
+}
+
+void CatalogueDock::changeEvent(QEvent* event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) return;
+    RetranslateUi();
+    Fill();
+}
+
+bool CatalogueDock::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == moSearch && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Down:
+            moTree->setFocus();
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            Choose();
+            return true;
+        case Qt::Key_Escape:
+            moSearch->clear();
+            return true;
+        default:
+            break;
+        }
+    }
+    return QDockWidget::eventFilter(watched, event);
+}
+
+void CatalogueDock::Fill()
+{
+    const QString current = moTree->CurrentOrderNumber();
+    moModel->Fill(mlStationKind, meLanguage);
+    moTree->header()->setStretchLastSection(true);
+    moTree->header()->resizeSection(0, 190);
+    moTree->expandAll();
+    const auto found = moModel->match(moModel->index(0, 0), CatalogueModel::OrderNumberRole, current, 1,
+                                      Qt::MatchExactly | Qt::MatchRecursive);
+    if (!current.isEmpty() && !found.isEmpty()) moTree->setCurrentIndex(moFilter->mapFromSource(found.front()));
+    ShowCount();
+    ShowType();
+}
+
+void CatalogueDock::Search()
+{
+    moFilter->Search(moSearch->text());
+    moTree->expandAll();
+    if (moTree->CurrentOrderNumber().isEmpty()) moTree->setCurrentIndex(moFilter->FirstType());
+    moTree->scrollTo(moTree->currentIndex());
+    ShowCount();
+}
+
+void CatalogueDock::ShowCount()
+{
+    const int count = moFilter->TypeCount();
+    moCount->setText(count == 0 ? tr("No module type matches") : tr("%n module type(s)", nullptr, count));
+}
+
+void CatalogueDock::ShowType()
+{
+    const ModuleType* type = moCatalogue.Find(moTree->CurrentOrderNumber().toStdString());
+    moCard->Show(type, type ? moPictures.Picture(*type, CardScale, devicePixelRatioF()) : QPixmap(), meLanguage);
+    InsertEnabled(mbInsertEnabled);
+}
+
+void CatalogueDock::Choose()
+{
+    const QString orderNumber = moTree->CurrentOrderNumber();
+    if (!orderNumber.isEmpty()) emit insertRequested(orderNumber);
+}
+
+} // namespace quillon_ed

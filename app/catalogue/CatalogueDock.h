@@ -1,0 +1,64 @@
+#pragma once
+
+#include "app/catalogue/CatalogueModel.h"
+#include "app/host/ModulePictures.h"
+#include "reference/catalogue/Catalogue.h"
+
+#include <QDockWidget>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace quillon_ed {
+
+class CatalogueFilter;
+class CatalogueTree;
+class ModuleTypeCard;
+
+/// The catalogue of module types: a tree with search, and picture and facts of the selected type.
+class CatalogueDock : public QDockWidget {
+    Q_OBJECT
+
+public:
+    CatalogueDock(const zqbchwcx::reference::Catalogue& catalogue, ModulePictures& pictures,
+                  CatalogueModel::DragData dragData, QWidget* parent);
+
+    /// Shows the types that stations of that kind take.
+    void StationKind(std::int32_t stationKind);
+    void UiLanguage(zqbchwcx::reference::Language language);
+    /// Whether a type can be inserted now.
+    void InsertEnabled(bool enabled);
+    void FocusSearch();
+
+signals:
+    /// A type was chosen to be inserted at the current position.
+    void insertRequested(const QString& orderNumber);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void RetranslateUi();
+    void Fill();
+    void Search();
+    void ShowCount();
+    void ShowType();
+    void Choose();
+
+    const zqbchwcx::reference::Catalogue& moCatalogue;
+    ModulePictures& moPictures;
+    std::int32_t mlStationKind = 0;
+    zqbchwcx::reference::Language meLanguage = zqbchwcx::reference::Language::English;
+    CatalogueModel* moModel;
+    CatalogueFilter* moFilter;
+    QLineEdit* moSearch;
+    QLabel* moCount;
+    CatalogueTree* moTree;
+    ModuleTypeCard* moCard;
+    QPushButton* moInsert;
+    bool mbInsertEnabled = false;
+};
+
+} // namespace quillon_ed

@@ -1,0 +1,111 @@
+#include "app/document/Document.h"
+
+#include "app/host/Strings.h"
+#include "reference/files/StationReader.h"
+#include "reference/files/StationWriter.h"
+
+#include <QFileInfo>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx::reference;
+
+Document::Document(ModelContextPtr context, StationData data, JournalOrigin origin, StationServices services)
+    : moStation(
+          std::make_shared<zqbchwcx::reference::Station>(std::move(context), std::move(data), std::move(services))),
+      moOrigin(std::move(origin))
+{
+    HistoryServices asked;
+    asked.editName = [this](EditKind kind) { return EditName(kind); };
+    asked.captureView = [this] { return moView.capture ? moView.capture() : ViewState(); };
+    asked.restoreView = [this](const ViewState& state) {
+        if (moView.restore) moView.restore(state);
+    };
+    moHistory = std::make_shared<zqbchwcx::reference::History>(moStation, std::move(asked));
+    moHistoryChanged = moHistory->Changed.Connect([this] { emit changed(); });
+}
+
+Document::~Document() = default;
+
+std::string Document::EditName(EditKind kind) const
+{
+    switch (kind) {
+    case EditKind::Insert:
+        return tr("Insert").toStdString();
+    case EditKind::Move:
+        return tr("Move").toStdString();
+    case EditKind::Delete:
+        return tr("Delete").toStdString();
+    case EditKind::Attribute:
+        return tr("Edit").toStdString();
+    case EditKind::Parameters:
+        return tr("Parameters").toStdString();
+    }
+    return {};
+}
+
+QString Document::FileName() const
+{
+    return ToQString(moOrigin.stationFile);
+}
+
+QString Document::Title() const
+{
+    if (!moOrigin.stationFile.empty()) return QFileInfo(FileName()).fileName();
+    return moStation->Data().name.empty() ? tr("New station") : ToQString(moStation->Data().name);
+}
+
+bool Document::IsModified() const
+{
+    return mbModifiedAnyway || moHistory->IsModified();
+}
+
+bool Document::IsFileWriteProtected() const
+{
+    const QFileInfo file(FileName());
+    return !moOrigin.stationFile.empty() && file.exists() && !file.isWritable();
+}
+
+void Document::MarkModified()
+{
+    mbModifiedAnyway = true;
+    emit changed();
+}
+
+void Document::Save(const QString& fileName)
+{
+    const std::string path = fileName.toStdString();
+    const FileStamp stamp = SaveStation(moStation->Data(), path);
+    moOrigin = {path, stamp};
+    mbModifiedAnyway = false;
+    moHistory->MarkSaved();
+    emit changed();
+}
+
+FileChange Document::FileChange() const
+{
+    if (moOrigin.stationFile.empty() || !moOrigin.stamp) return zqbchwcx::reference::FileChange::Unchanged;
+    return ChangeSince(*moOrigin.stamp, moOrigin.stationFile);
+}
+
+void Document::KeepOwnContent()
+{
+    moOrigin.stamp.reset();
+    FileSystem& files = SystemFiles();
+    if (const auto status = ReadStatus(files, moOrigin.stationFile)) {
+        moOrigin.stamp = MakeStamp(status, ReadFile(files, moOrigin.stationFile, LargestStationFile));
+    }
+    MarkModified();
+}
+
+void Document::Reload()
+{
+    LoadedStation loaded = LoadStation(moOrigin.stationFile, moStation->ModuleTypes());
+    moOrigin.stamp = loaded.stamp;
+    mbModifiedAnyway = false;
+    moStation->Restore(std::move(loaded.data));
+    moHistory->Reset();
+    emit changed();
+}
+
+} // namespace quillon_ed

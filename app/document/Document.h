@@ -1,0 +1,74 @@
+#pragma once
+
+#include "reference/files/FileStamp.h"
+#include "reference/files/JournalEntry.h"
+#include "reference/history/History.h"
+#include "reference/model/contract/Station.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+namespace quillon_ed {
+
+/// A station that is open: its model, its history, and the file that it came from.
+class Document : public QObject {
+    Q_OBJECT
+
+public:
+    /// The view that undo and redo bring back; an empty function is left out.
+    struct View {
+        std::function<zqbchwcx::reference::ViewState()> capture;
+        std::function<void(const zqbchwcx::reference::ViewState&)> restore;
+    };
+
+    /// The origin's file is empty for a station that was never saved.
+    Document(zqbchwcx::reference::ModelContextPtr context, zqbchwcx::reference::StationData data,
+             zqbchwcx::reference::JournalOrigin origin, zqbchwcx::reference::StationServices services);
+    ~Document() override;
+
+    const zqbchwcx::reference::StationPtr& Station() const { return moStation; }
+    zqbchwcx::reference::History& History() { return *moHistory; }
+    const zqbchwcx::reference::History& History() const { return *moHistory; }
+    /// What the host's error service passes user actions to.
+    std::weak_ptr<zqbchwcx::reference::History> Actions() const { return moHistory; }
+    void ShownBy(View view) { moView = std::move(view); }
+
+    const zqbchwcx::reference::JournalOrigin& Origin() const { return moOrigin; }
+    /// Empty when the station was never saved.
+    QString FileName() const;
+    /// The file's name, or the station's.
+    QString Title() const;
+    bool IsModified() const;
+    /// Whether the file is there but may not be written.
+    bool IsFileWriteProtected() const;
+
+    /// Counts as modified whatever the history says, as after a recovery.
+    void MarkModified();
+    /// Writes the file and takes its name over. Throws FileError; the file that was there is then whole, and the
+    /// station stays modified.
+    void Save(const QString& fileName);
+    /// What another program did to the file since it was read or written. Throws FileError.
+    zqbchwcx::reference::FileChange FileChange() const;
+    /// Makes the file's present state the one to compare with, and keeps the own content as a change of it.
+    void KeepOwnContent();
+    /// Takes the file's content over and forgets the history. Throws FileError; nothing has changed then.
+    void Reload();
+
+signals:
+    /// Modified mark, file name, undo or redo have changed.
+    void changed();
+
+private:
+    std::string EditName(zqbchwcx::reference::EditKind kind) const;
+
+    zqbchwcx::reference::StationPtr moStation;
+    zqbchwcx::reference::JournalOrigin moOrigin;
+    View moView;
+    std::shared_ptr<zqbchwcx::reference::History> moHistory;
+    zqbchwcx::EventConnection moHistoryChanged;
+    bool mbModifiedAnyway = false;
+};
+
+} // namespace quillon_ed

@@ -1,0 +1,47 @@
+#include "app/document/RecentFiles.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace quillon_ed {
+
+namespace {
+
+const QString Key = QStringLiteral("RecentFiles");
+
+} // namespace
+
+RecentFiles::RecentFiles(QSettings& settings, QObject* parent) : QObject(parent), moSettings(settings) {}
+
+QStringList RecentFiles::Files() const
+{
+    return moSettings.value(Key).toStringList();
+}
+
+void RecentFiles::Add(const QString& fileName)
+{
+    const QString path = QFileInfo(fileName).absoluteFilePath();
+    QStringList files = Files();
+    files.removeAll(path);
+    files.prepend(path);
+    Store(files.mid(0, Capacity));
+}
+
+void RecentFiles::Remove(const QString& fileName)
+{
+    QStringList files = Files();
+    if (files.removeAll(QFileInfo(fileName).absoluteFilePath()) > 0) Store(files);
+}
+
+void RecentFiles::Clear()
+{
+    Store({});
+}
+
+void RecentFiles::Store(const QStringList& files)
+{
+    moSettings.setValue(Key, files);
+    emit changed();
+}
+
+} // namespace quillon_ed

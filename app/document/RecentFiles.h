@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+class QSettings;
+
+namespace quillon_ed {
+
+/// The station files opened last, the latest first, kept from run to run.
+class RecentFiles : public QObject {
+    Q_OBJECT
+
+public:
+    /// The settings outlive the object.
+    RecentFiles(QSettings& settings, QObject* parent);
+
+    QStringList Files() const;
+    void Add(const QString& fileName);
+    void Remove(const QString& fileName);
+    void Clear();
+
+    static constexpr int Capacity = 10;
+
+signals:
+    void changed();
+
+private:
+    void Store(const QStringList& files);
+
+    QSettings& moSettings;
+};
+
+} // namespace quillon_ed

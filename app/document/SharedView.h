@@ -1,0 +1,16 @@
+#pragma once
+
+#include "foundation/model/VxHWStation.h"
+#include "reference/history/ViewState.h"
+#include "selection/VxHWSelectionHandler.h"
+
+namespace quillon_ed {
+
+/// Selection, focus and anchor as they are now.
+zqbchwcx::reference::ViewState CaptureView(const zqbchwcx::VxHWSelectionHandler& handler);
+
+/// Selects and focuses as the state says; positions that the station does not have are left out. Reports errors.
+void ShowView(zqbchwcx::VxHWSelectionHandler& handler, const zqbchwcx::VxHWStation& station,
+              const zqbchwcx::reference::ViewState& state);
+
+} // namespace quillon_ed

@@ -1,0 +1,915 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>StationPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::AboutDialog</name>
+    <message>
+        <source>About Quillon Ed</source>
+        <translation>Über Quillon Ed</translation>
+    </message>
+    <message>
+        <source>Hardware configuration of programmable-controller stations.</source>
+        <translation>Hardwarekonfiguration speicherprogrammierbarer Stationen.</translation>
+    </message>
+    <message>
+        <source>Licence: Apache-2.0</source>
+        <translation>Lizenz: Apache-2.0</translation>
+    </message>
+    <message>
+        <source>Made with Qt %1</source>
+        <translation>Erstellt mit Qt %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::CatalogueDock</name>
+    <message>
+        <source>Catalogue</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Search name, order number, description</source>
+        <translation>Name, Bestellnummer, Beschreibung suchen</translation>
+    </message>
+    <message>
+        <source>Search the catalogue</source>
+        <translation>Katalog durchsuchen</translation>
+    </message>
+    <message>
+        <source>Module types</source>
+        <translation>Baugruppentypen</translation>
+    </message>
+    <message>
+        <source>Insert at the focus</source>
+        <translation>Am Fokus einfügen</translation>
+    </message>
+    <message>
+        <source>No module type matches</source>
+        <translation>Kein Baugruppentyp passt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n module type(s)</source>
+        <translation>
+            <numerusform>%n Baugruppentyp</numerusform>
+            <numerusform>%n Baugruppentypen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::CatalogueModel</name>
+    <message>
+        <source>Module</source>
+        <translation>Baugruppe</translation>
+    </message>
+    <message>
+        <source>Order number</source>
+        <translation>Bestellnummer</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::DistributedNote</name>
+    <message>
+        <source>Distributed station</source>
+        <translation>Dezentrale Station</translation>
+    </message>
+    <message>
+        <source>Its picture is not part of this version yet. The list beside it shows every place: select one there, then insert modules from the catalogue, cut, copy, paste, delete or edit them.</source>
+        <translation>Ihr Bild gehört noch nicht zu dieser Version. Die Liste daneben zeigt jeden Steckplatz: Wählen Sie dort einen aus, um Baugruppen aus dem Katalog einzufügen, auszuschneiden, zu kopieren, zu löschen oder zu bearbeiten.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::Document</name>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>New station</source>
+        <translation>Neue Station</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ExportCommands</name>
+    <message>
+        <source>Quillon Ed</source>
+        <translation>Quillon Ed</translation>
+    </message>
+    <message>
+        <source>Export picture</source>
+        <translation>Bild exportieren</translation>
+    </message>
+    <message>
+        <source>Page (*.pdf)</source>
+        <translation>Seite (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Vector picture (*.svg)</source>
+        <translation>Vektorbild (*.svg)</translation>
+    </message>
+    <message>
+        <source>The picture cannot be exported.</source>
+        <translation>Das Bild kann nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>Export module list</source>
+        <translation>Baugruppenliste exportieren</translation>
+    </message>
+    <message>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>Markdown (*.md)</source>
+        <translation>Markdown (*.md)</translation>
+    </message>
+    <message>
+        <source>The module list cannot be exported.</source>
+        <translation>Die Baugruppenliste kann nicht exportiert werden.</translation>
+    </message>
+    <message>
+        <source>The printer cannot be used.</source>
+        <translation>Der Drucker kann nicht benutzt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::FileCommands</name>
+    <message>
+        <source>Unsaved changes cannot be kept for a recovery: %1</source>
+        <translation>Ungespeicherte Änderungen können nicht für eine Wiederherstellung aufbewahrt werden: %1</translation>
+    </message>
+    <message>
+        <source>Quillon Ed</source>
+        <translation>Quillon Ed</translation>
+    </message>
+    <message>
+        <source>Open station</source>
+        <translation>Station öffnen</translation>
+    </message>
+    <message>
+        <source>Stations (*.station.json *.json);;All files (*)</source>
+        <translation>Stationen (*.station.json *.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be opened.</source>
+        <translation>„%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Save station</source>
+        <translation>Station speichern</translation>
+    </message>
+    <message>
+        <source>Stations (*.station.json)</source>
+        <translation>Stationen (*.station.json)</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be saved.</source>
+        <translation>„%1“ kann nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Save as…</source>
+        <translation>Speichern unter…</translation>
+    </message>
+    <message>
+        <source>“%1” was changed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Saving replaces that program's changes by yours.</source>
+        <translation>Das Speichern ersetzt dessen Änderungen durch Ihre.</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Save the changes to “%1”?</source>
+        <translation>Änderungen an „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>They are lost otherwise.</source>
+        <translation>Andernfalls gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>“%1” was removed or renamed by another program.</source>
+        <translation>„%1“ wurde von einem anderen Programm entfernt oder umbenannt.</translation>
+    </message>
+    <message>
+        <source>Reloading drops your unsaved changes.</source>
+        <translation>Beim Neuladen gehen Ihre ungespeicherten Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Eigene behalten</translation>
+    </message>
+    <message>
+        <source>There is nothing to recover.</source>
+        <translation>Es gibt nichts wiederherzustellen.</translation>
+    </message>
+    <message>
+        <source>The station cannot be recovered.</source>
+        <translation>Die Station kann nicht wiederhergestellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::FormField</name>
+    <message>
+        <source>Back to the default</source>
+        <translation>Zurück zur Voreinstellung</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::MainWindow</name>
+    <message>
+        <source>Clear this list</source>
+        <translation>Liste leeren</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::MessagesDock</name>
+    <message>
+        <source>Messages</source>
+        <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ModuleForm</name>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Input address</source>
+        <translation>Eingangsadresse</translation>
+    </message>
+    <message>
+        <source>Output address</source>
+        <translation>Ausgangsadresse</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Bytes</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ModuleInserter</name>
+    <message>
+        <source>Insert</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>The module was not inserted; see the messages</source>
+        <translation>Die Baugruppe wurde nicht eingefügt; siehe Meldungen</translation>
+    </message>
+    <message>
+        <source>The module does not fit there</source>
+        <translation>Die Baugruppe passt dort nicht</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ModuleList</name>
+    <message>
+        <source>Modules of the rack</source>
+        <translation>Baugruppen des Trägers</translation>
+    </message>
+    <message>
+        <source>Racks</source>
+        <translation>Baugruppenträger</translation>
+    </message>
+    <message>
+        <source>Rack %1</source>
+        <translation>Träger %1</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ModuleListModel</name>
+    <message>
+        <source>%1 (continued)</source>
+        <translation>%1 (Fortsetzung)</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>Baugruppe</translation>
+    </message>
+    <message>
+        <source>Order number</source>
+        <translation>Bestellnummer</translation>
+    </message>
+    <message>
+        <source>I address</source>
+        <translation>E-Adresse</translation>
+    </message>
+    <message>
+        <source>O address</source>
+        <translation>A-Adresse</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ModuleTypeCard</name>
+    <message>
+        <source>Drag a module onto a place, or double-click it to insert it at the focus.</source>
+        <translation>Ziehen Sie eine Baugruppe auf einen Steckplatz, oder fügen Sie sie mit einem Doppelklick am Fokus ein.</translation>
+    </message>
+    <message>
+        <source>Places</source>
+        <translation>Steckplätze</translation>
+    </message>
+    <message>
+        <source>Inputs</source>
+        <translation>Eingänge</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n byte(s)</source>
+        <translation>
+            <numerusform>%n Byte</numerusform>
+            <numerusform>%n Bytes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Outputs</source>
+        <translation>Ausgänge</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::NewStationDialog</name>
+    <message>
+        <source>New station</source>
+        <translation>Neue Station</translation>
+    </message>
+    <message>
+        <source>Central station</source>
+        <translation>Zentrale Station</translation>
+    </message>
+    <message>
+        <source>Distributed station, on a rail</source>
+        <translation>Dezentrale Station, auf einer Schiene</translation>
+    </message>
+    <message>
+        <source>Distributed station, self-contained modules</source>
+        <translation>Dezentrale Station, eigenständige Baugruppen</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>&amp;Art:</translation>
+    </message>
+    <message>
+        <source>&amp;Racks:</source>
+        <translation>&amp;Baugruppenträger:</translation>
+    </message>
+    <message>
+        <source>&amp;Places per rack:</source>
+        <translation>&amp;Plätze je Träger:</translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation>Anlegen</translation>
+    </message>
+    <message>
+        <source>Racks with a power supply in place 1, the controller in place 2 of rack 0 and an interface module in place 3, followed by input and output modules.</source>
+        <translation>Baugruppenträger mit einer Stromversorgung auf Platz 1, der Zentralbaugruppe auf Platz 2 von Träger 0 und einer Anschaltung auf Platz 3, gefolgt von Ein- und Ausgabebaugruppen.</translation>
+    </message>
+    <message>
+        <source>A head in place 1, followed by input and output modules in rows of eight.</source>
+        <translation>Eine Kopfbaugruppe auf Platz 1, gefolgt von Ein- und Ausgabebaugruppen in Reihen zu acht.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ParameterDialog</name>
+    <message>
+        <source>The last address of this station is %1</source>
+        <translation>Die letzte Adresse dieser Station ist %1</translation>
+    </message>
+    <message>
+        <source>Another module uses this address</source>
+        <translation>Eine andere Baugruppe belegt diese Adresse</translation>
+    </message>
+    <message>
+        <source>Parameters (read-only)</source>
+        <translation>Parameter (schreibgeschützt)</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>Baugruppe</translation>
+    </message>
+    <message>
+        <source>Module and sub-modules</source>
+        <translation>Baugruppe und Submodule</translation>
+    </message>
+    <message>
+        <source>Something here is not valid</source>
+        <translation>Hier ist etwas ungültig</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ParameterText</name>
+    <message>
+        <source>Between %1 and %2</source>
+        <translation>Zwischen %1 und %2</translation>
+    </message>
+    <message>
+        <source>A whole number is needed</source>
+        <translation>Eine ganze Zahl ist nötig</translation>
+    </message>
+    <message>
+        <source>A number is needed</source>
+        <translation>Eine Zahl ist nötig</translation>
+    </message>
+    <message numerus="yes">
+        <source>Longer than %n byte(s)</source>
+        <translation>
+            <numerusform>Länger als %n Byte</numerusform>
+            <numerusform>Länger als %n Bytes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>At least %n character(s)</source>
+        <translation>
+            <numerusform>Mindestens %n Zeichen</numerusform>
+            <numerusform>Mindestens %n Zeichen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>At most %n character(s)</source>
+        <translation>
+            <numerusform>Höchstens %n Zeichen</numerusform>
+            <numerusform>Höchstens %n Zeichen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::PositionText</name>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>inactive</source>
+        <translation>inaktiv</translation>
+    </message>
+    <message>
+        <source>not usable</source>
+        <translation>nicht nutzbar</translation>
+    </message>
+    <message>
+        <source>I %1</source>
+        <translation>E %1</translation>
+    </message>
+    <message>
+        <source>Q %1</source>
+        <translation>A %1</translation>
+    </message>
+    <message>
+        <source>Rack %1</source>
+        <translation>Träger %1</translation>
+    </message>
+    <message>
+        <source>before place 1</source>
+        <translation>vor Platz 1</translation>
+    </message>
+    <message>
+        <source>behind place %1</source>
+        <translation>hinter Platz %1</translation>
+    </message>
+    <message>
+        <source>between places %1 and %2</source>
+        <translation>zwischen Platz %1 und %2</translation>
+    </message>
+    <message>
+        <source>Place %1</source>
+        <translation>Platz %1</translation>
+    </message>
+    <message>
+        <source>not present</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::RecoveryDialog</name>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>Recover unsaved stations</source>
+        <translation>Nicht gespeicherte Stationen wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Quillon Ed ended before these stations were saved.</source>
+        <translation>Quillon Ed endete, bevor diese Stationen gespeichert waren.</translation>
+    </message>
+    <message>
+        <source>Unsaved stations</source>
+        <translation>Nicht gespeicherte Stationen</translation>
+    </message>
+    <message>
+        <source>Station</source>
+        <translation>Station</translation>
+    </message>
+    <message>
+        <source>Last change</source>
+        <translation>Letzte Änderung</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>never saved</source>
+        <translation>nie gespeichert</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>can be recovered</source>
+        <translation>wiederherstellbar</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Später</translation>
+    </message>
+    <message>
+        <source>Keeps them; they are offered again at the next start</source>
+        <translation>Behält sie; sie werden beim nächsten Start wieder angeboten</translation>
+    </message>
+    <message>
+        <source>Discard these changes for good?</source>
+        <translation>Diese Änderungen endgültig verwerfen?</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ShortcutsDialog</name>
+    <message>
+        <source>Arrow keys</source>
+        <translation>Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Move the focus over places and gaps, and between racks</source>
+        <translation>Bewegen den Fokus über Plätze, Lücken und Träger</translation>
+    </message>
+    <message>
+        <source>Shift + arrow keys</source>
+        <translation>Umschalt + Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Select a range of places</source>
+        <translation>Wählen einen Bereich von Plätzen aus</translation>
+    </message>
+    <message>
+        <source>Ctrl + arrow keys</source>
+        <translation>Strg + Pfeiltasten</translation>
+    </message>
+    <message>
+        <source>Move the focus and leave the selection</source>
+        <translation>Bewegen den Fokus, die Auswahl bleibt</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>Select the focused place, with Ctrl in addition</source>
+        <translation>Wählt den Platz am Fokus aus, mit Strg zusätzlich</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Edit the parameters of the module</source>
+        <translation>Bearbeitet die Parameter der Baugruppe</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Delete the selected modules</source>
+        <translation>Löscht die ausgewählten Baugruppen</translation>
+    </message>
+    <message>
+        <source>Ctrl + X, C, V</source>
+        <translation>Strg + X, C, V</translation>
+    </message>
+    <message>
+        <source>Cut, copy, paste, also between two windows</source>
+        <translation>Ausschneiden, kopieren, einfügen, auch zwischen zwei Fenstern</translation>
+    </message>
+    <message>
+        <source>Ctrl + Z, Ctrl + Y</source>
+        <translation>Strg + Z, Strg + Y</translation>
+    </message>
+    <message>
+        <source>Undo, redo</source>
+        <translation>Rückgängig, wiederholen</translation>
+    </message>
+    <message>
+        <source>Ctrl + A</source>
+        <translation>Strg + A</translation>
+    </message>
+    <message>
+        <source>Select all places of the rack</source>
+        <translation>Wählt alle Plätze des Trägers aus</translation>
+    </message>
+    <message>
+        <source>Ctrl + F</source>
+        <translation>Strg + F</translation>
+    </message>
+    <message>
+        <source>Find a module type; Enter inserts it at the focus</source>
+        <translation>Sucht einen Baugruppentyp; Eingabe fügt ihn am Fokus ein</translation>
+    </message>
+    <message>
+        <source>Menu key, Shift + F10</source>
+        <translation>Menütaste, Umschalt + F10</translation>
+    </message>
+    <message>
+        <source>Menu of the focused place</source>
+        <translation>Menü des Platzes am Fokus</translation>
+    </message>
+    <message>
+        <source>Drag a module</source>
+        <translation>Baugruppe ziehen</translation>
+    </message>
+    <message>
+        <source>Move it to a place or a gap, with Ctrl copy it</source>
+        <translation>Verschiebt sie auf einen Platz oder in eine Lücke, mit Strg kopiert</translation>
+    </message>
+    <message>
+        <source>Drag on empty ground</source>
+        <translation>Auf leerem Grund ziehen</translation>
+    </message>
+    <message>
+        <source>Select the places in the frame</source>
+        <translation>Wählt die Plätze im Rahmen aus</translation>
+    </message>
+    <message>
+        <source>Keyboard and mouse</source>
+        <translation>Tastatur und Maus</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Taste</translation>
+    </message>
+    <message>
+        <source>What it does</source>
+        <translation>Wirkung</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::StartPage</name>
+    <message>
+        <source>Begin a station, open one, or drop a station file on this window.</source>
+        <translation>Legen Sie eine Station an, öffnen Sie eine, oder ziehen Sie eine Stationsdatei auf dieses Fenster.</translation>
+    </message>
+    <message>
+        <source>Opened last</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Examples</source>
+        <translation>Beispiele</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::StatusLine</name>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n place(s) selected</source>
+        <translation>
+            <numerusform>%n Platz ausgewählt</numerusform>
+            <numerusform>%n Plätze ausgewählt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Read-only</source>
+        <translation>Schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>File is write-protected</source>
+        <translation>Datei ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>Online</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ValueInput</name>
+    <message>
+        <source>Not one of the choices</source>
+        <translation>Keine der Möglichkeiten</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::WindowActions</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Toolbar</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;New station…</source>
+        <translation>&amp;Neue Station…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>Speichern &amp;unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Export picture…</source>
+        <translation>Bild &amp;exportieren…</translation>
+    </message>
+    <message>
+        <source>Export module &amp;list…</source>
+        <translation>Baugruppen&amp;liste exportieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>&amp;Drucken…</translation>
+    </message>
+    <message>
+        <source>Reco&amp;ver unsaved stations…</source>
+        <translation>Nicht gespeicherte Stationen &amp;wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>E&amp;infügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Para&amp;meters…</source>
+        <translation>&amp;Parameter…</translation>
+    </message>
+    <message>
+        <source>Select &amp;all of the rack</source>
+        <translation>Ganzen &amp;Träger auswählen</translation>
+    </message>
+    <message>
+        <source>&amp;Find in the catalogue</source>
+        <translation>Im Katalog &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard and mouse</source>
+        <translation>&amp;Tastatur und Maus</translation>
+    </message>
+    <message>
+        <source>&amp;About Quillon Ed</source>
+        <translation>Ü&amp;ber Quillon Ed</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,58 @@
+#include "app/window/EditParameters.h"
+
+#include "app/dialogs/ParameterDialog.h"
+#include "app/host/AppServices.h"
+#include "app/host/Strings.h"
+#include "reference/model/contract/Station.h"
+#include "reference/model/editing/EditModule.h"
+
+namespace quillon_ed {
+
+using namespace zqbchwcx::reference;
+
+namespace {
+
+constexpr double PictureScale = 1.25;
+
+/// Against addresses that other modules use. The module's own ones are free for it.
+AddressCheck MakeAddressCheck(const EditContext& context, const ModuleData& module)
+{
+    StationAddresses others = context.addresses;
+    others.Release(module, context.catalogue);
+    return [others = std::move(others)](AddressArea area, std::int32_t address, std::int32_t bytes) {
+        const AddressMap& map = others.Of(area);
+        if (address + bytes > map.AreaSize()) {
+            return ParameterDialog::tr("The last address of this station is %1").arg(map.AreaSize() - 1);
+        }
+        return map.IsFree(address, bytes) ? QString() : ParameterDialog::tr("Another module uses this address");
+    };
+}
+
+} // namespace
+
+std::optional<ModuleData> EditParameters(AppServices& services, const Station& station, const ModuleData& module,
+                                         PlaceRef place, QWidget* parent)
+{
+    const Catalogue& catalogue = services.Catalogue();
+    if (!ParameterDialog::CanEdit(module, catalogue)) return std::nullopt;
+    const Language language = services.CurrentLanguage();
+    const EditContext edit = station.EditFrom();
+
+    ParameterDialogContext context;
+    context.catalogue = &catalogue;
+    context.language = language;
+    context.place = ToQString(PlaceText(place), language);
+    context.picture =
+        services.Pictures().Picture(*catalogue.Find(module.orderNumber), PictureScale, parent->devicePixelRatioF());
+    context.readOnly = station.IsReadOnly();
+    context.addressCheck = MakeAddressCheck(edit, module);
+    context.moduleCheck = [&](const ModuleData& edited) {
+        const auto outcome = ReplaceModule(edit, place, edited);
+        return outcome ? QString() : ToQString(outcome.Reason().text, language);
+    };
+    ParameterDialog dialog(module, context, parent);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.Result();
+}
+
+} // namespace quillon_ed

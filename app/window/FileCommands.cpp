@@ -1,0 +1,290 @@
+#include "app/window/FileCommands.h"
+
+#include "app/dialogs/NewStationDialog.h"
+#include "app/dialogs/RecoveryDialog.h"
+#include "app/document/JournalDirectory.h"
+#include "app/host/ShippedData.h"
+#include "app/host/Strings.h"
+#include "reference/files/StationReader.h"
+#include "reference/json/FileError.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QStandardPaths>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx::reference;
+
+namespace {
+
+const QString StationSuffix = QStringLiteral("station.json");
+
+QString ReasonOf(const FileError& error)
+{
+    const QString reason = ToQString(error.reason);
+    return error.pointer.empty() ? reason : QStringLiteral("%1: %2").arg(ToQString(error.pointer), reason);
+}
+
+} // namespace
+
+FileCommands::FileCommands(AppServices& services, RecentFiles& recentFiles, ParameterDialog parameterDialog,
+                           QWidget& window)
+    : moServices(services), moRecentFiles(recentFiles), moParameterDialog(std::move(parameterDialog)), moWindow(window)
+{
+}
+
+FileCommands::~FileCommands() = default;
+
+std::unique_ptr<Document> FileCommands::MakeDocument(StationData data, JournalOrigin origin) const
+{
+    StationServices asked;
+    asked.clipboard = moServices.Clipboard();
+    asked.parameterDialog = moParameterDialog;
+    return std::make_unique<Document>(moServices.Context(), std::move(data), std::move(origin), std::move(asked));
+}
+
+void FileCommands::Adopt(std::unique_ptr<Document> document)
+{
+    if (moDocument) emit aboutToClose();
+    if (moAutoSave) moAutoSave->Discard();
+    moAutoSave.reset();
+    moServices.Errors().Actions({});
+    moDocument = std::move(document);
+    if (moDocument) {
+        moServices.Errors().Actions(moDocument->Actions());
+        connect(moDocument.get(), &Document::changed, this, &FileCommands::changed);
+        moAutoSave = std::make_unique<AutoSave>(*moDocument, JournalDirectory(), nullptr);
+        connect(moAutoSave.get(), &AutoSave::failed, this, [this](const QString& reason) {
+            emit warned(tr("Unsaved changes cannot be kept for a recovery: %1").arg(reason));
+        });
+    }
+    emit opened();
+}
+
+void FileCommands::Tell(const QString& what, const QString& reason)
+{
+    QMessageBox box(QMessageBox::Critical, tr("Quillon Ed"), what, QMessageBox::Close, &moWindow);
+    box.setInformativeText(reason);
+    box.exec();
+}
+
+void FileCommands::New()
+{
+    if (!MayLeave()) return;
+    NewStationDialog dialog(&moWindow);
+    if (dialog.exec() == QDialog::Accepted) Adopt(MakeDocument(dialog.Station(), {}));
+}
+
+void FileCommands::Open()
+{
+    const QString directory =
+        moDocument && !moDocument->FileName().isEmpty() ? QFileInfo(moDocument->FileName()).absolutePath() : QString();
+    const QString fileName = QFileDialog::getOpenFileName(&moWindow, tr("Open station"), directory,
+                                                          tr("Stations (*.station.json *.json);;All files (*)"));
+    if (!fileName.isEmpty()) OpenFile(fileName);
+}
+
+bool FileCommands::OpenFile(const QString& fileName)
+{
+    if (!MayLeave()) return false;
+    const QString path = QFileInfo(fileName).absoluteFilePath();
+    try {
+        LoadedStation loaded = LoadStation(path.toStdString(), moServices.Catalogue());
+        Adopt(MakeDocument(std::move(loaded.data), {path.toStdString(), loaded.stamp}));
+        moRecentFiles.Add(path);
+        return true;
+    } catch (const FileError& error) {
+        if (!QFileInfo::exists(path)) moRecentFiles.Remove(path);
+        Tell(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)), ReasonOf(error));
+        return false;
+    }
+}
+
+void FileCommands::OpenExample(const QString& resource)
+{
+    if (!MayLeave()) return;
+    try {
+        const QByteArray text = ReadWhole(resource);
+        Adopt(MakeDocument(ParseStation({text.data(), static_cast<std::size_t>(text.size())}, resource.toStdString(),
+                                        moServices.Catalogue()),
+                           {}));
+    } catch (const FileError& error) {
+        Tell(tr("“%1” cannot be opened.").arg(resource), ReasonOf(error));
+    }
+}
+
+QString FileCommands::ProposedFileName() const
+{
+    if (!moDocument->FileName().isEmpty()) return moDocument->FileName();
+    QString name = moDocument->Title();
+    for (const QChar c : QStringLiteral("/\\:*?\"<>|")) name.replace(c, u'-');
+    const QString directory = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(directory).filePath(name + u'.' + StationSuffix);
+}
+
+bool FileCommands::Save()
+{
+    if (!moDocument) return false;
+    if (moDocument->FileName().isEmpty()) return SaveAs();
+    return MayOverwriteForeignChange() && SaveTo(moDocument->FileName());
+}
+
+bool FileCommands::SaveAs()
+{
+    if (!moDocument) return false;
+    QFileDialog dialog(&moWindow, tr("Save station"), ProposedFileName(), tr("Stations (*.station.json)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(StationSuffix);
+    dialog.selectFile(ProposedFileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+    return SaveTo(dialog.selectedFiles().front());
+}
+
+bool FileCommands::SaveTo(const QString& fileName)
+{
+    try {
+        moDocument->Save(fileName);
+        moRecentFiles.Add(fileName);
+        return true;
+    } catch (const FileError& error) {
+        QMessageBox box(QMessageBox::Critical, tr("Quillon Ed"),
+                        tr("“%1” cannot be saved.").arg(QDir::toNativeSeparators(fileName)), QMessageBox::Close,
+                        &moWindow);
+        box.setInformativeText(ReasonOf(error));
+        const QPushButton* elsewhere = box.addButton(tr("Save as…"), QMessageBox::AcceptRole);
+        box.exec();
+        return box.clickedButton() == elsewhere && SaveAs();
+    }
+}
+
+bool FileCommands::MayOverwriteForeignChange()
+{
+    try {
+        if (moDocument->FileChange() != FileChange::Changed) return true;
+    } catch (const FileError&) {
+        return true; // what is wrong with the file is told by the saving
+    }
+    QMessageBox box(QMessageBox::Warning, tr("Quillon Ed"),
+                    tr("“%1” was changed by another program.").arg(moDocument->Title()), QMessageBox::Cancel,
+                    &moWindow);
+    box.setInformativeText(tr("Saving replaces that program's changes by yours."));
+    const QPushButton* overwrite = box.addButton(tr("Overwrite"), QMessageBox::DestructiveRole);
+    const QPushButton* elsewhere = box.addButton(tr("Save as…"), QMessageBox::AcceptRole);
+    box.exec();
+    if (box.clickedButton() == elsewhere) SaveAs();
+    return box.clickedButton() == overwrite;
+}
+
+bool FileCommands::Close()
+{
+    if (!MayLeave()) return false;
+    if (moDocument) Adopt(nullptr);
+    return true;
+}
+
+bool FileCommands::MayLeave()
+{
+    if (!moDocument || !moDocument->IsModified()) return true;
+    const QScopedValueRollback<bool> guard(mbAsking, true);
+    QMessageBox box(QMessageBox::Question, tr("Quillon Ed"), tr("Save the changes to “%1”?").arg(moDocument->Title()),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &moWindow);
+    box.setInformativeText(tr("They are lost otherwise."));
+    box.setDefaultButton(QMessageBox::Save);
+    switch (box.exec()) {
+    case QMessageBox::Save:
+        return Save();
+    case QMessageBox::Discard:
+        moAutoSave->Discard();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void FileCommands::CheckFile()
+{
+    if (!moDocument || mbAsking) return;
+    const QScopedValueRollback<bool> guard(mbAsking, true);
+    try {
+        const FileChange change = moDocument->FileChange();
+        if (change != FileChange::Unchanged) AnswerForeignChange(change);
+    } catch (const FileError& error) {
+        emit warned(QString::fromUtf8(error.what()));
+    }
+}
+
+void FileCommands::AnswerForeignChange(FileChange change)
+{
+    const bool missing = change == FileChange::Missing;
+    const QString title = moDocument->Title();
+    QMessageBox box(QMessageBox::Warning, tr("Quillon Ed"),
+                    missing ? tr("“%1” was removed or renamed by another program.").arg(title)
+                            : tr("“%1” was changed by another program.").arg(title),
+                    QMessageBox::NoButton, &moWindow);
+    if (!missing && moDocument->IsModified()) box.setInformativeText(tr("Reloading drops your unsaved changes."));
+    const QPushButton* reload = missing ? nullptr : box.addButton(tr("Reload"), QMessageBox::DestructiveRole);
+    QPushButton* keep = box.addButton(tr("Keep mine"), QMessageBox::RejectRole);
+    const QPushButton* elsewhere = box.addButton(tr("Save as…"), QMessageBox::AcceptRole);
+    box.setEscapeButton(keep);
+    box.exec();
+    if (reload && box.clickedButton() == reload) {
+        try {
+            moDocument->Reload();
+            return;
+        } catch (const FileError& error) {
+            Tell(tr("“%1” cannot be opened.").arg(title), ReasonOf(error));
+        }
+    }
+    // Whatever comes next, the same change is not asked about twice.
+    moDocument->KeepOwnContent();
+    if (box.clickedButton() == elsewhere) SaveAs();
+}
+
+void FileCommands::OfferRecovery(bool telling)
+{
+    try {
+        std::vector<RecoverableJournal> journals = FindRecoverable(JournalDirectory());
+        if (journals.empty()) {
+            if (telling) emit warned(tr("There is nothing to recover."));
+            return;
+        }
+        RecoveryDialog dialog(std::move(journals), &moWindow);
+        connect(&dialog, &RecoveryDialog::recoverRequested, this, [&](const RecoverableJournal& journal) {
+            dialog.accept();
+            Recover(journal);
+        });
+        connect(&dialog, &RecoveryDialog::discardRequested, this, [this](const RecoverableJournal& journal) {
+            try {
+                DropJournal(journal.journalFile);
+            } catch (const FileError& error) {
+                emit warned(QString::fromUtf8(error.what()));
+            }
+        });
+        const QScopedValueRollback<bool> guard(mbAsking, true);
+        dialog.exec();
+    } catch (const FileError& error) {
+        emit warned(QString::fromUtf8(error.what()));
+    }
+}
+
+void FileCommands::Recover(const RecoverableJournal& journal)
+{
+    if (!MayLeave()) return;
+    try {
+        RecoveredStation recovered = zqbchwcx::reference::Recover(journal.journalFile, moServices.Catalogue());
+        Adopt(MakeDocument(std::move(recovered.data), recovered.origin));
+        moDocument->MarkModified();
+        // The old journal goes only when the new one holds the station.
+        moAutoSave->Flush();
+        DropJournal(journal.journalFile);
+    } catch (const FileError& error) {
+        Tell(tr("The station cannot be recovered."), ReasonOf(error));
+    }
+}
+
+} // namespace quillon_ed

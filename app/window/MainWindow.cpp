@@ -1,0 +1,380 @@
+#include "app/window/MainWindow.h"
+
+#include "app/catalogue/CatalogueDock.h"
+#include "app/dialogs/AboutDialog.h"
+#include "app/dialogs/ShortcutsDialog.h"
+#include "app/document/SharedView.h"
+#include "app/host/ShippedData.h"
+#include "app/host/Strings.h"
+#include "app/host/SvgIcon.h"
+#include "app/window/EditParameters.h"
+#include "app/window/ExportCommands.h"
+#include "app/window/MessagesDock.h"
+#include "app/window/ModuleInserter.h"
+#include "app/window/StartPage.h"
+#include "app/window/StationView.h"
+#include "app/window/StatusLine.h"
+#include "foundation/mdl_ErrorHandler.h"
+#include "foundation/mdl_Main.h"
+#include "foundation/model/VxHWModule.h"
+#include "foundation/model/VxHWModules.h"
+#include "foundation/model/VxHWRackPlace.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "foundation/model/VxHWRacks.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QToolBar>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx;
+using reference::Language;
+
+namespace {
+
+constexpr char ClassName[] = "MainWindow";
+const QString GeometryKey = QStringLiteral("Window/Geometry");
+const QString StateKey = QStringLiteral("Window/State");
+
+bool HasParamDialogInSelection(const VxHWSelectionHandler& handler)
+{
+    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
+        if (place->Module()->HasParamDialog()) return true;
+    }
+    return false;
+}
+
+/// The local files that a drag over the window carries.
+QStringList FilesOf(const QMimeData* data)
+{
+    QStringList files;
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile()) files << url.toLocalFile();
+    }
+    return files;
+}
+
+QString InSentence(const QString& step, Language language)
+{
+    return language == Language::English ? step.left(1).toLower() + step.mid(1) : step;
+}
+
+} // namespace
+
+MainWindow::MainWindow(AppServices& services)
+    : moServices(services), moRecentFiles(services.Settings(), nullptr),
+      moFiles(
+          services, moRecentFiles,
+          [this](const reference::ModuleData& module, reference::PlaceRef place) {
+              return EditParameters(moServices, *moFiles.Current()->Station(), module, place, this);
+          },
+          *this),
+      moActions(*this), moPages(new QStackedWidget(this)),
+      moStartPage(new StartPage(moActions.fileNew, moActions.fileOpen, this)), moStatusLine(new StatusLine(this))
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowIcon(SvgIcon(QStringLiteral("quillon-ed")));
+    moPages->addWidget(moStartPage);
+    setCentralWidget(moPages);
+    setStatusBar(moStatusLine);
+    AddDocks();
+    ConnectFileActions();
+    ConnectEditActions();
+    ConnectViewActions();
+    moActions.ShowLanguage(services.CurrentLanguage());
+    FillRecentMenu();
+    FillExamples();
+    resize(1180, 720);
+    restoreGeometry(services.Settings().value(GeometryKey).toByteArray());
+    restoreState(services.Settings().value(StateKey).toByteArray());
+    moMessages->hide();
+    // A station file may be dropped anywhere on the window, whatever lies there.
+    qApp->installEventFilter(this);
+    ReadClipboard();
+    ShowDocument();
+}
+
+MainWindow::~MainWindow()
+{
+    CloseView();
+}
+
+void MainWindow::AddDocks()
+{
+    moCatalogue = new CatalogueDock(
+        moServices.Catalogue(), moServices.Pictures(),
+        [this](const QString& orderNumber) {
+            Document* document = moFiles.Current();
+            return document ? ModuleDragData(*document->Station(), orderNumber) : nullptr;
+        },
+        this);
+    moCatalogue->UiLanguage(moServices.CurrentLanguage());
+    addDockWidget(Qt::RightDockWidgetArea, moCatalogue);
+    resizeDocks({moCatalogue}, {330}, Qt::Horizontal);
+    connect(moCatalogue, &CatalogueDock::insertRequested, this, &MainWindow::Insert);
+
+    moMessages = new MessagesDock(moServices.Errors(), this);
+    addDockWidget(Qt::BottomDockWidgetArea, moMessages);
+}
+
+void MainWindow::ConnectFileActions()
+{
+    const auto on = [this](QAction& action, auto receiver, auto slot) {
+        connect(&action, &QAction::triggered, receiver, slot);
+    };
+    on(moActions.fileNew, &moFiles, &FileCommands::New);
+    on(moActions.fileOpen, &moFiles, &FileCommands::Open);
+    on(moActions.fileSave, &moFiles, &FileCommands::Save);
+    on(moActions.fileSaveAs, &moFiles, &FileCommands::SaveAs);
+    on(moActions.fileClose, &moFiles, &FileCommands::Close);
+    on(moActions.fileRecover, &moFiles, [this] { moFiles.OfferRecovery(true); });
+    on(moActions.exportPicture, this, [this] { ExportPicture(moServices, *moFiles.Current(), this); });
+    on(moActions.exportList, this, [this] { ExportList(moServices, *moFiles.Current(), this); });
+    on(moActions.filePrint, this, [this] { Print(moServices, *moFiles.Current(), this); });
+    on(moActions.fileQuit, this, &QWidget::close);
+    connect(&moFiles, &FileCommands::aboutToClose, this, &MainWindow::CloseView);
+    connect(&moFiles, &FileCommands::opened, this, &MainWindow::ShowDocument);
+    connect(&moFiles, &FileCommands::changed, this, &MainWindow::UpdateActions);
+    connect(&moFiles, &FileCommands::warned, this, [this](const QString& text) { moMessages->Add(text); });
+    connect(&moRecentFiles, &RecentFiles::changed, this, &MainWindow::FillRecentMenu);
+    connect(moStartPage, &StartPage::fileChosen, &moFiles, &FileCommands::OpenFile);
+    connect(moStartPage, &StartPage::exampleChosen, &moFiles, &FileCommands::OpenExample);
+}
+
+void MainWindow::ConnectEditActions()
+{
+    const auto on = [this](QAction& action, auto step) { connect(&action, &QAction::triggered, this, step); };
+    on(moActions.editUndo, [this] { Step(&reference::History::Undo); });
+    on(moActions.editRedo, [this] { Step(&reference::History::Redo); });
+    on(moActions.editCut, [this] { moView->Manager().Cut(); });
+    on(moActions.editCopy, [this] { moView->Manager().Copy(); });
+    on(moActions.editPaste, [this] { moView->Manager().Paste(); });
+    on(moActions.editDelete, [this] { moView->Manager().Delete(); });
+    on(moActions.editParameters, [this] { moView->Manager().EditModuleParams(); });
+    on(moActions.editSelectRack, [this] { SelectRack(); });
+    on(moActions.findInCatalogue, [this] { moCatalogue->FocusSearch(); });
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
+        ReadClipboard();
+        UpdateActions();
+    });
+}
+
+void MainWindow::ConnectViewActions()
+{
+    moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moCatalogue->toggleViewAction());
+    moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moMessages->toggleViewAction());
+    moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moActions.toolBar->toggleViewAction());
+    moActions.viewMenu->insertSeparator(moActions.languageMenu->menuAction());
+    connect(&moActions.languageEnglish, &QAction::triggered, this,
+            [this] { moServices.StoreLanguage(Language::English); });
+    connect(&moActions.languageGerman, &QAction::triggered, this,
+            [this] { moServices.StoreLanguage(Language::German); });
+    connect(&moActions.helpShortcuts, &QAction::triggered, this, [this] { ShowShortcuts(this); });
+    connect(&moActions.helpAbout, &QAction::triggered, this, [this] { ShowAbout(this); });
+}
+
+void MainWindow::RetranslateUi()
+{
+    moActions.Retranslate();
+    moCatalogue->UiLanguage(moServices.CurrentLanguage());
+    FillRecentMenu();
+    FillExamples();
+    UpdateActions();
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) RetranslateUi();
+    // Asked when the activation is over, for the question needs the focus itself.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        QTimer::singleShot(0, &moFiles, &FileCommands::CheckFile);
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!moFiles.Close()) {
+        event->ignore();
+        return;
+    }
+    moServices.Settings().setValue(GeometryKey, saveGeometry());
+    moServices.Settings().setValue(StateKey, saveState());
+    event->accept();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
+    if (!isDrag && event->type() != QEvent::Drop) return QMainWindow::eventFilter(watched, event);
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    auto* drop = static_cast<QDropEvent*>(event);
+    if (!widget || widget->window() != this || !drop->mimeData()->hasUrls()) {
+        return QMainWindow::eventFilter(watched, event);
+    }
+    const QStringList files = FilesOf(drop->mimeData());
+    if (files.isEmpty()) return QMainWindow::eventFilter(watched, event);
+    drop->setDropAction(Qt::CopyAction);
+    drop->accept();
+    if (event->type() == QEvent::Drop) {
+        // The program that the file comes from waits until the drop is over.
+        QTimer::singleShot(0, this, [this, file = files.front()] {
+            activateWindow();
+            moFiles.OpenFile(file);
+        });
+    }
+    return true;
+}
+
+void MainWindow::FillRecentMenu()
+{
+    const QStringList files = moRecentFiles.Files();
+    moActions.recentMenu->clear();
+    moActions.recentMenu->setEnabled(!files.isEmpty());
+    for (const QString& file : files) {
+        QString shown = file;
+        connect(moActions.recentMenu->addAction(shown.replace(u'&', QStringLiteral("&&"))), &QAction::triggered, this,
+                [this, file] { moFiles.OpenFile(file); });
+    }
+    moActions.recentMenu->addSeparator();
+    connect(moActions.recentMenu->addAction(tr("Clear this list")), &QAction::triggered, this,
+            [this] { moRecentFiles.Clear(); });
+    moStartPage->RecentFiles(files);
+}
+
+void MainWindow::FillExamples()
+{
+    QList<std::pair<QString, QString>> examples;
+    for (const QString& resource : ShippedExamples()) {
+        QString name = resource.section(u'/', -1).section(u'.', 0, 0).replace(u'-', u' ');
+        name.front() = name.front().toUpper();
+        examples.append({name, resource});
+    }
+    moStartPage->Examples(examples);
+}
+
+void MainWindow::CloseView()
+{
+    moRefused = {};
+    moClipboardModules.reset();
+    delete std::exchange(moView, nullptr);
+}
+
+void MainWindow::ShowDocument()
+{
+    if (Document* document = moFiles.Current()) {
+        moView = new StationView(*document, this);
+        moPages->addWidget(moView);
+        moPages->setCurrentWidget(moView);
+        connect(moView, &StationView::selectionChanged, this, &MainWindow::UpdateActions);
+        connect(moView, &StationView::menuRequested, this, [this](const QPoint& point) {
+            QMenu menu(this);
+            menu.addActions({&moActions.editParameters, &moActions.editCut, &moActions.editCopy, &moActions.editPaste,
+                             &moActions.editDelete});
+            menu.exec(point);
+        });
+        moRefused = document->Station()->Refused.Connect([this](const reference::Refusal& refusal) {
+            moStatusLine->Tell(ToQString(refusal.text, moServices.CurrentLanguage()));
+        });
+        moCatalogue->StationKind(document->Station()->StationKind());
+        ReadClipboard();
+        moView->FocusStation();
+    } else {
+        moPages->setCurrentWidget(moStartPage);
+    }
+    UpdateActions();
+}
+
+void MainWindow::UpdateTitle()
+{
+    const Document* document = moFiles.Current();
+    setWindowModified(document && document->IsModified());
+    setWindowTitle(document ? QStringLiteral("%1[*] – Quillon Ed").arg(document->Title())
+                            : QStringLiteral("Quillon Ed"));
+    setWindowFilePath(document ? document->FileName() : QString());
+}
+
+void MainWindow::UpdateActions()
+{
+    UpdateTitle();
+    Document* document = moView ? moFiles.Current() : nullptr;
+    moStatusLine->Show(document, moView);
+    for (QAction* action : {&moActions.fileSave, &moActions.fileSaveAs, &moActions.fileClose, &moActions.exportPicture,
+                            &moActions.exportList, &moActions.filePrint, &moActions.editUndo, &moActions.editRedo,
+                            &moActions.editCut, &moActions.editCopy, &moActions.editPaste, &moActions.editDelete,
+                            &moActions.editParameters, &moActions.editSelectRack}) {
+        action->setEnabled(document != nullptr);
+    }
+    moCatalogue->InsertEnabled(document && !document->Station()->IsReadOnly());
+    moActions.NameUndo({}, {});
+    if (!document) return;
+    const Language language = moServices.CurrentLanguage();
+    const reference::History& history = document->History();
+    moActions.editUndo.setEnabled(history.CanUndo());
+    moActions.editRedo.setEnabled(history.CanRedo());
+    moActions.NameUndo(InSentence(ToQString(history.UndoName()), language),
+                       InSentence(ToQString(history.RedoName()), language));
+    G_Trap(ClassName, "UpdateEditActions", [&] { UpdateEditActions(*document->Station()); });
+}
+
+void MainWindow::UpdateEditActions(const VxHWStation& station)
+{
+    const VxHWSelectionHandler& handler = *moView->Handler();
+    const bool mayCopy = handler.IsModuleInSelection() && station.DisplayMode() == vxDisplayModeOffline;
+    const bool mayChange = mayCopy && !station.IsReadOnly();
+    moActions.editCopy.setEnabled(mayCopy);
+    moActions.editCut.setEnabled(mayChange);
+    moActions.editDelete.setEnabled(mayChange);
+    moActions.editPaste.setEnabled(CanPaste(station));
+    moActions.editParameters.setEnabled(HasParamDialogInSelection(handler));
+    moActions.exportPicture.setEnabled(station.StationKind() == vxStationKindCentral);
+}
+
+void MainWindow::ReadClipboard()
+{
+    moClipboardModules.reset();
+    if (Document* document = moFiles.Current()) {
+        G_Trap(ClassName, "ReadClipboard", [&] { moClipboardModules = document->Station()->ClipboardModules(); });
+    }
+}
+
+bool MainWindow::CanPaste(const VxHWStation& station) const
+{
+    if (station.IsReadOnly() || !moClipboardModules || moClipboardModules->Count() == 0) return false;
+    return station.CanBePlaced(moView->Handler()->FocusPosition(), moClipboardModules, false, nullptr);
+}
+
+void MainWindow::SelectRack()
+{
+    G_Trap(ClassName, "SelectRack", [&] {
+        const PositionInfo focus = G_PositionInfo(moView->Handler()->FocusPosition());
+        moView->Handler()->SelectRack(moFiles.Current()->Station()->Racks()->Item(focus.lRack));
+        moView->Handler()->SelChangeComplete();
+    });
+}
+
+void MainWindow::Insert(const QString& orderNumber)
+{
+    Document* document = moFiles.Current();
+    if (!document) return;
+    const QString refusal = InsertModule(moServices, *document, *moView, orderNumber);
+    if (refusal.isEmpty()) return;
+    QApplication::beep();
+    moStatusLine->Tell(refusal);
+}
+
+void MainWindow::Step(bool (reference::History::*step)())
+{
+    G_Trap(ClassName, "Step", [&] { (moFiles.Current()->History().*step)(); });
+    UpdateActions();
+}
+
+} // namespace quillon_ed

@@ -1,0 +1,187 @@
+#include "app/window/ModuleList.h"
+
+#include "app/document/SharedView.h"
+#include "app/window/ModuleListModel.h"
+#include "foundation/mdl_ErrorHandler.h"
+#include "foundation/mdl_Main.h"
+#include "foundation/model/VxHWRacks.h"
+
+#include <QHeaderView>
+#include <QItemSelection>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QTabBar>
+#include <QTableView>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx;
+
+namespace {
+
+// Tabs and column headings together, and each row, as the overview's arrow takes them to be.
+constexpr int TabHeight = 20;
+constexpr int HeaderHeight = 21;
+constexpr int RowHeight = 15;
+constexpr int FontPixels = 11;
+
+} // namespace
+
+ModuleList::ModuleList(VxHWStationPtr station, VxHWSelectionHandlerPtr handler, QWidget* parent)
+    : QWidget(parent), moStation(std::move(station)), moHandler(std::move(handler)), moModel(new ModuleListModel(this)),
+      moTabs(new QTabBar(this)), moTable(new QTableView(this)), moRefresh(new QTimer(this))
+{
+    QFont small = font();
+    small.setPixelSize(FontPixels);
+    moTabs->setFont(small);
+    moTabs->setFixedHeight(TabHeight);
+    moTabs->setDrawBase(false);
+    moTabs->setExpanding(false);
+    moTable->setFont(small);
+    moTable->setModel(moModel);
+    moTable->setFrameShape(QFrame::NoFrame);
+    moTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    moTable->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    moTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    moTable->setTabKeyNavigation(false);
+    moTable->setAlternatingRowColors(true);
+    moTable->setShowGrid(false);
+    moTable->setWordWrap(false);
+    moTable->setContextMenuPolicy(Qt::CustomContextMenu);
+    moTable->verticalHeader()->hide();
+    moTable->verticalHeader()->setMinimumSectionSize(RowHeight);
+    moTable->verticalHeader()->setDefaultSectionSize(RowHeight);
+    moTable->horizontalHeader()->setFont(small);
+    moTable->horizontalHeader()->setFixedHeight(HeaderHeight);
+    moTable->horizontalHeader()->setStretchLastSection(true);
+    moTable->horizontalHeader()->setHighlightSections(false);
+    const int widths[] = {44, 190, 110, 70, 70};
+    for (int column = 0; column < ModuleListModel::Comment; ++column) moTable->setColumnWidth(column, widths[column]);
+    moTable->installEventFilter(this);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(moTabs);
+    column->addWidget(moTable, 1);
+    setFocusProxy(moTable);
+
+    // Many places may change in one go; the list follows when they are done.
+    moRefresh->setSingleShot(true);
+    moRefresh->setInterval(0);
+    connect(moRefresh, &QTimer::timeout, this, [this] {
+        FillTabs();
+        moModel->Refresh();
+        ShowSelection();
+    });
+    FillTabs();
+    ShowRack(0);
+    connect(moTabs, &QTabBar::currentChanged, this, &ModuleList::GoToRack);
+    connect(moTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ModuleList::TakeSelection);
+    connect(moTable, &QTableView::doubleClicked, this, &ModuleList::editRequested);
+    connect(moTable, &QTableView::customContextMenuRequested, this,
+            [this](const QPoint& point) { emit menuRequested(moTable->viewport()->mapToGlobal(point)); });
+    mcolConnections.push_back(
+        moStation->RackPlaceChange.Connect([this](const VxHWRackPlacePtr&) { moRefresh->start(); }));
+    mcolConnections.push_back(moStation->RackChange.Connect([this](const VxHWRackPtr&) { moRefresh->start(); }));
+    mcolConnections.push_back(moStation->TotalRefresh.Connect([this] { moRefresh->start(); }));
+    mcolConnections.push_back(moHandler->SelChange.Connect([this] { ShowSelection(); }));
+    mcolConnections.push_back(moHandler->FocusChange.Connect([this](std::int32_t) { ShowSelection(); }));
+    RetranslateUi();
+    ShowSelection();
+}
+
+ModuleList::~ModuleList() = default;
+
+void ModuleList::RetranslateUi()
+{
+    moTable->setAccessibleName(tr("Modules of the rack"));
+    moTabs->setAccessibleName(tr("Racks"));
+    for (int tab = 0; tab < moTabs->count(); ++tab) moTabs->setTabText(tab, tr("Rack %1").arg(tab));
+}
+
+void ModuleList::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) return;
+    RetranslateUi();
+    emit moModel->headerDataChanged(Qt::Horizontal, 0, ModuleListModel::ColumnCount - 1);
+    moModel->Refresh();
+}
+
+bool ModuleList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == moTable && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            emit editRequested();
+            return true;
+        case Qt::Key_Delete:
+            emit deleteRequested();
+            return true;
+        default:
+            break;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ModuleList::FillTabs()
+{
+    std::int32_t count = 0;
+    G_Trap("ModuleList", "FillTabs", [&] { count = moStation->Racks()->Count(); });
+    const QScopedValueRollback<bool> guard(mbSynchronizing, true);
+    while (moTabs->count() > count) moTabs->removeTab(moTabs->count() - 1);
+    while (moTabs->count() < count) moTabs->addTab(tr("Rack %1").arg(moTabs->count()));
+}
+
+void ModuleList::ShowRack(std::int32_t lRack)
+{
+    moModel->Show(moStation, lRack);
+    moTabs->setCurrentIndex(lRack);
+}
+
+void ModuleList::GoToRack(std::int32_t lRack)
+{
+    if (mbSynchronizing || lRack < 0) return;
+    const std::int32_t position =
+        G_PlacePosition(lRack, moTable->currentIndex().isValid() ? moTable->currentIndex().row() + 1 : 1);
+    ShowView(*moHandler, *moStation, {{position}, position, position});
+}
+
+void ModuleList::ShowSelection()
+{
+    if (mbSynchronizing) return;
+    const QScopedValueRollback<bool> guard(mbSynchronizing, true);
+    const reference::ViewState state = CaptureView(*moHandler);
+    const PositionInfo focus = G_PositionInfo(state.focus);
+    if (focus.eType != vxPositionNone && focus.lRack != moModel->Rack()) ShowRack(focus.lRack);
+
+    QItemSelection selection;
+    for (const std::int32_t position : state.selection) {
+        const int row = moModel->RowOf(position);
+        if (row >= 0) selection.select(moModel->index(row, 0), moModel->index(row, ModuleListModel::ColumnCount - 1));
+    }
+    moTable->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    const QModelIndex current = moModel->index(moModel->RowOf(state.focus), 0);
+    moTable->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    if (current.isValid()) moTable->scrollTo(current);
+}
+
+void ModuleList::TakeSelection()
+{
+    if (mbSynchronizing) return;
+    const QScopedValueRollback<bool> guard(mbSynchronizing, true);
+    reference::ViewState state;
+    for (const QModelIndex& index : moTable->selectionModel()->selectedRows()) {
+        state.selection.push_back(moModel->PositionOf(index.row()));
+    }
+    state.focus = moModel->PositionOf(moTable->currentIndex().row());
+    state.anchor = state.focus;
+    ShowView(*moHandler, *moStation, state);
+}
+
+} // namespace quillon_ed

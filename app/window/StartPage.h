@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QWidget>
+
+class QAction;
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+
+namespace quillon_ed {
+
+/// What the window shows while no station is open: the ways to get one.
+class StartPage : public QWidget {
+    Q_OBJECT
+
+public:
+    StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent);
+
+    void RecentFiles(const QStringList& files);
+    /// Pairs of a name to show and the resource to open.
+    void Examples(const QList<std::pair<QString, QString>>& examples);
+
+signals:
+    void fileChosen(const QString& fileName);
+    void exampleChosen(const QString& resource);
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void RetranslateUi();
+
+    QLabel* moHeading;
+    QLabel* moHint;
+    QLabel* moRecentHeading;
+    QListWidget* moRecent;
+    QLabel* moExamplesHeading;
+    QListWidget* moExamples;
+};
+
+} // namespace quillon_ed

@@ -1,0 +1,113 @@
+#include "app/window/StationView.h"
+
+#include "adapters/qt/RackOverviewWidget.h"
+#include "app/document/Document.h"
+#include "app/document/SharedView.h"
+#include "app/window/DistributedNote.h"
+#include "app/window/ModuleList.h"
+#include "app/window/QuietView.h"
+#include "views/config/VxHWRackOverview.h"
+
+#include <QHBoxLayout>
+
+namespace quillon_ed {
+
+using namespace zqbchwcx;
+
+namespace {
+
+constexpr int OverviewWidth = 262; // the racks, and room for the arrow to the list
+
+} // namespace
+
+/// Keeps the view as it was when a drag came in.
+class StationView::DragWatch : public IVxHWDragDropCtrlEvents {
+public:
+    DragWatch(IVxHWDragDropControllerPtr controller, VxHWSelectionHandlerPtr handler)
+        : moController(std::move(controller)), moHandler(std::move(handler))
+    {
+    }
+
+    bool IsDragging() const { return moController->State() == vxDragDropStateActive; }
+    const reference::ViewState& ViewBefore() const { return moBefore; }
+
+    void StateChange(VxEnumDragDropStates ePreviousValue) noexcept override
+    {
+        if (ePreviousValue == vxDragDropStateInactive) moBefore = CaptureView(*moHandler);
+    }
+
+private:
+    IVxHWDragDropControllerPtr moController;
+    VxHWSelectionHandlerPtr moHandler;
+    reference::ViewState moBefore;
+};
+
+StationView::StationView(Document& document, QWidget* parent)
+    : QWidget(parent), moDocument(document), moTable(std::make_shared<QuietView>()),
+      moManager(std::make_unique<VxHWConfigManager>())
+{
+    const reference::StationPtr& station = document.Station();
+    QWidget* left = station->StationKind() == vxStationKindCentral ? MakeOverview() : MakeNote();
+    moManager->Initialize(static_cast<VxEnumStationType>(station->StationKind()), moOverview, moTable, station);
+    moHandler = moManager->VxHWSelectionHandler();
+    moDragWatch = std::make_shared<DragWatch>(moTable->VxHWDragDropController(), moHandler);
+    if (const auto controller = std::dynamic_pointer_cast<IVxHWController>(moTable->VxHWDragDropController())) {
+        controller->AddSubscriber(moDragWatch);
+    }
+    // The manager wires the overview; drawing it is the host's.
+    moOverview->Refresh();
+
+    auto* list = new ModuleList(station, moHandler, this);
+    moList = list;
+    connect(list, &ModuleList::editRequested, this, [this] { moManager->EditModuleParams(); });
+    connect(list, &ModuleList::deleteRequested, this, [this] { moManager->Delete(); });
+    connect(list, &ModuleList::menuRequested, this, &StationView::menuRequested);
+
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(0);
+    line->addWidget(left);
+    line->addWidget(list, 1);
+
+    mcolConnections.push_back(moHandler->SelChange.Connect([this] { emit selectionChanged(); }));
+    mcolConnections.push_back(moHandler->FocusChange.Connect([this](std::int32_t) { emit selectionChanged(); }));
+    document.ShownBy(
+        {[this] { return View(); },
+         [this](const reference::ViewState& state) { ShowView(*moHandler, *moDocument.Station(), state); }});
+}
+
+StationView::~StationView()
+{
+    moDocument.ShownBy({});
+    mcolConnections.clear();
+    moManager->Terminate();
+}
+
+QWidget* StationView::MakeOverview()
+{
+    auto* widget = new qt::RackOverviewWidget(this);
+    widget->setFixedWidth(OverviewWidth);
+    moOverview = widget->Control();
+    moOverviewWidget = widget;
+    return widget;
+}
+
+QWidget* StationView::MakeNote()
+{
+    moOverview = std::make_shared<QuietView>();
+    auto* note = new DistributedNote(this);
+    note->setFixedWidth(OverviewWidth);
+    return note;
+}
+
+reference::ViewState StationView::View() const
+{
+    return moDragWatch->IsDragging() ? moDragWatch->ViewBefore() : CaptureView(*moHandler);
+}
+
+void StationView::FocusStation()
+{
+    (moOverviewWidget ? moOverviewWidget : moList)->setFocus();
+}
+
+} // namespace quillon_ed

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "foundation/Event.h"
+#include "managers/VxHWConfigManager.h"
+#include "reference/history/ViewState.h"
+#include "selection/VxHWSelectionHandler.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quillon_ed {
+
+class Document;
+
+/// The views of one station, connected in configuration mode: the overview with the module list beside it. A
+/// distributed station has the list only.
+class StationView : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The document outlives the view.
+    StationView(Document& document, QWidget* parent);
+    ~StationView() override;
+
+    zqbchwcx::VxHWConfigManager& Manager() { return *moManager; }
+    const zqbchwcx::VxHWSelectionHandlerPtr& Handler() const { return moHandler; }
+    /// What undo brings back: during a drag, whose focus follows the mouse, the view from before the drag.
+    zqbchwcx::reference::ViewState View() const;
+    void FocusStation();
+
+signals:
+    void selectionChanged();
+    void menuRequested(const QPoint& globalPosition);
+
+private:
+    class DragWatch;
+
+    QWidget* MakeOverview();
+    QWidget* MakeNote();
+
+    Document& moDocument;
+    std::shared_ptr<zqbchwcx::IVxHWControl> moOverview;
+    std::shared_ptr<zqbchwcx::IVxHWControl> moTable;
+    std::unique_ptr<zqbchwcx::VxHWConfigManager> moManager;
+    zqbchwcx::VxHWSelectionHandlerPtr moHandler;
+    std::shared_ptr<DragWatch> moDragWatch;
+    QWidget* moOverviewWidget = nullptr;
+    QWidget* moList = nullptr;
+    std::vector<zqbchwcx::EventConnection> mcolConnections;
+};
+
+} // namespace quillon_ed

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+
+namespace quillon_ed {
+
+class Document;
+class StationView;
+
+/// What has the focus, how much is selected, and in what state the station is.
+class StatusLine : public QStatusBar {
+    Q_OBJECT
+
+public:
+    explicit StatusLine(QWidget* parent);
+
+    /// Both null while no station is open.
+    void Show(const Document* document, const StationView* view);
+    /// Tells something for some seconds in place of the focus.
+    void Tell(const QString& text);
+
+private:
+    void ShowStates(const Document& document, const StationView& view);
+
+    QLabel* moFocus;
+    QLabel* moSelection;
+    QLabel* moReadOnly;
+    QLabel* moMode;
+};
+
+} // namespace quillon_ed
