@@ -1,5 +1,7 @@
 #include "reference/model/rules/ModuleRules.h"
 
+#include "foundation/ConfigTextCodec.h"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -157,6 +159,13 @@ Objection AgainstRange(AddressArea area, std::int32_t address, std::int32_t byte
 
 Objection AgainstText(std::string_view text, PlaceRef place)
 {
+    // What does not survive the way to the clipboard and back is no UTF-8 text.
+    if (G_DecodeConfigText(G_EncodeConfigText(text)) != text) {
+        return Refusal{Rule::DamagedText,
+                       place,
+                       {"The text holds characters that cannot be saved",
+                        "Der Text enthält Zeichen, die sich nicht speichern lassen"}};
+    }
     if (text.size() <= MaxTextBytes) return {};
     const std::string limit = std::to_string(MaxTextBytes);
     return Refusal{

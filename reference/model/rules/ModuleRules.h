@@ -22,7 +22,7 @@ std::vector<Refusal> AgainstAddresses(const ModuleData& module, const Catalogue&
 /// Against a range of addresses that does not lie wholly in the area.
 Objection AgainstRange(AddressArea area, std::int32_t address, std::int32_t bytes, std::int32_t areaSize,
                        PlaceRef place);
-/// Against a text that is too long to be saved.
+/// Against a text that cannot be saved: too long, malformed UTF-8, or with a character of code 0.
 Objection AgainstText(std::string_view text, PlaceRef place);
 /// Against a value of a parameter: its kind, range, choice or length.
 Objection AgainstValue(const ParameterDefinition& definition, const ParameterValue& value, PlaceRef place);

@@ -44,6 +44,8 @@ TEST(SetAttribute, ChecksAddresses)
         {4, "COLOUR", "red", Rule::NoSuchAttribute},
         {3, "COMMENT", "nobody there", Rule::NothingToPlace},
         {4, "COMMENT", std::string(MaxTextBytes + 1, 'x'), Rule::TextTooLong},
+        {4, "COMMENT", "half a character \xC3", Rule::DamagedText},
+        {4, "COMMENT", std::string("a\0b", 3), Rule::DamagedText},
         {4, "NAME", "Pump 1", Done},
     };
     for (const auto& c : cases) {
