@@ -1,0 +1,193 @@
+#include "platform/Input.h"
+#include "tests/property/Editor.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace zqbchwcx::testing {
+namespace {
+
+constexpr std::int32_t Filled = G_PlacePosition(0, 7);
+constexpr std::int32_t Neighbour = G_PlacePosition(0, 8);
+constexpr std::int32_t Empty = G_PlacePosition(0, 11);
+
+struct Scenario {
+    std::string name;
+    /// What happens before, without a fault.
+    std::function<void(Editor&)> prepare;
+    /// In which every call of a service, of the clipboard and of the model fails in turn.
+    std::function<void(Editor&)> act;
+    /// An error in it leaves the drawing to the host.
+    bool leavesDrawingOff = false;
+};
+
+void PrintTo(const Scenario& scenario, std::ostream* stream)
+{
+    *stream << scenario.name;
+}
+
+void Select(Editor& editor, std::int32_t lFrom, std::int32_t lTo)
+{
+    auto& handler = *editor.view->VxHWSelectionHandler();
+    handler.SelPlaces()->Clear();
+    handler.SelectRange(lFrom, lTo);
+    handler.SelChangeComplete();
+    handler.FocusPosition(lTo);
+}
+
+std::pair<float, float> PointAt(const Editor& editor, std::int32_t lPosition)
+{
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    editor.view->CoordinatesByPosition(lPosition, x, y);
+    return {static_cast<float>(x - editor.Picture().Left()), static_cast<float>(y - editor.Picture().Top())};
+}
+
+void Drop(Editor& editor, const DataObjectPtr& data, std::int32_t lTarget, std::int16_t nShift)
+{
+    const auto [x, y] = PointAt(editor, lTarget);
+    std::int32_t lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, x, y, vxDragEnter);
+    lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEDragDrop(data, lEffect, 0, nShift, x, y);
+    editor.Mouse().OLECompleteDrag(lEffect);
+    editor.toolkit->clock.Advance(20);
+}
+
+void DragWithin(Editor& editor, std::int16_t nShift)
+{
+    const auto data = editor.NewDrag();
+    std::int32_t lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEStartDrag(data, lEffect);
+    Drop(editor, data, Empty, nShift);
+}
+
+/// What another program drags.
+std::shared_ptr<FakeDataObject> ForeignDrag(Editor& editor)
+{
+    auto data = editor.NewDrag();
+    std::int32_t lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEStartDrag(data, lEffect);
+    lEffect = vxDropEffectNone;
+    editor.Mouse().OLECompleteDrag(lEffect);
+    return data;
+}
+
+void SelectOne(Editor& editor)
+{
+    Select(editor, Filled, Filled);
+}
+
+void SelectTwo(Editor& editor)
+{
+    Select(editor, Filled, Neighbour);
+}
+
+std::vector<Scenario> Scenarios()
+{
+    const auto foreign = std::make_shared<std::shared_ptr<FakeDataObject>>();
+    return {
+        {"Move", SelectOne, [](Editor& editor) { DragWithin(editor, 0); }},
+        {"Copy", SelectOne, [](Editor& editor) { DragWithin(editor, vxCtrlMask); }},
+        {"DropFromOutside",
+         [foreign](Editor& editor) {
+             SelectOne(editor);
+             *foreign = ForeignDrag(editor);
+         },
+         [foreign](Editor& editor) { Drop(editor, *foreign, Empty, 0); }},
+        {"GiveAway", SelectTwo,
+         [](Editor& editor) {
+             const auto data = editor.NewDrag();
+             std::int32_t lEffect = vxDropEffectCopyOrMove;
+             editor.Mouse().OLEStartDrag(data, lEffect);
+             lEffect = vxDropEffectMove;
+             editor.Mouse().OLECompleteDrag(lEffect);
+         }},
+        {"Delete", SelectTwo, [](Editor& editor) { editor.Keys().KeyDown(vxKeyDelete, 0); }},
+        {"Cut", SelectTwo, [](Editor& editor) { editor.Manager().Cut(); }},
+        {"Paste",
+         [](Editor& editor) {
+             SelectOne(editor);
+             editor.Manager().Copy();
+             Select(editor, Empty, Empty);
+         },
+         [](Editor& editor) { editor.Manager().Paste(); }},
+        {"Insert", [](Editor& editor) { Select(editor, Empty, Empty); },
+         [](Editor& editor) { editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule("Q3-DI16-A")); },
+         true},
+        {"Configure",
+         [](Editor& editor) {
+             SelectOne(editor);
+             editor.parameters = [](reference::ModuleData module) {
+                 module.comment = "Configured";
+                 return std::optional(module);
+             };
+         },
+         [](Editor& editor) { editor.Manager().EditModuleParams(); }},
+    };
+}
+
+class EditingFaults : public ::testing::TestWithParam<Scenario> {
+protected:
+    struct Result {
+        std::string text;
+        std::string thrown;
+        std::int32_t calls = 0;
+    };
+
+    /// Acts with that call failing (0: none).
+    Result Act(Editor& editor, std::int32_t lFailingCall)
+    {
+        GetParam().prepare(editor);
+        EXPECT_EQ(editor.WhatIsWrong(), "");
+        editor.log->faults.ThrowAt(lFailingCall);
+        GetParam().act(editor);
+        const Result result{editor.Text(), editor.log->faults.Thrown(), editor.log->faults.Count()};
+        editor.log->faults.Restart();
+        return result;
+    }
+};
+
+TEST_P(EditingFaults, LeaveTheStationUnchangedOrChanged)
+{
+    const auto data = ExampleStation("waterworks");
+    std::string before;
+    Result good;
+    {
+        Editor editor(data);
+        before = editor.Text();
+        good = Act(editor, 0);
+        EXPECT_NE(good.text, before) << "the scenario changes nothing";
+        EXPECT_EQ(editor.WhatIsWrong(), "");
+    }
+    for (std::int32_t call = 1; call <= good.calls; ++call) {
+        Editor editor(data);
+        const Result result = Act(editor, call);
+        SCOPED_TRACE("call " + std::to_string(call) + ", " + result.thrown);
+        EXPECT_NE(result.thrown, "");
+        EXPECT_TRUE(result.text == before || result.text == good.text) << "half a change:\n" << result.text;
+        if (GetParam().leavesDrawingOff) editor.station->IsDrawable(true);
+        // A report that the error log itself refused is lost, and nothing else.
+        EXPECT_TRUE(result.thrown.starts_with("LogError") || !editor.errors->reports.empty());
+        editor.errors->reports.clear();
+        EXPECT_EQ(editor.WhatIsWrong(), "");
+
+        // The next things that the user does work.
+        while (editor.history->Undo()) {
+        }
+        EXPECT_EQ(editor.Text(), before);
+        Select(editor, Filled, Filled);
+        editor.Keys().KeyDown(vxKeyDelete, 0);
+        EXPECT_NE(editor.Text(), before);
+        EXPECT_EQ(editor.WhatIsWrong(), "");
+        if (HasFailure()) return;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, EditingFaults, ::testing::ValuesIn(Scenarios()),
+                         [](const auto& instance) { return instance.param.name; });
+
+} // namespace
+} // namespace zqbchwcx::testing

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "managers/VxHWConfigManager.h"
+#include "reference/history/History.h"
+#include "selection/VxHWSelectionHandler.h"
+#include "tests/property/FaultyStation.h"
+#include "tests/property/HistoryErrors.h"
+#include "tests/property/MemoryClipboard.h"
+#include "tests/support/services/FakeDataObject.h"
+#include "tests/support/services/TestServices.h"
+#include "tests/support/toolkit/RecordingToolkit.h"
+#include "views/config/VxHWRackOverview.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zqbchwcx::testing {
+
+/// The modules that Quillon Ed ships, read once.
+std::shared_ptr<const reference::Catalogue> ShippedCatalogue();
+reference::StationData ExampleStation(const std::string& name);
+
+/// A whole editor without a screen: the reference station with its history, and two overviews of it that
+/// `VxHWConfigManager` has connected. The test is the user.
+class Editor {
+public:
+    explicit Editor(reference::StationData data);
+    ~Editor();
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    RecordingPictureBox& Picture() const { return *moPicture; }
+    PictureBoxEvents& Mouse() const { return moPicture->User(); }
+    UserControlEvents& Keys() const { return moSite->User(); }
+    RecordingPopupMenu& Menu() const { return *moMenu; }
+    VxHWConfigManager& Manager() const { return *moManager; }
+    std::shared_ptr<FakeDataObject> NewDrag() const { return std::make_shared<FakeDataObject>(log); }
+
+    /// The file that saving would write.
+    std::string Text() const;
+    /// Everything that is wrong between two events: rules that are broken, errors that were reported, brackets that
+    /// are open. Empty when all is well.
+    std::string WhatIsWrong();
+    /// Where the picture differs from that of an overview that is made just now; empty when it does not.
+    std::string DifferenceFromAFreshPicture() const;
+    /// Forgets what the doubles have recorded.
+    void ForgetLines();
+
+    CallLogPtr log = std::make_shared<CallLog>();
+    std::shared_ptr<RecordingToolkit> toolkit = std::make_shared<RecordingToolkit>(log);
+    TestServices services{log, toolkit};
+    std::shared_ptr<MemoryClipboard> clipboard = std::make_shared<MemoryClipboard>(log);
+    std::shared_ptr<HistoryErrors> errors = std::make_shared<HistoryErrors>(log);
+    /// What the parameter dialog answers.
+    std::function<std::optional<reference::ModuleData>(const reference::ModuleData&)> parameters;
+    std::shared_ptr<FaultyStation> station;
+    std::shared_ptr<reference::History> history;
+    std::shared_ptr<VxHWRackOverview> view;
+
+private:
+    void KeepPictures();
+    std::shared_ptr<VxHWRackOverview> MakeView(RecordingControl& site) const;
+
+    std::unique_ptr<RecordingControl> moSite;
+    std::unique_ptr<RecordingControl> moOtherSite;
+    std::shared_ptr<VxHWRackOverview> moOtherView;
+    std::unique_ptr<VxHWConfigManager> moManager;
+    std::vector<RecordingPictureBox*> mcolPictures; ///< of both views
+    RecordingPictureBox* moPicture = nullptr;
+    RecordingPopupMenu* moMenu = nullptr;
+};
+
+} // namespace zqbchwcx::testing

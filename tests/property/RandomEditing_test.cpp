@@ -1,0 +1,74 @@
+#include "tests/property/RandomUser.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <iostream>
+#include <random>
+
+namespace zqbchwcx::testing {
+namespace {
+
+/// The number in an environment variable, or another one without it.
+std::int64_t FromEnvironment(const char* name, std::int64_t otherwise)
+{
+    const char* text = std::getenv(name);
+    return text != nullptr ? std::strtoll(text, nullptr, 10) : otherwise;
+}
+
+constexpr std::int64_t EventsPerSession = 20000;
+constexpr std::int64_t StepsBetweenPictures = 150;
+
+std::string ToTheEnd(Editor& editor, bool (reference::History::*step)())
+{
+    while ((editor.history.get()->*step)()) {
+    }
+    return editor.Text();
+}
+
+/// One editor and one user. Returns the number of events; stops at the first thing that is wrong.
+std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed)
+{
+    SCOPED_TRACE(example + ", seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    Editor editor(ExampleStation(example));
+    const std::string first = editor.Text();
+    RandomUser user(editor, random);
+    for (std::int64_t step = 0; user.Events() < EventsPerSession; ++step) {
+        const std::string action = user.DoSomething();
+        const std::string wrong = editor.WhatIsWrong();
+        if (!wrong.empty()) {
+            ADD_FAILURE() << "after step " << step << ", " << action << ":\n" << wrong;
+            return user.Events();
+        }
+        if (step % StepsBetweenPictures == 0) {
+            const std::string difference = editor.DifferenceFromAFreshPicture();
+            EXPECT_EQ(difference, "") << "after step " << step << ", " << action;
+            if (!difference.empty()) return user.Events();
+        }
+        editor.ForgetLines();
+    }
+    const std::string last = ToTheEnd(editor, &reference::History::Redo);
+    EXPECT_EQ(ToTheEnd(editor, &reference::History::Undo), first);
+    EXPECT_EQ(editor.DifferenceFromAFreshPicture(), "") << "after undoing everything";
+    EXPECT_EQ(ToTheEnd(editor, &reference::History::Redo), last);
+    EXPECT_EQ(editor.WhatIsWrong(), "");
+    return user.Events();
+}
+
+TEST(RandomEditing, KeepsTheRulesTheHistoryAndThePicture)
+{
+    const auto seed = static_cast<std::uint32_t>(FromEnvironment("QUILLON_SEED", std::random_device()()));
+    const std::int64_t wanted = FromEnvironment("QUILLON_EVENTS", 1'000'000);
+    std::cout << "QUILLON_SEED=" << seed << " QUILLON_EVENTS=" << wanted << std::endl;
+    RecordProperty("seed", std::to_string(seed));
+
+    constexpr std::array Examples{"waterworks", "packaging-line", "bottling-filler", "tank-farm"};
+    std::int64_t events = 0;
+    for (std::uint32_t session = 0; events < wanted && !HasFailure(); ++session)
+        events += UseAnEditor(Examples[session % Examples.size()], seed + session);
+    std::cout << events << " events" << std::endl;
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
