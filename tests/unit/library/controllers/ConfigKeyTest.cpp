@@ -190,6 +190,11 @@ TEST_F(ConfigKey, AnErrorIsReportedBeforeTheActionIsClosed)
     EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4002", "DoWaitCursor 1",
                                          "LogError zqbchwcx.VxHWConfigCtrlKey.IVxHWKeyInputController_Delete",
                                          "DoWaitCursor -1", "EndUserAction"));
+    station->Module(0, 2)->hasParamDialog = true;
+    key->KeyReturn();
+    EXPECT_THAT(TakeLines(),
+                ElementsAre("BeginUserAction T4006",
+                            "LogError zqbchwcx.VxHWConfigCtrlKey.IVxHWKeyInputController_KeyReturn", "EndUserAction"));
     TakeReports();
 }
 
