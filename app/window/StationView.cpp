@@ -5,7 +5,7 @@
 #include "app/document/SharedView.h"
 #include "app/window/DistributedNote.h"
 #include "app/window/ModuleList.h"
-#include "app/window/QuietView.h"
+#include "reference/services/QuietView.h"
 #include "views/config/VxHWRackOverview.h"
 
 #include <QHBoxLayout>
@@ -43,7 +43,7 @@ private:
 };
 
 StationView::StationView(Document& document, QWidget* parent)
-    : QWidget(parent), moDocument(document), moTable(std::make_shared<QuietView>()),
+    : QWidget(parent), moDocument(document), moTable(std::make_shared<reference::QuietView>()),
       moManager(std::make_unique<VxHWConfigManager>())
 {
     const reference::StationPtr& station = document.Station();
@@ -94,7 +94,7 @@ QWidget* StationView::MakeOverview()
 
 QWidget* StationView::MakeNote()
 {
-    moOverview = std::make_shared<QuietView>();
+    moOverview = std::make_shared<reference::QuietView>();
     auto* note = new DistributedNote(this);
     note->setFixedWidth(OverviewWidth);
     return note;
