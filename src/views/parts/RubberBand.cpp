@@ -58,16 +58,21 @@ void RubberBand::P_SelectRubberContent(Point start, Point end) noexcept
         auto& oSelHandler = mContext.SelHandler();
         oSelHandler.SelPlaces()->Clear();
         for (const PositionRange& range : mLayout.RangesBetween(start, end)) {
-            if (IsPresent(G_PositionInfo(range.lFrom).lRack)) oSelHandler.SelectRange(range.lFrom, range.lTo);
+            const auto oRack = PresentRack(G_PositionInfo(range.lFrom).lRack);
+            if (!oRack) continue;
+            const std::int32_t lEnd = G_GapPosition(oRack->Number(), oRack->Places()->Count());
+            oSelHandler.SelectRange(std::min(range.lFrom, lEnd), std::min(range.lTo, lEnd));
         }
         oSelHandler.SelChangeComplete();
     });
 }
 
-bool RubberBand::IsPresent(std::int32_t lRack) const
+VxHWRackPtr RubberBand::PresentRack(std::int32_t lRack) const
 {
     const auto oRacks = mContext.Station().Racks();
-    return lRack < oRacks->Count() && oRacks->Item(lRack)->State() != vxRackNotPresent;
+    if (lRack >= oRacks->Count()) return nullptr;
+    auto oRack = oRacks->Item(lRack);
+    return oRack->State() != vxRackNotPresent ? oRack : nullptr;
 }
 
 } // namespace zqbchwcx

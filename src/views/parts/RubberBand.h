@@ -28,7 +28,8 @@ private:
 
     void P_RubberBand(Mode eMode, Point at) noexcept;
     void P_SelectRubberContent(Point start, Point end) noexcept;
-    bool IsPresent(std::int32_t lRack) const;
+    /// Nothing for a rack that is not there; the mouse passes over it.
+    VxHWRackPtr PresentRack(std::int32_t lRack) const;
 
     const ViewContext& mContext;
     const PlaceLayout& mLayout;

@@ -1,5 +1,7 @@
 #include "tests/support/toolkit/FakeImage.h"
 
+#include <utility>
+
 namespace zqbchwcx::testing {
 namespace {
 
@@ -11,23 +13,29 @@ bool IsWithin(Point at, std::int32_t left, std::int32_t top, std::int32_t right,
     return at.x >= left && at.x < right && at.y >= top && at.y < bottom;
 }
 
-} // namespace
-
-Size FakeImage::PictureSize() const
+Size SizeOf(const std::string& key)
 {
-    if (msKey == "IDB_CRX_RACK") return RailSize;
-    if (msKey.starts_with("IDB_CRX_RACKNR")) return {12, 13};
-    if (msKey.starts_with("IDB_COMP_")) return {16, 16};
-    if (msKey == "IDB_DIAG_FAILURE") return {12, 12};
-    if (msKey.starts_with("IDB_DIAG_")) return {12, 8};
+    if (key == "IDB_CRX_RACK") return RailSize;
+    if (key.starts_with("IDB_CRX_RACKNR")) return {12, 13};
+    if (key.starts_with("IDB_COMP_")) return {16, 16};
+    if (key == "IDB_DIAG_FAILURE") return {12, 12};
+    if (key.starts_with("IDB_DIAG_")) return {12, 8};
     return PlaceSize;
 }
 
-bool FakeImage::IsOpaque(Point at) const
+} // namespace
+
+FakeImage::FakeImage(std::string key) : msKey(std::move(key)), mSize(SizeOf(msKey))
+{
+    for (std::int32_t y = 0; y < mSize.height; ++y)
+        for (std::int32_t x = 0; x < mSize.width; ++x) mcolOpaque.push_back(HasInkAt({x, y}));
+}
+
+bool FakeImage::HasInkAt(Point at) const
 {
     if (msKey == "IDB_CRX_RACK") return !IsWithin(at, 14, 1, 212, 61) && !IsWithin(at, 1, 1, 13, 14);
     if (msKey.starts_with("IDB_CRX_FRAME_")) return IsFrameLine(at);
-    if (PictureSize() == PlaceSize) return !IsWithin(at, 2, 34, 17, 46);
+    if (mSize == PlaceSize) return !IsWithin(at, 2, 34, 17, 46);
     return true;
 }
 

@@ -3,8 +3,9 @@
 #include "platform/Geometry.h"
 #include "platform/ImageList.h"
 
+#include <cstddef>
 #include <string>
-#include <utility>
+#include <vector>
 
 namespace zqbchwcx::testing {
 
@@ -12,16 +13,23 @@ namespace zqbchwcx::testing {
 /// places and rack number through, a place or module its number, a frame everything inside its line.
 class FakeImage : public Image {
 public:
-    explicit FakeImage(std::string key) : msKey(std::move(key)) {}
+    explicit FakeImage(std::string key);
 
     const std::string& Key() const { return msKey; }
-    Size PictureSize() const;
-    bool IsOpaque(Point at) const;
+    Size PictureSize() const { return mSize; }
+    bool IsOpaque(Point at) const
+    {
+        return mcolOpaque[static_cast<std::size_t>(at.y) * static_cast<std::size_t>(mSize.width) +
+                          static_cast<std::size_t>(at.x)];
+    }
 
 private:
+    bool HasInkAt(Point at) const;
     bool IsFrameLine(Point at) const;
 
     std::string msKey;
+    Size mSize;
+    std::vector<bool> mcolOpaque;
 };
 
 } // namespace zqbchwcx::testing

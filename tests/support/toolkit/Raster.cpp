@@ -45,8 +45,10 @@ void Raster::Resize(Size size, OleColor color)
 
 void Raster::Fill(const Rect& rect, OleColor color)
 {
-    for (std::int32_t y = rect.top; y < rect.bottom; ++y)
-        for (std::int32_t x = rect.left; x < rect.right; ++x) Set({x, y}, ColorInk(color));
+    const std::int32_t left = std::clamp(rect.left, 0, mSize.width);
+    const std::int32_t right = std::clamp(rect.right, left, mSize.width);
+    for (std::int32_t y = std::max(rect.top, 0); y < std::min(rect.bottom, mSize.height); ++y)
+        std::fill_n(mcolInks.begin() + y * mSize.width + left, right - left, ColorInk(color));
 }
 
 void Raster::Text(std::string_view text, const Rect& box, FontWeight weight, OleColor color, OleColor background)
@@ -96,6 +98,7 @@ Raster::Ink Raster::At(Point at) const
 
 std::string Raster::FirstDifference(const Raster& a, const Raster& b)
 {
+    if (a.mSize == b.mSize && a.mcolInks == b.mcolInks) return {};
     for (std::int32_t y = 0; y < std::max(a.mSize.height, b.mSize.height); ++y) {
         for (std::int32_t x = 0; x < std::max(a.mSize.width, b.mSize.width); ++x) {
             if (a.At({x, y}) != b.At({x, y})) return std::to_string(x) + "," + std::to_string(y);
