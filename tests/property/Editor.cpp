@@ -6,25 +6,20 @@
 #include "reference/model/contract/ModelFactory.h"
 #include "reference/model/rules/CheckStation.h"
 #include "tests/property/ExchangeObjects.h"
+#include "tests/support/SourceFile.h"
 
 namespace zqbchwcx::testing {
 
-namespace {
-
-const std::string SourceDirectory = QUILLON_SOURCE_DIR;
-
-} // namespace
-
 std::shared_ptr<const reference::Catalogue> ShippedCatalogue()
 {
-    static const auto catalogue = std::make_shared<const reference::Catalogue>(
-        reference::LoadCatalogueDirectory(SourceDirectory + "/assets/catalogue"));
+    static const auto catalogue =
+        std::make_shared<const reference::Catalogue>(reference::LoadCatalogueDirectory(SourceFile("assets/catalogue")));
     return catalogue;
 }
 
 reference::StationData ExampleStation(const std::string& name)
 {
-    return reference::LoadStation(SourceDirectory + "/examples/" + name + ".station.json", *ShippedCatalogue()).data;
+    return reference::LoadStation(SourceFile("examples/" + name + ".station.json"), *ShippedCatalogue()).data;
 }
 
 Editor::Editor(reference::StationData data)

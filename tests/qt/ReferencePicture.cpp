@@ -1,4 +1,5 @@
 #include "tests/qt/ReferencePicture.h"
+#include "tests/support/SourceFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,7 +40,8 @@ QImage DifferencePicture(const QImage& picture, const QImage& reference, int& co
 ::testing::AssertionResult LooksLikeReference(const QImage& picture, const std::string& name)
 {
     const QString file = QString::fromStdString(name) + ".png";
-    const QString stored = QDir(QStringLiteral(QUILLON_SOURCE_DIR "/tests/qt/references")).filePath(file);
+    const QString stored =
+        QDir(QString::fromStdString(zqbchwcx::testing::SourceFile("tests/qt/references"))).filePath(file);
     if (!qEnvironmentVariableIsEmpty("QUILLON_WRITE_REFERENCES")) {
         if (picture.save(stored)) return ::testing::AssertionSuccess();
         return ::testing::AssertionFailure() << "cannot write " << stored.toStdString();

@@ -1,5 +1,6 @@
 #include "reference/catalogue/CatalogueReader.h"
 
+#include "tests/support/SourceFile.h"
 #include "tests/unit/reference/files/Samples.h"
 
 #include <gmock/gmock.h>
@@ -118,7 +119,7 @@ TEST(CatalogueReader, JoinsFiles)
                              "parameterSets": {"delay": []}})")
                   .pointer,
               "/parameterSets/delay");
-    EXPECT_THAT(ErrorOf([] { LoadCatalogueDirectory(QUILLON_SOURCE_DIR "/assets/texts/none"); }).reason,
+    EXPECT_THAT(ErrorOf([] { LoadCatalogueDirectory(zqbchwcx::testing::SourceFile("assets/texts/none")); }).reason,
                 HasSubstr("no catalogue file"));
 }
 

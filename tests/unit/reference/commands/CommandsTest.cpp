@@ -1,6 +1,7 @@
 #include "reference/commands/CheckReport.h"
 #include "reference/commands/Convert.h"
 #include "reference/commands/ModuleListText.h"
+#include "tests/support/SourceFile.h"
 #include "tests/unit/reference/files/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
 
@@ -63,7 +64,7 @@ TEST(CheckReport, SaysFilePlaceRuleAndReason)
 TEST(Convert, WritesWhatTheNameSays)
 {
     const TemporaryDirectory directory;
-    const std::string source = QUILLON_SOURCE_DIR "/examples/waterworks.station.json";
+    const std::string source = zqbchwcx::testing::SourceFile("examples/waterworks.station.json");
     const auto convert = [&](const std::string& name) {
         return ErrorOf([&] { ConvertStation(source, directory.File(name), ShippedCatalogue(), Language::English); });
     };

@@ -3,6 +3,7 @@
 #include "reference/catalogue/CatalogueReader.h"
 #include "reference/files/StationReader.h"
 #include "reference/json/FileError.h"
+#include "tests/support/SourceFile.h"
 
 #include <filesystem>
 #include <memory>
@@ -13,7 +14,7 @@ namespace zqbchwcx::reference {
 
 inline const Catalogue& ShippedCatalogue()
 {
-    static const Catalogue catalogue = LoadCatalogueDirectory(QUILLON_SOURCE_DIR "/assets/catalogue");
+    static const Catalogue catalogue = LoadCatalogueDirectory(zqbchwcx::testing::SourceFile("assets/catalogue"));
     return catalogue;
 }
 
@@ -21,14 +22,14 @@ inline const Catalogue& ShippedCatalogue()
 inline std::vector<std::string> ExampleFiles()
 {
     std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(QUILLON_SOURCE_DIR "/examples"))
+    for (const auto& entry : std::filesystem::directory_iterator(zqbchwcx::testing::SourceFile("examples")))
         if (entry.path().string().ends_with(".station.json")) files.push_back(entry.path().string());
     return files;
 }
 
 inline StationData ExampleStation(const std::string& name)
 {
-    return LoadStation(QUILLON_SOURCE_DIR "/examples/" + name + ".station.json", ShippedCatalogue()).data;
+    return LoadStation(zqbchwcx::testing::SourceFile("examples/" + name + ".station.json"), ShippedCatalogue()).data;
 }
 
 inline ModuleData MakeModule(const std::string& orderNumber, const std::string& name = {},

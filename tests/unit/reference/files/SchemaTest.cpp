@@ -1,4 +1,5 @@
 #include "reference/json/StationNames.h"
+#include "tests/support/SourceFile.h"
 #include "tests/unit/reference/files/Samples.h"
 
 #include <gmock/gmock.h>
@@ -13,7 +14,8 @@ using nlohmann::json;
 
 json Schema(const std::string& name)
 {
-    return json::parse(ReadFile(SystemFiles(), QUILLON_SOURCE_DIR "/docs/" + name, LargestStationFile));
+    return json::parse(
+        ReadFile(SystemFiles(), zqbchwcx::testing::SourceFile("docs/" + std::string(name)), LargestStationFile));
 }
 
 template <class Table>

@@ -1,6 +1,7 @@
 #include "reference/services/Texts.h"
 
 #include "foundation/VxError.h"
+#include "tests/support/SourceFile.h"
 #include "tests/unit/reference/files/Samples.h"
 
 #include <gmock/gmock.h>
@@ -14,7 +15,7 @@ using ::testing::HasSubstr;
 
 TextTable Shipped(const std::string& language)
 {
-    return LoadTextTable(QUILLON_SOURCE_DIR "/assets/texts/" + language + ".json", language);
+    return LoadTextTable(zqbchwcx::testing::SourceFile("assets/texts/" + std::string(language) + ".json"), language);
 }
 
 TEST(ShippedTexts, AreTheSameInBothLanguages)
