@@ -159,7 +159,8 @@ void CatalogueDock::Search()
 {
     moFilter->Search(moSearch->text());
     moTree->expandAll();
-    if (moTree->CurrentOrderNumber().isEmpty()) moTree->setCurrentIndex(moFilter->FirstType());
+    // Enter takes what the search has found first.
+    if (!moSearch->text().isEmpty()) moTree->setCurrentIndex(moFilter->FirstType());
     moTree->scrollTo(moTree->currentIndex());
     ShowCount();
 }

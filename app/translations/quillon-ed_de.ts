@@ -531,10 +531,6 @@
         <translation>E %1</translation>
     </message>
     <message>
-        <source>Q %1</source>
-        <translation>A %1</translation>
-    </message>
-    <message>
         <source>Rack %1</source>
         <translation>Träger %1</translation>
     </message>
@@ -557,6 +553,10 @@
     <message>
         <source>not present</source>
         <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>O %1</source>
+        <translation>A %1</translation>
     </message>
 </context>
 <context>
@@ -910,6 +910,17 @@
     <message>
         <source>&amp;Redo %1</source>
         <translation>&amp;Wiederholen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zqbchwcx::qt::RackOverviewWidget</name>
+    <message>
+        <source>Rack overview</source>
+        <translation>Trägerübersicht</translation>
+    </message>
+    <message>
+        <source>Racks of the station with their places and modules; the arrow keys move the focus</source>
+        <translation>Baugruppenträger der Station mit ihren Plätzen und Baugruppen; die Pfeiltasten bewegen den Fokus</translation>
     </message>
 </context>
 </TS>

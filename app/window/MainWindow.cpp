@@ -96,6 +96,7 @@ MainWindow::MainWindow(AppServices& services)
     restoreGeometry(services.Settings().value(GeometryKey).toByteArray());
     restoreState(services.Settings().value(StateKey).toByteArray());
     moMessages->hide();
+    setAcceptDrops(true);
     // A station file may be dropped anywhere on the window, whatever lies there.
     qApp->installEventFilter(this);
     ReadClipboard();

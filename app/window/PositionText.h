@@ -12,7 +12,7 @@ namespace quillon_ed {
 /// position. Throws what the station throws.
 QString PositionText(const zqbchwcx::VxHWStation& station, std::int32_t lPosition);
 
-/// "I 0…1 · Q 4…5"; empty for a module without addresses.
+/// "I 0…1 · O 4…5"; empty for a module without addresses.
 QString AddressText(const zqbchwcx::VxHWModule& module);
 
 } // namespace quillon_ed

@@ -27,6 +27,7 @@ public:
 
     zqbchwcx::VxHWConfigManager& Manager() { return *moManager; }
     const zqbchwcx::VxHWSelectionHandlerPtr& Handler() const { return moHandler; }
+    zqbchwcx::IVxHWDragDropControllerPtr DragDropController() const { return moTable->VxHWDragDropController(); }
     /// What undo brings back: during a drag, whose focus follows the mouse, the view from before the drag.
     zqbchwcx::reference::ViewState View() const;
     void FocusStation();

@@ -1,0 +1,109 @@
+#include "tests/unit/app/AppStage.h"
+
+#include "app/catalogue/CatalogueFilter.h"
+#include "app/catalogue/CatalogueModel.h"
+#include "app/host/SvgIcon.h"
+#include "app/window/ModuleInserter.h"
+
+#include <QDirIterator>
+#include <QMimeData>
+
+#include <set>
+
+namespace quillon_ed {
+namespace {
+
+using namespace zqbchwcx::reference;
+
+class CatalogueTest : public testing::AppStage {
+protected:
+    CatalogueTest()
+        : model(
+              services.Catalogue(), [](const QString&) { return nullptr; }, nullptr),
+          filter(nullptr)
+    {
+        filter.setSourceModel(&model);
+        model.Fill(0, Language::English);
+    }
+
+    std::set<QString> Found(const QModelIndex& parent = {})
+    {
+        std::set<QString> numbers;
+        for (int row = 0; row < filter.rowCount(parent); ++row) {
+            const QModelIndex index = filter.index(row, 0, parent);
+            const QString number = index.data(CatalogueModel::OrderNumberRole).toString();
+            if (number.isEmpty()) numbers.merge(Found(index));
+            else numbers.insert(number);
+        }
+        return numbers;
+    }
+
+    CatalogueModel model;
+    CatalogueFilter filter;
+};
+
+TEST_F(CatalogueTest, ShowsEachTypeOfTheKindOfStationAndNoOther)
+{
+    for (const std::int32_t kind : {0, 1, 2}) {
+        model.Fill(kind, Language::German);
+        std::set<QString> expected;
+        for (const ModuleType& type : services.Catalogue().Types()) {
+            if (!type.isSubModule && type.FitsStation(kind)) expected.insert(QString::fromStdString(type.orderNumber));
+        }
+        EXPECT_FALSE(expected.empty());
+        EXPECT_EQ(Found(), expected) << kind;
+        EXPECT_EQ(filter.TypeCount(), static_cast<int>(expected.size()));
+    }
+}
+
+TEST_F(CatalogueTest, FindsAllWordsInNumberNameAndDescriptionWhateverTheirCase)
+{
+    filter.Search(QStringLiteral("q3-ai08-a"));
+    EXPECT_EQ(Found(), std::set<QString>{QStringLiteral("Q3-AI08-A")});
+    EXPECT_TRUE(filter.FirstType().parent().isValid()) << "the groups above it stay";
+    filter.Search(QStringLiteral("PRECISION ai"));
+    EXPECT_EQ(Found(), std::set<QString>{QStringLiteral("Q3-AI08-P")});
+    filter.Search(QStringLiteral("no such thing"));
+    EXPECT_EQ(filter.TypeCount(), 0);
+    EXPECT_FALSE(filter.FirstType().isValid());
+}
+
+TEST_F(CatalogueTest, ADraggedTypeIsReadBackAsTheModuleThatItIs)
+{
+    const auto document = OpenExample();
+    const Station& station = *document->Station();
+    for (const ModuleType& type : services.Catalogue().Types()) {
+        if (type.isSubModule) continue;
+        const std::unique_ptr<QMimeData> data(ModuleDragData(station, QString::fromStdString(type.orderNumber)));
+        ASSERT_TRUE(data) << type.orderNumber;
+        const QByteArray bytes = data->data(QStringLiteral("application/x-vxhwconfigtext"));
+        const QString text = QString::fromUtf16(reinterpret_cast<const char16_t*>(bytes.constData()));
+        const auto modules = station.ModulesFromConfigText(text.toStdString(), nullptr);
+        ASSERT_EQ(modules->Count(), std::max(type.placeCount, 1)) << type.orderNumber;
+        EXPECT_EQ(modules->Item(0)->OrderNumber(), type.orderNumber);
+    }
+}
+
+TEST_F(CatalogueTest, EveryTypeHasAPicture)
+{
+    for (const ModuleType& type : services.Catalogue().Types()) {
+        const QImage picture = services.Pictures().Picture(type, 1.5, 2.0).toImage();
+        EXPECT_FALSE(picture.isNull()) << type.orderNumber;
+    }
+}
+
+TEST_F(CatalogueTest, IconsTakeTheInkOfThePalette)
+{
+    for (QDirIterator icons(QStringLiteral(":/icons")); icons.hasNext();) {
+        icons.next();
+        const QImage picture = SvgIcon(icons.fileInfo().baseName()).pixmap(20, 20).toImage();
+        int drawn = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) drawn += picture.pixelColor(x, y).alpha() > 128;
+        }
+        EXPECT_GT(drawn, 20) << icons.filePath().toStdString();
+    }
+}
+
+} // namespace
+} // namespace quillon_ed

@@ -1,0 +1,140 @@
+#include "tests/unit/app/AppStage.h"
+
+#include "adapters/qt/MimeDataObject.h"
+#include "app/document/SharedView.h"
+#include "app/window/ModuleInserter.h"
+#include "app/window/PositionText.h"
+#include "app/window/StationView.h"
+#include "controllers/interfaces/IVxHWDragDropController.h"
+#include "foundation/model/VxHWModules.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "foundation/model/VxHWModule.h"
+#include "foundation/model/VxHWRackPlace.h"
+#include "platform/Input.h"
+
+#include <QTableView>
+
+namespace quillon_ed {
+namespace {
+
+using namespace zqbchwcx;
+using reference::ViewState;
+
+constexpr std::int32_t Feedback = G_PlacePosition(0, 4);
+constexpr std::int32_t Field = G_PlacePosition(0, 5);
+constexpr std::int32_t Empty = G_PlacePosition(0, 11);
+
+class StationViewTest : public testing::AppStage {
+protected:
+    StationViewTest() : document(OpenExample()), view(std::make_unique<StationView>(*document, nullptr)) {}
+
+    void Select(std::vector<std::int32_t> places)
+    {
+        ShowView(*view->Handler(), *document->Station(), {places, places.back(), places.front()});
+    }
+    ViewState Shown() const { return CaptureView(*view->Handler()); }
+    bool IsEmpty(std::int32_t lPosition) const
+    {
+        return document->Station()->PlaceAt({0, lPosition / 2})->Module()->IsEmpty();
+    }
+    /// Rows of the list that look selected.
+    std::vector<int> SelectedRows() const
+    {
+        std::vector<int> rows;
+        for (const auto& index : view->findChild<QTableView*>()->selectionModel()->selectedRows()) {
+            rows.push_back(index.row());
+        }
+        return rows;
+    }
+
+    std::unique_ptr<Document> document;
+    std::unique_ptr<StationView> view;
+};
+
+TEST_F(StationViewTest, UndoBringsSelectionAndFocusBackAndRedoThoseAfterTheStep)
+{
+    Select({Feedback, Field});
+    const ViewState before = Shown();
+    view->Manager().Delete();
+    EXPECT_TRUE(IsEmpty(Feedback));
+    EXPECT_EQ(document->History().UndoName(), "Delete");
+    const ViewState after = Shown();
+    Select({Empty});
+    document->History().Undo();
+    EXPECT_FALSE(IsEmpty(Feedback));
+    EXPECT_EQ(Shown(), before);
+    document->History().Redo();
+    EXPECT_EQ(Shown(), after);
+}
+
+TEST_F(StationViewTest, UndoOfADropBringsBackTheViewFromBeforeTheDrag)
+{
+    Select({Feedback});
+    const ViewState before = Shown();
+    const auto controller = view->DragDropController();
+    const std::unique_ptr<QMimeData> mime(ModuleDragData(*document->Station(), QStringLiteral("Q3-DI16-A")));
+    const DataObjectPtr data = qt::DataObjectOf(mime.get());
+    std::int32_t effect = vxDropEffectCopy;
+    controller->OLEDragOver(Field, data, effect, vxButtonLeft, 0, vxDragEnter);
+    controller->OLEDragOver(Empty, data, effect, vxButtonLeft, 0, vxDragOver);
+    EXPECT_EQ(view->Handler()->FocusPosition(), Empty) << "the focus follows the mouse";
+    effect = vxDropEffectCopy;
+    controller->OLEDragDrop(Empty, data, effect, vxButtonLeft, 0);
+    EXPECT_FALSE(IsEmpty(Empty));
+    EXPECT_EQ(Shown().selection, std::vector{Empty});
+    document->History().Undo();
+    EXPECT_TRUE(IsEmpty(Empty));
+    EXPECT_EQ(Shown(), before);
+}
+
+TEST_F(StationViewTest, AnInsertionIsOneStepAndARefusalSaysWhyAndChangesNothing)
+{
+    Select({Empty});
+    EXPECT_EQ(InsertModule(services, *document, *view, QStringLiteral("Q3-DI16-A")), QString());
+    EXPECT_FALSE(IsEmpty(Empty));
+    EXPECT_EQ(document->History().UndoName(), "Insert");
+    EXPECT_FALSE(InsertModule(services, *document, *view, QStringLiteral("Q3-DI16-A")).isEmpty()) << "occupied by now";
+    Select({Feedback});
+    EXPECT_FALSE(InsertModule(services, *document, *view, QStringLiteral("Q3-PS05-A")).isEmpty());
+    EXPECT_TRUE(document->Station()->IsDrawable());
+    document->History().Undo();
+    EXPECT_FALSE(document->IsModified());
+}
+
+TEST_F(StationViewTest, TheListAndTheStationShareSelectionAndFocus)
+{
+    Select({Feedback, Field});
+    EXPECT_EQ(SelectedRows(), (std::vector{3, 4}));
+    auto* table = view->findChild<QTableView*>();
+    table->selectRow(10);
+    EXPECT_EQ(Shown(), (ViewState{{Empty}, Empty, Empty}));
+}
+
+TEST_F(StationViewTest, PositionsAreToldForPeople)
+{
+    const auto text = [&](std::int32_t lPosition) {
+        return PositionText(*document->Station(), lPosition).toStdString();
+    };
+    EXPECT_TRUE(text(Feedback).starts_with("Rack 0 · Place 4 · ")) << text(Feedback);
+    EXPECT_NE(text(Feedback).find("Q3-DI16-A · I "), std::string::npos) << text(Feedback);
+    EXPECT_EQ(text(Empty), "Rack 0 · Place 11 · empty");
+    EXPECT_EQ(text(G_GapPosition(0, 4)), "Rack 0 · between places 4 and 5");
+    EXPECT_EQ(text(G_GapPosition(0, 0)), "Rack 0 · before place 1");
+    EXPECT_EQ(text(G_GapPosition(0, 11)), "Rack 0 · behind place 11");
+    EXPECT_EQ(text(vxNoPosition), "");
+}
+
+TEST_F(StationViewTest, EveryExampleCanBeShownAndClosed)
+{
+    for (const QString& example : ShippedExamples()) {
+        view.reset();
+        document = OpenExample(example.toLatin1().constData());
+        view = std::make_unique<StationView>(*document, nullptr);
+        EXPECT_GT(view->findChild<QTableView*>()->model()->rowCount(), 0) << example.toStdString();
+        document->History().Undo();
+        EXPECT_FALSE(document->IsModified());
+    }
+}
+
+} // namespace
+} // namespace quillon_ed
