@@ -19,9 +19,15 @@ VxHWRackPlacePtr G_PlaceByNumber(const VxHWStationPtr& oStation, std::int32_t lR
     return G_RackByNumber(oStation, lRack)->Places()->Item(lPlace);
 }
 
-bool G_IsRackPresent(const VxHWStationPtr& oStation, std::int32_t lRack)
+bool G_Exists(const VxHWStationPtr& oStation, const PositionInfo& info)
 {
-    return G_RackByNumber(oStation, lRack)->State() != vxRackNotPresent;
+    const auto oRacks = G_Require(oStation, "The station").Racks();
+    return info.lRack < oRacks->Count() && info.lNumber <= oRacks->Item(info.lRack)->Places()->Count();
+}
+
+bool G_IsPresent(const VxHWStationPtr& oStation, const PositionInfo& info)
+{
+    return G_Exists(oStation, info) && G_RackByNumber(oStation, info.lRack)->State() != vxRackNotPresent;
 }
 
 } // namespace zqbchwcx

@@ -20,7 +20,11 @@ constexpr std::int32_t G_PlaceNumberAt(const PositionInfo& info)
     return info.eType == vxPositionGap && info.lNumber == 0 ? 1 : info.lNumber;
 }
 
-/// Whether the rack is there; places and gaps of a rack that is not take no part in anything.
-bool G_IsRackPresent(const VxHWStationPtr& oStation, std::int32_t lRack);
+/// Whether the station has the rack, place or gap. Views may name others, for its racks can be fewer or shorter than
+/// the picture shows; those take no part in anything.
+bool G_Exists(const VxHWStationPtr& oStation, const PositionInfo& info);
+
+/// Whether it exists in a rack that is present.
+bool G_IsPresent(const VxHWStationPtr& oStation, const PositionInfo& info);
 
 } // namespace zqbchwcx

@@ -41,6 +41,7 @@ Editor::Editor(reference::StationData data)
         return parameters ? parameters(module) : std::nullopt;
     };
     station = std::make_shared<FaultyStation>(log, context, std::move(data), std::move(asked));
+    mRefused = station->Refused.Connect([this](const reference::Refusal&) { ++refusals; });
     history = std::make_shared<reference::History>(station);
     errors->history = history;
 

@@ -3,6 +3,7 @@
 #include "managers/VxHWConfigManager.h"
 #include "reference/history/History.h"
 #include "selection/VxHWSelectionHandler.h"
+#include "tests/property/DragData.h"
 #include "tests/property/FaultyStation.h"
 #include "tests/property/HistoryErrors.h"
 #include "tests/property/MemoryClipboard.h"
@@ -37,7 +38,8 @@ public:
     UserControlEvents& Keys() const { return moSite->User(); }
     RecordingPopupMenu& Menu() const { return *moMenu; }
     VxHWConfigManager& Manager() const { return *moManager; }
-    std::shared_ptr<FakeDataObject> NewDrag() const { return std::make_shared<FakeDataObject>(log); }
+    /// The data object of a drag that begins in this editor.
+    std::shared_ptr<FakeDataObject> NewDrag() const { return std::make_shared<DragData>(log, Mouse()); }
 
     /// The file that saving would write.
     std::string Text() const;
@@ -59,6 +61,8 @@ public:
     std::shared_ptr<FaultyStation> station;
     std::shared_ptr<reference::History> history;
     std::shared_ptr<VxHWRackOverview> view;
+    /// Operations that the model refused, with its reason.
+    std::int32_t refusals = 0;
 
 private:
     void KeepPictures();
@@ -68,6 +72,7 @@ private:
     std::unique_ptr<RecordingControl> moOtherSite;
     std::shared_ptr<VxHWRackOverview> moOtherView;
     std::unique_ptr<VxHWConfigManager> moManager;
+    EventConnection mRefused;
     std::vector<RecordingPictureBox*> mcolPictures; ///< of both views
     RecordingPictureBox* moPicture = nullptr;
     RecordingPopupMenu* moMenu = nullptr;

@@ -2,7 +2,6 @@
 
 #include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWRackPlace.h"
-#include "platform/Input.h"
 
 #include <array>
 #include <iterator>
@@ -81,7 +80,7 @@ void RandomUser::DragFromHere()
     auto& mouse = moEditor.Mouse();
     moEditor.Picture().onDrag = [&] {
         const auto data = moEditor.NewDrag();
-        std::int32_t lEffect = vxDropEffectCopyOrMove;
+        std::int32_t lEffect = vxDropEffectNone;
         mouse.OLEStartDrag(data, lEffect);
         ++mlEvents;
         if (lEffect == vxDropEffectNone) return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Input.h"
 #include "tests/property/Editor.h"
 
 #include <cstdint>

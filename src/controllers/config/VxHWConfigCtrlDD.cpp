@@ -180,7 +180,7 @@ bool VxHWConfigCtrlDD::IsValidDragPosition(std::int32_t lPosition) const noexcep
     bool bValid = false;
     G_Trap(className(), "IVxHWDragDropController_IsValidDragPosition", [&] {
         const PositionInfo info = G_PositionInfo(lPosition);
-        if (info.eType == vxPositionNone) return;
+        if (info.eType == vxPositionNone || !G_Exists(Station(), info)) return;
         const auto oHandler = SelHandler();
         if (IsGapOrPlace(info)) {
             const auto oPlace = G_PlaceByNumber(Station(), info.lRack, G_PlaceNumberAt(info));
@@ -296,7 +296,7 @@ void VxHWConfigCtrlDD::MoveOver(std::int32_t lPosition, std::int16_t nShift)
     if (lPosition == vxNoPosition) mbLastCanDrop = false;
     if (lPosition == mlDropPosition) return;
     const PositionInfo info = G_PositionInfo(lPosition);
-    if (IsGapOrPlace(info) && G_IsRackPresent(Station(), info.lRack)) {
+    if (IsGapOrPlace(info) && G_IsPresent(Station(), info)) {
         mbLastCanDrop = P_CanBePlaced(lPosition, nShift);
         mlDropPosition = lPosition;
         SelHandler()->FocusPosition(lPosition);

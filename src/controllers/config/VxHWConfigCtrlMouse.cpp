@@ -37,6 +37,7 @@ void VxHWConfigCtrlMouse::DblClick(std::int32_t lPosition) noexcept
         const PositionInfo clicked = G_PositionInfo(lPosition);
         if (clicked.eType != vxPositionGap && clicked.eType != vxPositionPlace) return;
         const auto oStation = Station();
+        if (!G_Exists(oStation, clicked)) return;
         const auto oPlace = G_PlaceByNumber(oStation, clicked.lRack, G_PlaceNumberAt(clicked));
         const auto oModule = oPlace->Module();
         if (!oModule->IsEmpty() && oModule->HasParamDialog()) oStation->OpenModuleParamDialog(oPlace);
@@ -53,7 +54,7 @@ void VxHWConfigCtrlMouse::MouseDown(std::int32_t lPosition, std::int16_t nButton
             if (nShift == 0) G_ClearSelection(SelHandler());
             return;
         }
-        if (!G_IsRackPresent(Station(), pressed.lRack)) return;
+        if (!G_IsPresent(Station(), pressed)) return;
 
         const Modifiers modifiers = G_Modifiers(nShift);
         if (modifiers == Modifiers::Other) return;
@@ -73,7 +74,7 @@ void VxHWConfigCtrlMouse::MouseUp(std::int32_t /*lPosition*/, std::int16_t nButt
         const std::int32_t lPosition = mlMouseDownPosition;
         const PositionInfo pressed = G_PositionInfo(lPosition);
         if (pressed.eType == vxPositionNone) return;
-        if (!G_IsRackPresent(Station(), pressed.lRack)) return;
+        if (!G_IsPresent(Station(), pressed)) return;
         if (pressed.eType == vxPositionRack) return;
 
         const bool bGap = pressed.eType == vxPositionGap;
