@@ -39,9 +39,9 @@ class Editing(OnDisplay):
         # Through the gap to the next place.
         self.display.keys("Right")
         until(lambda: self.overview.focus() is None, "a gap has the focus")
-        self.assertEqual(self.overview.place_picture(FEEDBACK), self.overview.drawn_picture(FEEDBACK))
         self.display.keys("Right")
         self.overview.wait_focus(FIELD)
+        self.assertEqual(self.overview.place_picture(FEEDBACK), self.overview.drawn_picture(FEEDBACK))
         self.display.keys("ctrl+c")
         until(lambda: self.before[FIELD] in self.clipboard_modules(), "the focused module is on the clipboard")
         self.assertNotIn(self.before[FEEDBACK], self.clipboard_modules())
@@ -115,7 +115,6 @@ class Editing(OnDisplay):
         number = self.before[VALVES]
         self.overview.click(EMPTY)
         self.overview.wait_focus(EMPTY)
-        without_search = self.display.picture()
         self.display.keys("ctrl+f")
         self.display.type(number)
         self.display.keys("Return")
@@ -126,14 +125,23 @@ class Editing(OnDisplay):
         self.overview.wait_focus(EMPTY)
         self.display.keys("Delete")
         self.wait_unsaved()
-        self.overview.drag_from_point(self.catalogue_row(without_search), EMPTY, self.overview)
+        self.overview.drag_from_point(self.catalogue_row(), EMPTY, self.overview)
         until(lambda: self.save() == {**self.before, EMPTY: number}, "the module is there again")
 
-    def catalogue_row(self, without_search):
-        """A point on the one type that the search has left: the row whose look changes under the keys."""
+    def catalogue_row(self):
+        """A point on the one type that the search has left: the row at the right that is drawn as selected."""
         self.display.keys("ctrl+f", "Down")
-        selected = self.display.picture()
-        self.display.keys("Up")
-        until(lambda: self.display.picture().changed_box(selected), "the selected row changes")
-        x, y, _, height = self.display.picture().changed_box(selected)
-        return x + 60, y + height - 8
+        left, top, width, height = self.display.geometry(self.program.window)
+        column = left + width - 200, top, 120, height
+
+        def selected_lines():
+            area = self.display.picture(*column)
+            return [y for y in range(height) if self.is_selected_line(area.cut(0, y, 120, 1))]
+        lines = until(selected_lines, "a type in the catalogue is selected")
+        return column[0] + 40, top + lines[len(lines) // 2]
+
+    @staticmethod
+    def is_selected_line(line):
+        colours = line.colours()
+        colour = max(colours, key=colours.get)
+        return colours[colour] > 40 and max(colour) - min(colour) > 80

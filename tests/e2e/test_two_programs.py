@@ -3,7 +3,7 @@ from desk.program import OnDisplay
 from desk.stations import EMPTY, EXAMPLE, FEEDBACK, VALVES, numbers_by_place
 from desk.waiting import until
 
-LEFT, RIGHT = (0, 0, 780, 900), (800, 0, 780, 900)
+LEFT, RIGHT = (0, 0, 1000, 900), (1040, 0, 1000, 900)
 
 
 class TwoPrograms(OnDisplay):

@@ -24,7 +24,7 @@ class Home(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
         self.home = self.folder / "home"
-        self.home.mkdir()
+        self.home.mkdir(mode=0o700)
 
     def environment(self, display=None):
         kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS") if name in os.environ}

@@ -11,7 +11,7 @@ from .waiting import until
 
 
 class Display:
-    WIDTH, HEIGHT = 1600, 1000
+    WIDTH, HEIGHT = 2080, 1000
 
     def __init__(self):
         self._folder = tempfile.mkdtemp(prefix="quillon-display-")

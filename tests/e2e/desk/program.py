@@ -20,9 +20,7 @@ class OnDisplay(Home):
 
     def start(self, *arguments, area=(0, 0, 1000, 900), before=()):
         """Starts a program, waits for its window and puts it into the area of the screen."""
-        program = Program(self, arguments, area, before)
-        self.addCleanup(program.kill)
-        return program
+        return Program(self, arguments, area, before)
 
     def open(self, station, **more):
         """Starts a program on a station and finds its overview."""
@@ -48,6 +46,7 @@ class Program:
         self.process = subprocess.Popen([*before, PROGRAM, "--lang", "en", *[str(argument) for argument in arguments]],
                                         env=test.environment(self.display.name), cwd=test.folder,
                                         restore_signals=False, stdin=subprocess.DEVNULL)
+        test.addCleanup(self.kill)
         self.window = until(self.main_window, "the program shows its window")
         self.display.place(self.window, *area)
         self.display.activate(self.window)
