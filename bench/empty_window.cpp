@@ -1,0 +1,15 @@
+// The least that a program with a window can do: it shows an empty one and ends after its first picture.
+
+#include "bench/QuitAfterPaint.h"
+
+#include <QMainWindow>
+
+int main(int argc, char** argv)
+{
+    const QApplication application(argc, argv);
+    QMainWindow window;
+    window.resize(1000, 700);
+    const quillon_ed::bench::QuitAfterPaint quit(window);
+    window.show();
+    return QApplication::exec();
+}
