@@ -22,6 +22,14 @@ int refuse(const UsageError& error)
     return ExitUsage;
 }
 
+/// What the window system's layer remarks about the desktop is nothing to a command that needs none.
+void keepQuietAboutTheDesktop()
+{
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << "quillon-ed: " << text.toStdString() << '\n';
+    });
+}
+
 void nameProgram()
 {
     QCoreApplication::setOrganizationName(QStringLiteral("Halvar"));
@@ -49,7 +57,10 @@ int main(int argc, char** argv)
     const CommandStreams streams{std::cout, std::cerr};
     nameProgram();
     if (line.command == Command::Open || line.command == Command::Render) {
-        if (line.command == Command::Render) qputenv("QT_QPA_PLATFORM", "offscreen");
+        if (line.command == Command::Render) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            keepQuietAboutTheDesktop();
+        }
         // The arguments have been read; the application gets none of them.
         int count = 1;
         const QApplication application(count, argv);

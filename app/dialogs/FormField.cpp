@@ -14,7 +14,7 @@ namespace quillon_ed {
 namespace {
 
 constexpr int EditorWidth = 220;
-constexpr int NoteWidth = 120;
+constexpr int NoteWidth = 160;
 
 /// Readable on light and on dark backgrounds.
 QColor ReasonColor(const QPalette& palette)
@@ -50,6 +50,7 @@ FormField::FormField(QWidget* editor, const QString& note, QWidget* parent)
 
     auto* line = new QHBoxLayout;
     line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(8);
     line->addWidget(moEditor, 1);
     line->addWidget(noteLabel);
     line->addWidget(moReset);

@@ -61,6 +61,7 @@ void ModuleForm::AddGeneral(QFormLayout& form, const ModuleType& type)
     addLine(tr("Name"), moModule.name, moName, moNameField);
     moName->setPlaceholderText(
         ToQString(type.name, moLocale.language() == QLocale::German ? Language::German : Language::English));
+    setFocusProxy(moName);
     addLine(tr("Comment"), moModule.comment, moComment, moCommentField);
     AddAddress(form, AddressArea::Input, tr("Input address"), type);
     AddAddress(form, AddressArea::Output, tr("Output address"), type);

@@ -18,13 +18,16 @@ namespace quillon_ed {
 
 using namespace zqbchwcx::reference;
 
+namespace {
+
+constexpr int HeightAroundForm = 170; // heading, buttons, margins
+constexpr int LargestHeight = 760;
+
+} // namespace
+
 ParameterDialog::ParameterDialog(const ModuleData& module, const ParameterDialogContext& context, QWidget* parent)
     : QDialog(parent), mbReadOnly(context.readOnly), moPages(new QListWidget(this)), moStack(new QStackedWidget(this)),
-      moButtons(new QDialogButtonBox(mbReadOnly ? QDialogButtonBox::Close
-                                                : QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
-                                                      QDialogButtonBox::RestoreDefaults,
-                                     this)),
-      moModuleCheck(context.moduleCheck)
+      moReason(new QLabel(this)), moModuleCheck(context.moduleCheck)
 {
     const ModuleType& type = *context.catalogue->Find(module.orderNumber);
     setWindowTitle(mbReadOnly ? tr("Parameters (read-only)") : tr("Parameters"));
@@ -45,6 +48,11 @@ ParameterDialog::ParameterDialog(const ModuleData& module, const ParameterDialog
     moPages->setCurrentRow(0);
     connect(moPages, &QListWidget::currentRowChanged, moStack, &QStackedWidget::setCurrentIndex);
 
+    // After the pages, so that the Tab key comes to them last.
+    moButtons = new QDialogButtonBox(mbReadOnly ? QDialogButtonBox::Close
+                                                : QDialogButtonBox::Ok | QDialogButtonBox::Cancel |
+                                                      QDialogButtonBox::RestoreDefaults,
+                                     this);
     auto* middle = new QHBoxLayout;
     middle->addWidget(moPages);
     middle->addWidget(moStack, 1);
@@ -63,8 +71,10 @@ ParameterDialog::ParameterDialog(const ModuleData& module, const ParameterDialog
             for (ModuleForm* form : mcolForms) form->Reset();
         });
     }
-    resize(sizeHint().expandedTo({mcolForms.size() > 1 ? 760 : 600, 420}).boundedTo({900, 720}));
     Update();
+    const int formHeight = mcolForms.front()->sizeHint().height();
+    resize(mcolForms.size() > 1 ? 820 : 640, std::min(formHeight + HeightAroundForm, LargestHeight));
+    mcolForms.front()->setFocus();
 }
 
 bool ParameterDialog::CanEdit(const ModuleData& module, const Catalogue& catalogue)

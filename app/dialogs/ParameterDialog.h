@@ -51,7 +51,7 @@ private:
     QListWidget* moPages;
     QStackedWidget* moStack;
     QLabel* moReason;
-    QDialogButtonBox* moButtons;
+    QDialogButtonBox* moButtons = nullptr;
     std::function<QString(const zqbchwcx::reference::ModuleData&)> moModuleCheck;
     std::vector<ModuleForm*> mcolForms;          ///< the module's form, then those of its sub-modules
     std::vector<std::size_t> mcolSubModuleIndex; ///< which sub-module the form shows; the first form has no entry

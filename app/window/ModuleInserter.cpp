@@ -10,6 +10,7 @@
 #include "foundation/mdl_ErrorHandler.h"
 #include "foundation/mdl_Main.h"
 #include "foundation/mdl_VarConst.h"
+#include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWModules.h"
 #include "foundation/model/VxHWRack.h"
 #include "foundation/model/VxHWRackPlace.h"
@@ -31,10 +32,11 @@ struct InserterTexts {
     Q_DECLARE_TR_FUNCTIONS(quillon_ed::ModuleInserter)
 };
 
-/// The modules that stand for one of the type: its members when it spans several places.
-VxHWModulesPtr ModulesOfType(const reference::Station& station, const std::string& orderNumber)
+/// One module of the type, with its sub-modules.
+VxHWModulesPtr ModulesOfType(reference::Station& station, const std::string& orderNumber)
 {
     const VxHWModulePtr module = station.CreateModule(orderNumber);
+    if (module->SubModuleCount() > 0) station.CreateSubModules(module);
     auto modules = std::make_shared<reference::Modules>(station.Context());
     modules->Add(module, true);
     return modules;
@@ -77,7 +79,7 @@ QString InsertModule(AppServices& services, Document& document, StationView& vie
                : InserterTexts::tr("The module does not fit there");
 }
 
-QMimeData* ModuleDragData(const reference::Station& station, const QString& orderNumber)
+QMimeData* ModuleDragData(reference::Station& station, const QString& orderNumber)
 {
     QMimeData* data = nullptr;
     G_Trap(ModuleName, "ModuleDragData", [&] {

@@ -19,6 +19,6 @@ class StationView;
 QString InsertModule(AppServices& services, Document& document, StationView& view, const QString& orderNumber);
 
 /// A module of the type as the data of a drag; null, after a report, when it cannot be made.
-QMimeData* ModuleDragData(const zqbchwcx::reference::Station& station, const QString& orderNumber);
+QMimeData* ModuleDragData(zqbchwcx::reference::Station& station, const QString& orderNumber);
 
 } // namespace quillon_ed

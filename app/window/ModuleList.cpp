@@ -57,7 +57,8 @@ ModuleList::ModuleList(VxHWStationPtr station, VxHWSelectionHandlerPtr handler, 
     moTable->horizontalHeader()->setFixedHeight(HeaderHeight);
     moTable->horizontalHeader()->setStretchLastSection(true);
     moTable->horizontalHeader()->setHighlightSections(false);
-    const int widths[] = {44, 190, 110, 70, 70};
+    moTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    const int widths[] = {44, 160, 92, 64, 64};
     for (int column = 0; column < ModuleListModel::Comment; ++column) moTable->setColumnWidth(column, widths[column]);
     moTable->installEventFilter(this);
 

@@ -33,7 +33,8 @@ QListWidget* MakeList(QWidget* parent)
     list->viewport()->setAutoFillBackground(false);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setTextElideMode(Qt::ElideMiddle);
-    list->setMinimumHeight(220);
+    list->setSpacing(2);
+    list->setMinimumHeight(260);
     return list;
 }
 
@@ -83,10 +84,17 @@ StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
     grid->addWidget(MakeButton(actionNew, this), 2, 0);
     grid->addWidget(MakeButton(actionOpen, this), 2, 1);
     grid->setRowMinimumHeight(3, 16);
-    grid->addWidget(moRecentHeading, 4, 0);
-    grid->addWidget(moExamplesHeading, 4, 1);
-    grid->addWidget(moRecent, 5, 0);
-    grid->addWidget(moExamples, 5, 1);
+    // Without recent files the examples have the whole width.
+    auto* lists = new QHBoxLayout;
+    lists->setSpacing(32);
+    for (const auto& [heading, list] :
+         {std::pair{moRecentHeading, moRecent}, std::pair{moExamplesHeading, moExamples}}) {
+        auto* part = new QVBoxLayout;
+        part->addWidget(heading);
+        part->addWidget(list);
+        lists->addLayout(part, 1);
+    }
+    grid->addLayout(lists, 4, 0, 1, 2);
 
     auto* column = new QVBoxLayout(this);
     column->addStretch(2);

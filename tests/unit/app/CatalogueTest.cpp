@@ -4,6 +4,8 @@
 #include "app/catalogue/CatalogueModel.h"
 #include "app/host/SvgIcon.h"
 #include "app/window/ModuleInserter.h"
+#include "foundation/model/VxHWModule.h"
+#include "foundation/model/VxHWModules.h"
 
 #include <QDirIterator>
 #include <QMimeData>
@@ -71,7 +73,7 @@ TEST_F(CatalogueTest, FindsAllWordsInNumberNameAndDescriptionWhateverTheirCase)
 TEST_F(CatalogueTest, ADraggedTypeIsReadBackAsTheModuleThatItIs)
 {
     const auto document = OpenExample();
-    const Station& station = *document->Station();
+    Station& station = *document->Station();
     for (const ModuleType& type : services.Catalogue().Types()) {
         if (type.isSubModule) continue;
         const std::unique_ptr<QMimeData> data(ModuleDragData(station, QString::fromStdString(type.orderNumber)));
