@@ -34,6 +34,8 @@ std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed)
     std::mt19937 random(seed);
     Editor editor(ExampleStation(example));
     const std::string first = editor.Text();
+    std::int64_t changes = 0;
+    const EventConnection counting = editor.history->Changed.Connect([&] { ++changes; });
     RandomUser user(editor, random);
     for (std::int64_t step = 0; user.Events() < EventsPerSession; ++step) {
         const std::string action = user.DoSomething();
@@ -49,6 +51,7 @@ std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed)
         }
         editor.ForgetLines();
     }
+    EXPECT_GT(changes, EventsPerSession / 50) << "a user who changes next to nothing";
     const std::string last = ToTheEnd(editor, &reference::History::Redo);
     EXPECT_EQ(ToTheEnd(editor, &reference::History::Undo), first);
     EXPECT_EQ(editor.DifferenceFromAFreshPicture(), "") << "after undoing everything";

@@ -30,9 +30,9 @@ class Home(unittest.TestCase):
         kept = {name: os.environ[name] for name in ("PATH", "ASAN_OPTIONS", "LSAN_OPTIONS") if name in os.environ}
         kept.update(HOME=str(self.home), LANG="C.UTF-8", XDG_CONFIG_HOME=str(self.home / "config"),
                     XDG_DATA_HOME=str(self.home / "data"), XDG_STATE_HOME=str(self.home / "state"),
-                    XDG_CACHE_HOME=str(self.home / "cache"), XDG_RUNTIME_DIR=str(self.home))
+                    XDG_CACHE_HOME=str(self.home / "cache"))
         if display:
-            kept["DISPLAY"] = display
+            kept.update(DISPLAY=display, XDG_RUNTIME_DIR=str(self.home))
         return kept
 
     def run_command(self, *arguments, before=(), **more):
