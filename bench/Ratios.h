@@ -8,7 +8,7 @@
 
 namespace quillon_ed::bench {
 
-/// Keeps the time of every benchmark, beside printing it. With repetitions it keeps the median.
+/// Keeps the processor time of every benchmark, beside printing it. With repetitions it keeps the median.
 class TimesReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override
@@ -16,7 +16,7 @@ public:
         for (const Run& run : runs) {
             const bool bSingle = run.run_type == Run::RT_Iteration && run.repetitions <= 1;
             if (bSingle || run.aggregate_name == "median")
-                mcolSeconds[run.run_name.function_name] = run.GetAdjustedRealTime();
+                mcolSeconds[run.run_name.function_name] = run.GetAdjustedCPUTime();
         }
         ConsoleReporter::ReportRuns(runs);
     }

@@ -5,6 +5,9 @@
 #include "adapters/qt/SystemColors.h"
 #include "adapters/qt/UiFont.h"
 
+#include <QGuiApplication>
+#include <QPalette>
+
 #include <algorithm>
 #include <utility>
 
@@ -54,7 +57,8 @@ Rect Normalized(const Rect& rect)
 } // namespace
 
 PersistentPicture::PersistentPicture(Size size, double ratio)
-    : mSize(size), mGrid(ratio), mBackground(Translate(mBackColor)), mFont(DefaultUiFont())
+    : mSize(size), mGrid(ratio), mBackground(ToQColor(vxColorWindowBackground).value_or(Qt::white)),
+      mFont(DefaultUiFont())
 {
     mImage = NewImage(mGrid, mSize, mBackground);
     mTexts.Font(mFont, ratio);
@@ -92,8 +96,8 @@ void PersistentPicture::Font(const QFont& font)
 
 void PersistentPicture::BackColor(OleColor color)
 {
-    mBackColor = color;
-    mBackground = Translate(color);
+    mBackground = ToQColor(color).value_or(mBackground);
+    mcolTranslated.clear();
     Painter().fillRect(mImage.rect(), mBackground);
     Changed(mImage.rect());
 }
@@ -138,7 +142,7 @@ void PersistentPicture::DrawListImage(const ImageList& list, std::string_view ke
 
 void PersistentPicture::DrawImage(const Image& image, Point at, DrawStyle style)
 {
-    const QColor highlight = Translate(vxColorHighlight);
+    const QColor& highlight = Translate(vxColorHighlight);
     const QImage& pixels = dynamic_cast<const QtImage&>(image).At(at, mGrid, style, highlight);
     const QPoint corner(mGrid.Edge(at.x), mGrid.Edge(at.y));
     Painter().drawImage(corner, pixels);
@@ -179,10 +183,18 @@ void PersistentPicture::Changed(const QRect& device)
     if (mOnChanged && !device.isEmpty()) mOnChanged(device);
 }
 
-QColor PersistentPicture::Translate(OleColor color) const
+const QColor& PersistentPicture::Translate(OleColor color)
 {
+    const qint64 paletteKey = QGuiApplication::palette().cacheKey();
+    if (paletteKey != mPaletteKey) mcolTranslated.clear();
+    mPaletteKey = paletteKey;
+    for (const auto& [known, translated] : mcolTranslated) {
+        if (known == color) return translated;
+    }
     const bool isMark = color == vxColorButtonText || color == vxColorGrayText || color == vxColorWindowText;
-    return isMark ? ReadableOn(color, mBackground) : ToQColor(color).value_or(mBackground);
+    return mcolTranslated
+        .emplace_back(color, isMark ? ReadableOn(color, mBackground) : ToQColor(color).value_or(mBackground))
+        .second;
 }
 
 } // namespace zqbchwcx::qt

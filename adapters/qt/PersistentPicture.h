@@ -12,6 +12,8 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace zqbchwcx::qt {
 
@@ -50,15 +52,18 @@ private:
     void Replace(QImage image);
     void Fill(const Rect& rect, const QColor& color);
     void Changed(const QRect& device);
-    QColor Translate(OleColor color) const;
+    /// The colour as it is drawn on this background; a mark or text in a colour that can be told from it.
+    const QColor& Translate(OleColor color);
 
     Size mSize;
     PixelGrid mGrid;
     QImage mImage;
     /// Open between drawing calls: opening one costs more than most of them.
     std::unique_ptr<QPainter> mPainter;
-    OleColor mBackColor = vxColorWindowBackground;
     QColor mBackground;
+    /// The colours as translated for this background and the palette of that key.
+    std::vector<std::pair<OleColor, QColor>> mcolTranslated;
+    qint64 mPaletteKey = 0;
     QFont mFont;
     TextCells mTexts;
     std::function<void(const QRect&)> mOnChanged;

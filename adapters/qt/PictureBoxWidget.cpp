@@ -11,7 +11,7 @@
 #include <QPixmap>
 #include <QPointer>
 
-#include <cmath>
+#include <utility>
 
 namespace zqbchwcx::qt {
 
@@ -37,9 +37,16 @@ void PictureBoxWidget::Receiver(PictureBoxEvents* receiver)
 
 void PictureBoxWidget::Remember(const QRect& device)
 {
-    // One update for a burst of drawing: it is shown when the program next waits, or by an explicit refresh.
-    if (mChanged.isEmpty()) QMetaObject::invokeMethod(this, &PictureBoxWidget::ShowChanges, Qt::QueuedConnection);
     mChanged |= device;
+    // One update for a burst of drawing: it is shown when the program next waits, or by an explicit refresh.
+    if (std::exchange(mbShowPosted, true)) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            mbShowPosted = false;
+            ShowChanges();
+        },
+        Qt::QueuedConnection);
 }
 
 void PictureBoxWidget::ShowChanges()

@@ -46,6 +46,7 @@ private:
     PictureBoxEvents* mReceiver = nullptr;
     DropTarget mDropTarget;
     QRect mChanged;
+    bool mbShowPosted = false;
 };
 
 } // namespace zqbchwcx::qt
