@@ -141,12 +141,25 @@ TEST_F(ConfigMouse, TheReadOnlyOneBehavesAlikeUnderItsOwnName)
     EXPECT_EQ(Press(8, Plain), "0/4 | 8 | 8");
     mouse->DblClick(2);
     EXPECT_THAT(TakeLines(), ElementsAre("OpenModuleParamDialog 0/1"));
-    Press(9 * 1000 + 2, Plain);
-    mouse->DblClick(40);
+    mouse->VxHWSelectionHandler(nullptr);
+    mouse->MouseDown(2, vxButtonLeft, Plain);
+    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigROCtrlMouse.P_MouseDownOnPlace"));
+    mouse->VxHWStation(nullptr);
+    mouse->MouseDown(2, vxButtonLeft, Plain);
+    mouse->DblClick(2);
     EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigROCtrlMouse.IVxHWMouseInputController_MouseDown",
                                            "zqbchwcx.VxHWConfigROCtrlMouse.IVxHWMouseInputController_DblClick"));
-    Press(40, Plain);
-    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigROCtrlMouse.P_MouseDownOnPlace"));
+}
+
+TEST_F(ConfigMouse, WhatTheStationDoesNotHaveTakesNoPart)
+{
+    Press(8, Plain);
+    for (const std::int32_t lPosition : {40, 41, 9 * 1000, 9 * 1000 + 2, 9 * 1000 + 3}) {
+        EXPECT_EQ(Press(lPosition, Plain), "0/4 | 8 | 8") << lPosition;
+        EXPECT_EQ(Press(lPosition, vxCtrlMask), "0/4 | 8 | 8") << lPosition;
+        mouse->DblClick(lPosition);
+    }
+    EXPECT_THAT(TakeReports(), ElementsAre());
 }
 
 TEST_F(ConfigMouse, KeepsStationAndHandlerOnly)
