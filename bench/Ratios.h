@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
+#include <limits>
 #include <map>
 #include <string>
 
@@ -21,16 +22,23 @@ public:
         ConsoleReporter::ReportRuns(runs);
     }
 
+    /// Seconds of a benchmark; not a number when it did not run.
+    double Seconds(const std::string& name) const
+    {
+        const auto found = mcolSeconds.find(name);
+        return found == mcolSeconds.end() ? std::numeric_limits<double>::quiet_NaN() : found->second;
+    }
+
     /// Prints how many times the one is of the other; false when it is more than the limit, or when one did not run.
     bool Check(const std::string& measured, const std::string& reference, double limit) const
     {
-        const auto one = mcolSeconds.find(measured);
-        const auto other = mcolSeconds.find(reference);
-        if (one == mcolSeconds.end() || other == mcolSeconds.end()) return false;
-        const double ratio = one->second / other->second;
+        return CheckRatio(measured + " / " + reference, Seconds(measured) / Seconds(reference), limit);
+    }
+
+    static bool CheckRatio(const std::string& what, double ratio, double limit)
+    {
         const bool bKept = ratio <= limit;
-        std::printf("%-16s / %-12s = %6.3f   limit %5.2f   %s\n", measured.c_str(), reference.c_str(), ratio, limit,
-                    bKept ? "kept" : "EXCEEDED");
+        std::printf("%-30s = %7.3f   limit %6.2f   %s\n", what.c_str(), ratio, limit, bKept ? "kept" : "EXCEEDED");
         return bKept;
     }
 

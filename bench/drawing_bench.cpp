@@ -2,69 +2,23 @@
 // numbers into a picture of the same size. Ends with the ratios; fails when a limit is exceeded.
 
 #include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/RackOverviewWidget.h"
 #include "adapters/qt/UiFont.h"
-#include "app/host/AppServices.h"
 #include "bench/Ratios.h"
+#include "bench/Stage.h"
 #include "foundation/PlacePosition.h"
 #include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWRackPlace.h"
-#include "managers/VxHWConfigManager.h"
-#include "reference/files/StationReader.h"
-#include "reference/model/contract/Station.h"
-#include "reference/services/QuietView.h"
-#include "selection/VxHWSelectionHandler.h"
-#include "views/config/VxHWRackOverview.h"
 
 #include <QApplication>
 #include <QPainter>
-#include <QSettings>
-#include <QTemporaryDir>
 
 using namespace zqbchwcx;
+using quillon_ed::bench::Stage;
 
 namespace {
 
 constexpr std::int32_t RackCount = 4;
 constexpr std::int32_t PlaceCount = 11;
-
-/// The station in an overview, wired as in the program.
-class Stage {
-public:
-    Stage()
-        : mSettings(mDirectory.filePath("settings.ini"), QSettings::IniFormat), mServices(mSettings),
-          mStation(std::make_shared<reference::Station>(
-              mServices.Context(),
-              reference::LoadStation(QUILLON_SOURCE_DIR "/examples/packaging-line.station.json", mServices.Catalogue())
-                  .data)),
-          mTable(std::make_shared<reference::QuietView>())
-    {
-        mManager.Initialize(vxStationTypeCentral, mWidget.Control(), mTable, mStation);
-        mWidget.Control()->Refresh();
-    }
-    ~Stage() { mManager.Terminate(); }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
-
-    VxHWRackOverview& View() { return *mWidget.Control(); }
-    void Focus(std::int32_t lPosition) { mManager.VxHWSelectionHandler()->FocusPosition(lPosition); }
-    void ChangePlace() { mStation->RackPlaceChange.Raise(mStation->PlaceAt({0, 5})); }
-    std::string PictureOf(std::int32_t lRack, std::int32_t lPlace)
-    {
-        const auto module = mStation->PlaceAt({lRack, lPlace})->Module();
-        const std::string name = module->IsEmpty() ? "IDB_CRX_PLACE_ACTIVE" : module->PictureName();
-        return name.starts_with("IDB_") ? name : "IDB_CRX_MODULE_DEFAULT";
-    }
-
-private:
-    QTemporaryDir mDirectory;
-    QSettings mSettings;
-    quillon_ed::AppServices mServices;
-    reference::StationPtr mStation;
-    std::shared_ptr<reference::QuietView> mTable;
-    qt::RackOverviewWidget mWidget;
-    VxHWConfigManager mManager;
-};
 
 /// Only QPainter: pictures that are ready, and numbers.
 class BareLoop {
