@@ -124,6 +124,7 @@ void MainWindow::AddDocks()
 
     moMessages = new MessagesDock(moServices.Errors(), this);
     addDockWidget(Qt::BottomDockWidgetArea, moMessages);
+    resizeDocks({moMessages}, {120}, Qt::Vertical);
 }
 
 void MainWindow::ConnectFileActions()

@@ -15,6 +15,13 @@ namespace quillon_ed {
 
 using namespace zqbchwcx;
 
+namespace {
+
+constexpr int WhereWidth = 300;
+constexpr int ListHeight = 84;
+
+} // namespace
+
 MessagesDock::MessagesDock(reference::ErrorLog& log, QWidget* parent)
     : QDockWidget(parent), moLog(log), moList(new QTreeWidget(this)), moClear(new QPushButton(this))
 {
@@ -24,6 +31,8 @@ MessagesDock::MessagesDock(reference::ErrorLog& log, QWidget* parent)
     moList->setUniformRowHeights(true);
     moList->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     moList->header()->setStretchLastSection(false);
+    moList->header()->resizeSection(2, WhereWidth);
+    moList->setMinimumHeight(ListHeight);
     moClear->setAutoDefault(false);
 
     auto* content = new QWidget(this);
