@@ -2,6 +2,7 @@
 
 #include "adapters/qt/RackOverviewWidget.h"
 #include "app/host/AppServices.h"
+#include "foundation/model/VxHWRackPlace.h"
 #include "managers/VxHWConfigManager.h"
 #include "reference/files/StationReader.h"
 #include "reference/model/contract/Station.h"
