@@ -104,7 +104,7 @@ QtImagePtr PictureCatalog::Picture(std::string_view name)
 {
     if (const auto found = mcolPictures.find(name); found != mcolPictures.end()) return found->second;
 
-    auto source = SvgSource::Read(ReadResource(name));
+    auto source = SvgSource::ReadLater(ReadResource(name));
     if (!source) throw VxError(vxErrorInvalidArgument, "There is no picture \"" + std::string(name) + "\"");
     PictureKind kind = KindOf(name);
     auto picture = std::make_shared<const QtImage>(std::move(source), kind.edges, std::move(kind.columnCuts),

@@ -45,6 +45,12 @@ void BlendHalf(QImage& image, const QColor& color)
     painter.fillRect(image.rect(), color);
 }
 
+/// At a whole ratio every logical edge is a device edge, so that nothing has to be cut.
+bool IsWhole(double ratio)
+{
+    return ratio == std::floor(ratio);
+}
+
 int FractionOf(int logical, const PixelGrid& grid)
 {
     constexpr double Steps = 1024;
@@ -77,6 +83,14 @@ const QImage& QtImage::At(Point at, const PixelGrid& grid, DrawStyle style, cons
 QImage QtImage::Render(Point at, const PixelGrid& grid) const
 {
     const QRect bounds = grid.Device(MakeRect(at.x, at.y, mSize.width, mSize.height));
+    QImage image = IsWhole(grid.Ratio()) ? mSource->Render(QRectF(0, 0, mSize.width, mSize.height), bounds.size())
+                                         : RenderParts(at, grid, bounds);
+    if (mEdges == EdgeStyle::Hard) HardenEdges(image);
+    return image;
+}
+
+QImage QtImage::RenderParts(Point at, const PixelGrid& grid, const QRect& bounds) const
+{
     QImage image(bounds.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -91,7 +105,6 @@ QImage QtImage::Render(Point at, const PixelGrid& grid) const
         }
     }
     painter.end();
-    if (mEdges == EdgeStyle::Hard) HardenEdges(image);
     return image;
 }
 

@@ -38,6 +38,7 @@ public:
 
 private:
     QImage Render(Point at, const PixelGrid& grid) const;
+    QImage RenderParts(Point at, const PixelGrid& grid, const QRect& bounds) const;
 
     /// Device ratio, the fractions of a device pixel at which the image starts, blending colour (0 for none).
     using CacheKey = std::tuple<double, int, int, QRgb>;

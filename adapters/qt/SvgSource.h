@@ -15,8 +15,11 @@ class SvgSource : public ImageSource {
 public:
     /// Null when the bytes are no SVG picture. A logical width other than 0 scales the picture to it.
     static std::shared_ptr<const ImageSource> Read(const QByteArray& svg, std::int32_t lLogicalWidth = 0);
+    /// A picture of which only the size is read now, and the rest when it is first drawn. For pictures that are known
+    /// to be in order. Null when the bytes do not start like one.
+    static std::shared_ptr<const ImageSource> ReadLater(const QByteArray& svg);
 
-    SvgSource(std::unique_ptr<QSvgRenderer> renderer, Size size);
+    SvgSource(QByteArray svg, Size size, std::unique_ptr<QSvgRenderer> renderer = nullptr);
     ~SvgSource() override;
 
     Size LogicalSize() const override { return mSize; }
@@ -24,8 +27,11 @@ public:
     QImage Render(const QRectF& part, QSize deviceSize) const override;
 
 private:
-    std::unique_ptr<QSvgRenderer> mRenderer;
+    QSvgRenderer& Renderer() const;
+
+    QByteArray mSvg;
     Size mSize;
+    mutable std::unique_ptr<QSvgRenderer> mRenderer;
 };
 
 } // namespace zqbchwcx::qt
