@@ -227,10 +227,11 @@ void FileCommands::AnswerForeignChange(FileChange change)
                             : tr("“%1” was changed by another program.").arg(title),
                     QMessageBox::NoButton, &moWindow);
     if (!missing && moDocument->IsModified()) box.setInformativeText(tr("Reloading drops your unsaved changes."));
-    const QPushButton* reload = missing ? nullptr : box.addButton(tr("Reload"), QMessageBox::DestructiveRole);
+    QPushButton* reload = missing ? nullptr : box.addButton(tr("Reload"), QMessageBox::DestructiveRole);
     QPushButton* keep = box.addButton(tr("Keep mine"), QMessageBox::RejectRole);
     const QPushButton* elsewhere = box.addButton(tr("Save as…"), QMessageBox::AcceptRole);
     box.setEscapeButton(keep);
+    box.setDefaultButton(reload && !moDocument->IsModified() ? reload : keep);
     box.exec();
     if (reload && box.clickedButton() == reload) {
         try {

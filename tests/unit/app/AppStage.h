@@ -7,6 +7,7 @@
 
 #include <QFile>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -22,6 +23,8 @@ class AppStage : public ::testing::Test {
 protected:
     AppStage() : settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat), services(settings)
     {
+        // Journals of a test must not be offered to whoever runs it.
+        QStandardPaths::setTestModeEnabled(true);
         services.ShowLanguage(zqbchwcx::reference::Language::English);
     }
 

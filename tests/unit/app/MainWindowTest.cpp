@@ -1,0 +1,144 @@
+#include "tests/unit/app/AppStage.h"
+
+#include "app/window/MainWindow.h"
+#include "app/window/StationView.h"
+#include "app/window/StatusLine.h"
+#include "foundation/PlacePosition.h"
+#include "selection/VxHWSelectionHandler.h"
+
+#include <QCoreApplication>
+#include <QDockWidget>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+
+namespace quillon_ed {
+namespace {
+
+using zqbchwcx::reference::Language;
+
+class MainWindowTest : public testing::AppStage {
+protected:
+    MainWindowTest() : window(std::make_unique<MainWindow>(services)) {}
+
+    QAction* Action(const char* text) const
+    {
+        for (auto* action : window->findChildren<QMenu*>()) {
+            for (auto* item : action->actions()) {
+                if (item->text().remove(u'&') == QString::fromUtf8(text)) return item;
+            }
+        }
+        return nullptr;
+    }
+    bool IsEnabled(const char* text) const
+    {
+        const QAction* action = Action(text);
+        EXPECT_TRUE(action) << text;
+        return action && action->isEnabled();
+    }
+    QStringList StatusTexts() const
+    {
+        QStringList texts;
+        for (auto* label : window->statusBar()->findChildren<QLabel*>()) texts << label->text();
+        return texts;
+    }
+    void Open(const char* resource = testing::Waterworks)
+    {
+        window->Files().OpenExample(QString::fromLatin1(resource));
+    }
+
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(MainWindowTest, OffersOnlyWhatCanBeDone)
+{
+    for (const char* text : {"Save", "Undo", "Cut", "Copy", "Paste", "Delete", "Print…"}) {
+        EXPECT_FALSE(IsEnabled(text)) << text;
+    }
+    EXPECT_TRUE(IsEnabled("New station…"));
+    Open();
+    for (const char* text : {"Cut", "Copy", "Delete", "Parameters…", "Print…"}) EXPECT_TRUE(IsEnabled(text)) << text;
+    EXPECT_FALSE(IsEnabled("Undo"));
+    Action("Delete")->trigger();
+    EXPECT_TRUE(IsEnabled("Undo delete"));
+    EXPECT_FALSE(IsEnabled("Delete")) << "the selected place is empty now";
+    EXPECT_TRUE(window->isWindowModified());
+    Action("Undo delete")->trigger();
+    EXPECT_TRUE(IsEnabled("Redo delete"));
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, PasteFollowsTheClipboardAndTheFocus)
+{
+    Open();
+    auto* view = window->findChild<StationView*>();
+    view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 4));
+    Action("Select all of the rack")->trigger();
+    Action("Copy")->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(IsEnabled("Paste")) << "every place is occupied";
+    Action("Delete")->trigger();
+    view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 1));
+    EXPECT_TRUE(IsEnabled("Paste"));
+    Action("Paste")->trigger();
+    EXPECT_TRUE(IsEnabled("Undo paste"));
+}
+
+TEST_F(MainWindowTest, SpeaksTheLanguageThatIsChosenWhileItRuns)
+{
+    Open();
+    Action("Delete")->trigger();
+    Action("Deutsch")->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(IsEnabled("Speichern"));
+    EXPECT_EQ(window->menuBar()->actions().front()->text(), QStringLiteral("&Datei"));
+    EXPECT_TRUE(StatusTexts().contains(QStringLiteral("Träger 0 · Platz 1 · leer")))
+        << StatusTexts().join(u'|').toStdString();
+    EXPECT_TRUE(StatusTexts().contains(QStringLiteral("1 Platz ausgewählt")));
+    EXPECT_EQ(window->findChild<QDockWidget*>(QStringLiteral("catalogueDock"))->windowTitle(),
+              QStringLiteral("Katalog"));
+    EXPECT_EQ(services.Text(6100), QStringLiteral("Freier Platz: Baugruppe hierher ziehen"));
+    Action("English")->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(StatusTexts().contains(QStringLiteral("1 place selected")));
+}
+
+TEST_F(MainWindowTest, OpensAFileThatIsDroppedAnywhereOnIt)
+{
+    const QString path = Path("dropped.station.json");
+    OpenExample()->Save(path);
+    QMimeData mime;
+    mime.setUrls({QUrl::fromLocalFile(path)});
+    for (const bool onView : {false, true}) {
+        Open(":/examples/packaging-line.station.json");
+        QWidget* target = window.get();
+        if (onView) target = window->findChild<StationView*>();
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(target, &drop);
+        EXPECT_TRUE(drop.isAccepted());
+        EXPECT_TRUE(window->Files().Current()->FileName().isEmpty()) << "the drop has to end first";
+        for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents();
+        EXPECT_EQ(window->Files().Current()->FileName(), path);
+    }
+}
+
+TEST_F(MainWindowTest, AReadOnlyStationOffersNoChange)
+{
+    for (const QString& example : ShippedExamples()) {
+        const auto document = OpenExample(example.toLatin1().constData());
+        if (!document->Station()->IsReadOnly()) continue;
+        Open(example.toLatin1().constData());
+        for (const char* text : {"Cut", "Paste", "Delete"}) EXPECT_FALSE(IsEnabled(text)) << example.toStdString();
+        EXPECT_TRUE(StatusTexts().contains(QStringLiteral("Read-only")));
+        return;
+    }
+    FAIL() << "there is no read-only example";
+}
+
+} // namespace
+} // namespace quillon_ed
