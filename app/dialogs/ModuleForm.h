@@ -37,7 +37,6 @@ public:
     /// The module as the form says it; what the form does not show stays as it was. Ask only a valid form.
     zqbchwcx::reference::ModuleData Result() const;
 
-public slots:
     /// Puts every parameter back to its default; name, comment and addresses stay.
     void Reset();
 

@@ -71,7 +71,7 @@ ValueInput MakeLine(const ParameterDefinition& definition, const QLocale& locale
 } // namespace
 
 ValueInput MakeValueInput(const ParameterDefinition& definition, Language language, const QLocale& locale,
-                          std::function<void()> changed)
+                          const std::function<void()>& changed)
 {
     ValueInput input;
     switch (definition.kind) {

@@ -19,6 +19,7 @@ struct ValueInput {
 
 /// A check box, a list or a text line, whichever suits the parameter. The definition outlives the input.
 ValueInput MakeValueInput(const zqbchwcx::reference::ParameterDefinition& definition,
-                          zqbchwcx::reference::Language language, const QLocale& locale, std::function<void()> changed);
+                          zqbchwcx::reference::Language language, const QLocale& locale,
+                          const std::function<void()>& changed);
 
 } // namespace quillon_ed

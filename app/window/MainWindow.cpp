@@ -46,10 +46,9 @@ const QString StateKey = QStringLiteral("Window/State");
 
 bool HasParamDialogInSelection(const VxHWSelectionHandler& handler)
 {
-    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
-        if (place->Module()->HasParamDialog()) return true;
-    }
-    return false;
+    bool found = false;
+    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) found = found || place->Module()->HasParamDialog();
+    return found;
 }
 
 /// The local files that a drag over the window carries.
@@ -129,7 +128,7 @@ void MainWindow::AddDocks()
 
 void MainWindow::ConnectFileActions()
 {
-    const auto on = [this](QAction& action, auto receiver, auto slot) {
+    const auto on = [](QAction& action, auto receiver, auto slot) {
         connect(&action, &QAction::triggered, receiver, slot);
     };
     on(moActions.fileNew, &moFiles, &FileCommands::New);
