@@ -17,7 +17,7 @@ public:
         : mlRowFirst(lRowFirst), mlRowLast(lRowLast), mlColumnFirst(lColumnFirst), mlColumnLast(lColumnLast)
     {
         if (lRowLast >= lRowFirst && lColumnLast >= lColumnFirst) {
-            mcolValues.resize(static_cast<std::size_t>(lRowLast - lRowFirst + 1) * columnCount());
+            mcolValues.resize((static_cast<std::size_t>(lRowLast - lRowFirst) + 1) * columnCount());
         }
     }
 
@@ -40,7 +40,7 @@ public:
     void Set(std::int32_t lRow, std::int32_t lColumn, T value) { mcolValues[index(lRow, lColumn)] = value; }
 
 private:
-    std::size_t columnCount() const { return static_cast<std::size_t>(mlColumnLast - mlColumnFirst + 1); }
+    std::size_t columnCount() const { return static_cast<std::size_t>(mlColumnLast - mlColumnFirst) + 1; }
     std::size_t index(std::int32_t lRow, std::int32_t lColumn) const
     {
         if (!Contains(lRow, lColumn)) throw VxError(vxErrorSubscript, "Subscript out of range");
