@@ -42,7 +42,7 @@ bool IsOwnKey(const QKeyEvent& event)
 /// own corner in the picture, in logical pixels.
 void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& control, QPoint offset)
 {
-    const auto children = control.children();
+    const auto& children = control.children();
     for (QObject* child : children) {
         auto* widget = qobject_cast<QWidget*>(child);
         if (widget == nullptr || widget->isHidden()) continue;

@@ -231,7 +231,7 @@ Catalogue LoadCatalogueDirectory(const std::string& directory)
 {
     std::vector<std::string> fileNames;
     for (const std::string& name : ListFiles(SystemFiles(), directory))
-        if (name.ends_with(".json")) fileNames.push_back(directory + "/" + name);
+        if (name.ends_with(".json")) fileNames.push_back(std::string(directory).append("/").append(name));
     if (fileNames.empty()) throw FileError(directory, "", "there is no catalogue file (*.json) in this directory");
     return LoadCatalogue(fileNames);
 }
