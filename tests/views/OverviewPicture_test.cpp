@@ -25,6 +25,8 @@ protected:
             oController->VxHWStation(station);
             oController->VxHWSelectionHandler(handler);
         }
+        handler->ShiftSelPosition(2);
+        handler->FocusPosition(2);
         dragDrop->AddSubscriber(view);
         Wire(*view);
         view->Refresh();
@@ -198,7 +200,7 @@ TEST_P(OverviewPictureTest, LooksAsDrawnFromScratchWhateverHappened)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, OverviewPictureTest, ::testing::Values(1U, 2U, std::random_device{}()));
+INSTANTIATE_TEST_SUITE_P(Seeds, OverviewPictureTest, ::testing::Values(1U, 121U, 228U));
 
 } // namespace
 } // namespace zqbchwcx::testing

@@ -142,7 +142,7 @@ void VxHWConfigCtrlDD::OLEDragDrop(std::int32_t lPosition, const DataObjectPtr& 
         const bool bCarriesModules = G_Require(moDragModules, "The drag modules").Count() > 0;
         if (bCarriesModules && IsGapOrPlace(G_PositionInfo(lPosition))) bDropped = DropAt(lPosition, nShift);
         else mlDropPosition = vxNoPosition;
-        if (!bDropped) SelHandler()->FocusPosition(mlFocusAtEnter);
+        if (!bDropped) RestoreFocus();
         P_State(vxDragDropStateInactive);
     });
     P_State(vxDragDropStateInactive);
@@ -277,7 +277,7 @@ bool VxHWConfigCtrlDD::IsMove(std::int16_t nShift) const
 void VxHWConfigCtrlDD::LeaveView()
 {
     mlDropPosition = vxNoPosition;
-    SelHandler()->FocusPosition(mlFocusAtEnter);
+    RestoreFocus();
     ForgetDropDecisions();
     moDragModules->Clear();
     // The state ends with the timer: the drag may be on its way into another view.
@@ -324,6 +324,11 @@ bool VxHWConfigCtrlDD::DropAt(std::int32_t lPosition, std::int16_t nShift)
     return true;
 }
 
+void VxHWConfigCtrlDD::RestoreFocus()
+{
+    if (mlFocusAtEnter) SelHandler()->FocusPosition(*mlFocusAtEnter);
+}
+
 void VxHWConfigCtrlDD::ForgetDropDecisions()
 {
     mcolCanBePlaced.clear();
@@ -334,7 +339,7 @@ void VxHWConfigCtrlDD::EndDrag()
 {
     ForgetDropDecisions();
     mlDropPosition = vxNoPosition;
-    mlFocusAtEnter = vxNoPosition;
+    mlFocusAtEnter.reset();
     mbDragSource = false;
 }
 

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -54,13 +55,15 @@ private:
     void MoveOver(std::int32_t lPosition, std::int16_t nShift);
     /// Puts the drag modules at the position and selects where they came to stand. Whether the place was allowed.
     bool DropAt(std::int32_t lPosition, std::int16_t nShift);
+    void RestoreFocus();
     void ForgetDropDecisions();
     void EndDrag();
 
     VxEnumDragDropStates meState = vxDragDropStateInactive;
     std::int32_t mlDropPosition = 0;
     /// Where the focus goes back to when the drag leaves or the drop is refused.
-    std::int32_t mlFocusAtEnter = vxNoPosition;
+    /// Nothing when no drag with modules entered: a drop then leaves the focus where it is.
+    std::optional<std::int32_t> mlFocusAtEnter;
     VxHWModulesPtr moDragModules;
     Array2D<std::int32_t> malPossibleDropPlaces;
     /// The drag started from this mode's selection.

@@ -159,11 +159,13 @@ TEST_F(ConfigDragDrop, EffectsDependOnTheSourceAndOnWhatItAllows)
 
 TEST_F(ConfigDragDrop, DataWithoutModulesIsRefusedEverywhere)
 {
+    FocusAndAnchor(4, 4);
     EXPECT_EQ(Over(8, vxDragEnter), vxDropEffectNone);
     EXPECT_EQ(Over(8), vxDropEffectNone);
     EXPECT_EQ(Over(8, vxDragLeave), vxDropEffectNone);
     EXPECT_EQ(Drop(8), vxDropEffectNone);
     EXPECT_EQ(dragDrop->State(), vxDragDropStateInactive);
+    EXPECT_EQ(Marks(), " | 4 | 4") << "a drag that never entered takes the focus away from nobody";
     EXPECT_THAT(TakeLines(), ElementsAre("IsDrawable False", "IsDrawable True"));
     EXPECT_EQ(station->Content(), "0/2=A");
 }
