@@ -2,20 +2,20 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QTimer>
 #include <QWidget>
 
 namespace quillon_ed::bench {
 
-/// Ends the program once the window has been painted.
+/// Ends the program once the watched widget has been painted.
 class QuitAfterPaint : public QObject {
 public:
-    explicit QuitAfterPaint(QWidget& window) { window.installEventFilter(this); }
+    void Watch(QWidget& widget) { widget.installEventFilter(this); }
 
 protected:
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
-        if (event->type() == QEvent::Paint) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+        // The loop ends when it has painted all of the window.
+        if (event->type() == QEvent::Paint) QCoreApplication::exit();
         return false;
     }
 };

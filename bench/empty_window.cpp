@@ -9,7 +9,8 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     QMainWindow window;
     window.resize(1000, 700);
-    const quillon_ed::bench::QuitAfterPaint quit(window);
+    quillon_ed::bench::QuitAfterPaint quit;
+    quit.Watch(window);
     window.show();
     return QApplication::exec();
 }

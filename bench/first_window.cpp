@@ -1,4 +1,5 @@
-// Starts as Quillon Ed does when it opens a station, and ends after the first picture with the station in it.
+// Starts as Quillon Ed does with a station, and ends after the first picture of its window, or of the station in it.
+// Usage: first_window STATION window|station
 
 #include "app/host/AppServices.h"
 #include "app/window/MainWindow.h"
@@ -16,9 +17,14 @@ int main(int argc, char** argv)
     QSettings settings(directory.filePath("settings.ini"), QSettings::IniFormat);
     AppServices services(settings);
     MainWindow window(services);
-    window.Files().OpenFile(QString::fromLocal8Bit(argv[1]));
     window.resize(1000, 700);
-    const bench::QuitAfterPaint quit(window);
-    window.show();
+    window.Start(QString::fromLocal8Bit(argv[1]));
+    bench::QuitAfterPaint quit;
+    if (std::string_view(argv[2]) == "window") {
+        quit.Watch(window);
+    } else {
+        // The page that shows the station is there when it has been opened.
+        QObject::connect(&window.Files(), &FileCommands::opened, &window, [&] { quit.Watch(*window.centralWidget()); });
+    }
     return QApplication::exec();
 }

@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QProcess>
 #include <QSettings>
-#include <QTimer>
 
 #include <iostream>
 
@@ -42,12 +41,7 @@ int OpenStations(const CommandLine& line)
         openOtherStations(line);
 
         MainWindow window(services);
-        window.show();
-        // Dialogs about files belong to a window that is there.
-        QTimer::singleShot(0, &window, [&] {
-            if (!line.files.empty()) window.Files().OpenFile(ToQString(line.files.front()));
-            window.Files().OfferRecovery(false);
-        });
+        window.Start(line.files.empty() ? QString() : ToQString(line.files.front()));
         return QApplication::exec();
     });
 }

@@ -28,11 +28,7 @@
     </message>
 </context>
 <context>
-    <name>quillon_ed::CatalogueDock</name>
-    <message>
-        <source>Catalogue</source>
-        <translation>Katalog</translation>
-    </message>
+    <name>quillon_ed::CataloguePanel</name>
     <message>
         <source>Search name, order number, description</source>
         <translation>Name, Bestellnummer, Beschreibung suchen</translation>
@@ -249,6 +245,10 @@
 </context>
 <context>
     <name>quillon_ed::MainWindow</name>
+    <message>
+        <source>Catalogue</source>
+        <translation>Katalog</translation>
+    </message>
     <message>
         <source>Clear this list</source>
         <translation>Liste leeren</translation>

@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="en">
 <context>
-    <name>quillon_ed::CatalogueDock</name>
+    <name>quillon_ed::CataloguePanel</name>
     <message numerus="yes">
         <source>%n module type(s)</source>
         <translation>

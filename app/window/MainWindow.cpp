@@ -1,12 +1,13 @@
 #include "app/window/MainWindow.h"
 
-#include "app/catalogue/CatalogueDock.h"
+#include "app/catalogue/CataloguePanel.h"
 #include "app/dialogs/AboutDialog.h"
 #include "app/dialogs/ShortcutsDialog.h"
 #include "app/document/SharedView.h"
 #include "app/host/ShippedData.h"
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
+#include "app/window/AfterFirstPaint.h"
 #include "app/window/EditParameters.h"
 #include "app/window/ExportCommands.h"
 #include "app/window/MessagesDock.h"
@@ -25,6 +26,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMimeData>
@@ -77,10 +79,12 @@ MainWindow::MainWindow(AppServices& services)
           },
           *this),
       moActions(*this), moPages(new QStackedWidget(this)),
-      moStartPage(new StartPage(moActions.fileNew, moActions.fileOpen, this)), moStatusLine(new StatusLine(this))
+      moStartPage(new StartPage(moActions.fileNew, moActions.fileOpen, this)),
+      moCatalogueDock(new QDockWidget(tr("Catalogue"), this)), moStatusLine(new StatusLine(this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     setWindowIcon(SvgIcon(QStringLiteral("quillon-ed")));
+    moPages->addWidget(new QWidget(moPages)); // before the start page or the first station
     moPages->addWidget(moStartPage);
     setCentralWidget(moPages);
     setStatusBar(moStatusLine);
@@ -98,8 +102,7 @@ MainWindow::MainWindow(AppServices& services)
     setAcceptDrops(true);
     // A station file may be dropped anywhere on the window, whatever lies there.
     qApp->installEventFilter(this);
-    ReadClipboard();
-    ShowDocument();
+    UpdateActions();
 }
 
 MainWindow::~MainWindow()
@@ -107,23 +110,50 @@ MainWindow::~MainWindow()
     CloseView();
 }
 
+void MainWindow::Start(const QString& file)
+{
+    show();
+    AfterFirstPaint(*this, [this, file] {
+        if (!file.isEmpty()) moFiles.OpenFile(file);
+        if (!moFiles.Current()) ShowDocument();
+        moFiles.OfferRecovery(false);
+    });
+}
+
 void MainWindow::AddDocks()
 {
-    moCatalogue = new CatalogueDock(
-        moServices.Catalogue(), moServices.Pictures(),
-        [this](const QString& orderNumber) {
-            Document* document = moFiles.Current();
-            return document ? ModuleDragData(*document->Station(), orderNumber) : nullptr;
-        },
-        this);
-    moCatalogue->UiLanguage(moServices.CurrentLanguage());
-    addDockWidget(Qt::RightDockWidgetArea, moCatalogue);
-    resizeDocks({moCatalogue}, {330}, Qt::Horizontal);
-    connect(moCatalogue, &CatalogueDock::insertRequested, this, &MainWindow::Insert);
+    moCatalogueDock->setObjectName(QStringLiteral("catalogueDock"));
+    addDockWidget(Qt::RightDockWidgetArea, moCatalogueDock);
+    resizeDocks({moCatalogueDock}, {330}, Qt::Horizontal);
 
     moMessages = new MessagesDock(moServices.Errors(), this);
     addDockWidget(Qt::BottomDockWidgetArea, moMessages);
     resizeDocks({moMessages}, {120}, Qt::Vertical);
+}
+
+void MainWindow::ShowCatalogue()
+{
+    if (!moCatalogue) {
+        moCatalogue = new CataloguePanel(
+            moServices.Catalogue(), moServices.Pictures(),
+            [this](const QString& orderNumber) {
+                Document* document = moFiles.Current();
+                return document ? ModuleDragData(*document->Station(), orderNumber) : nullptr;
+            },
+            moCatalogueDock);
+        moCatalogueDock->setWidget(moCatalogue);
+        connect(moCatalogue, &CataloguePanel::insertRequested, this, &MainWindow::Insert);
+    }
+    const Document* document = moFiles.Current();
+    moCatalogue->Show(document ? document->Station()->StationKind() : vxStationKindCentral,
+                      moServices.CurrentLanguage());
+}
+
+void MainWindow::FindInCatalogue()
+{
+    moCatalogueDock->show();
+    moCatalogueDock->raise();
+    if (moCatalogue) moCatalogue->FocusSearch();
 }
 
 void MainWindow::ConnectFileActions()
@@ -161,7 +191,7 @@ void MainWindow::ConnectEditActions()
     on(moActions.editDelete, [this] { moView->Manager().Delete(); });
     on(moActions.editParameters, [this] { moView->Manager().EditModuleParams(); });
     on(moActions.editSelectRack, [this] { SelectRack(); });
-    on(moActions.findInCatalogue, [this] { moCatalogue->FocusSearch(); });
+    on(moActions.findInCatalogue, [this] { FindInCatalogue(); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
         ReadClipboard();
         UpdateActions();
@@ -170,7 +200,7 @@ void MainWindow::ConnectEditActions()
 
 void MainWindow::ConnectViewActions()
 {
-    moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moCatalogue->toggleViewAction());
+    moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moCatalogueDock->toggleViewAction());
     moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moMessages->toggleViewAction());
     moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moActions.toolBar->toggleViewAction());
     moActions.viewMenu->insertSeparator(moActions.languageMenu->menuAction());
@@ -185,7 +215,8 @@ void MainWindow::ConnectViewActions()
 void MainWindow::RetranslateUi()
 {
     moActions.Retranslate();
-    moCatalogue->UiLanguage(moServices.CurrentLanguage());
+    moCatalogueDock->setWindowTitle(tr("Catalogue"));
+    if (moCatalogue) ShowCatalogue();
     FillRecentMenu();
     FillExamples();
     UpdateActions();
@@ -271,6 +302,7 @@ void MainWindow::CloseView()
 
 void MainWindow::ShowDocument()
 {
+    ShowCatalogue();
     if (Document* document = moFiles.Current()) {
         moView = new StationView(*document, this);
         moPages->addWidget(moView);
@@ -285,7 +317,6 @@ void MainWindow::ShowDocument()
         moRefused = document->Station()->Refused.Connect([this](const reference::Refusal& refusal) {
             moStatusLine->Tell(ToQString(refusal.text, moServices.CurrentLanguage()));
         });
-        moCatalogue->StationKind(document->Station()->StationKind());
         ReadClipboard();
         moView->FocusStation();
     } else {
@@ -314,7 +345,7 @@ void MainWindow::UpdateActions()
                             &moActions.editParameters, &moActions.editSelectRack}) {
         action->setEnabled(document != nullptr);
     }
-    moCatalogue->InsertEnabled(document && !document->Station()->IsReadOnly());
+    if (moCatalogue) moCatalogue->InsertEnabled(document && !document->Station()->IsReadOnly());
     moActions.NameUndo({}, {});
     if (!document) return;
     const Language language = moServices.CurrentLanguage();

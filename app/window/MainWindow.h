@@ -7,11 +7,12 @@
 
 #include <QMainWindow>
 
+class QDockWidget;
 class QStackedWidget;
 
 namespace quillon_ed {
 
-class CatalogueDock;
+class CataloguePanel;
 class MessagesDock;
 class StartPage;
 class StationExport;
@@ -27,6 +28,8 @@ public:
     explicit MainWindow(AppServices& services);
     ~MainWindow() override;
 
+    /// Shows the window at once, still empty, and opens the file, or the start page for none, when it has been painted.
+    void Start(const QString& file);
     FileCommands& Files() { return moFiles; }
 
 protected:
@@ -39,6 +42,8 @@ private:
     void ConnectEditActions();
     void ConnectViewActions();
     void AddDocks();
+    void ShowCatalogue();
+    void FindInCatalogue();
     void RetranslateUi();
     void FillRecentMenu();
     void FillExamples();
@@ -61,7 +66,8 @@ private:
     QStackedWidget* moPages;
     StartPage* moStartPage;
     StationView* moView = nullptr;
-    CatalogueDock* moCatalogue = nullptr;
+    QDockWidget* moCatalogueDock;
+    CataloguePanel* moCatalogue = nullptr; ///< none before there is a page to show it beside
     MessagesDock* moMessages = nullptr;
     StatusLine* moStatusLine;
     zqbchwcx::VxHWModulesPtr moClipboardModules;

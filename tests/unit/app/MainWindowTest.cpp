@@ -105,6 +105,18 @@ TEST_F(MainWindowTest, SpeaksTheLanguageThatIsChosenWhileItRuns)
     EXPECT_TRUE(StatusTexts().contains(QStringLiteral("1 place selected")));
 }
 
+TEST_F(MainWindowTest, OpensItsStationWhenItHasBeenPainted)
+{
+    const QString path = Path("first.station.json");
+    OpenExample()->Save(path);
+    window->Start(path);
+    EXPECT_FALSE(window->Files().Current()) << "the window comes first";
+    for (int turn = 0; turn < 100 && !window->Files().Current(); ++turn) QCoreApplication::processEvents();
+    ASSERT_TRUE(window->Files().Current());
+    EXPECT_EQ(window->Files().Current()->FileName(), path);
+    EXPECT_TRUE(window->findChild<StationView*>()->isVisible());
+}
+
 TEST_F(MainWindowTest, OpensAFileThatIsDroppedAnywhereOnIt)
 {
     const QString path = Path("dropped.station.json");

@@ -1,4 +1,4 @@
-#include "app/catalogue/CatalogueDock.h"
+#include "app/catalogue/CataloguePanel.h"
 
 #include "app/catalogue/CatalogueFilter.h"
 #include "app/catalogue/CatalogueTree.h"
@@ -24,9 +24,9 @@ constexpr double CardScale = 1.5;
 
 } // namespace
 
-CatalogueDock::CatalogueDock(const Catalogue& catalogue, ModulePictures& pictures, CatalogueModel::DragData dragData,
-                             QWidget* parent)
-    : QDockWidget(parent), moCatalogue(catalogue), moPictures(pictures),
+CataloguePanel::CataloguePanel(const Catalogue& catalogue, ModulePictures& pictures, CatalogueModel::DragData dragData,
+                               QWidget* parent)
+    : QWidget(parent), moCatalogue(catalogue), moPictures(pictures),
       moModel(new CatalogueModel(catalogue, std::move(dragData), this)), moFilter(new CatalogueFilter(this)),
       moSearch(new QLineEdit(this)), moCount(new QLabel(this)),
       moTree(new CatalogueTree(
@@ -37,7 +37,6 @@ CatalogueDock::CatalogueDock(const Catalogue& catalogue, ModulePictures& picture
           this)),
       moCard(new ModuleTypeCard(this)), moInsert(new QPushButton(this))
 {
-    setObjectName(QStringLiteral("catalogueDock"));
     moFilter->setSourceModel(moModel);
     moTree->setModel(moFilter);
     moSearch->setClearButtonEnabled(true);
@@ -58,69 +57,65 @@ CatalogueDock::CatalogueDock(const Catalogue& catalogue, ModulePictures& picture
     splitter->setSizes({420, 220});
     splitter->setChildrenCollapsible(false);
 
-    auto* content = new QWidget(this);
-    auto* column = new QVBoxLayout(content);
+    auto* column = new QVBoxLayout(this);
     column->setContentsMargins(6, 6, 6, 6);
     column->addWidget(moSearch);
     column->addWidget(moCount);
     column->addWidget(splitter, 1);
     column->addWidget(moInsert);
-    setWidget(content);
 
-    connect(moSearch, &QLineEdit::textChanged, this, &CatalogueDock::Search);
-    connect(moTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &CatalogueDock::ShowType);
+    connect(moSearch, &QLineEdit::textChanged, this, &CataloguePanel::Search);
+    connect(moTree->selectionModel(), &QItemSelectionModel::currentChanged, this, &CataloguePanel::ShowType);
     connect(moTree, &CatalogueTree::chosen, this, [this](const QString&) { Choose(); });
-    connect(moInsert, &QPushButton::clicked, this, &CatalogueDock::Choose);
+    connect(moInsert, &QPushButton::clicked, this, &CataloguePanel::Choose);
     RetranslateUi();
-    Fill();
 }
 
-void CatalogueDock::RetranslateUi()
+void CataloguePanel::RetranslateUi()
 {
-    setWindowTitle(tr("Catalogue"));
     moSearch->setPlaceholderText(tr("Search name, order number, description"));
     moSearch->setAccessibleName(tr("Search the catalogue"));
     moTree->setAccessibleName(tr("Module types"));
     moInsert->setText(tr("Insert at the focus"));
 }
 
-void CatalogueDock::StationKind(std::int32_t stationKind)
+void CataloguePanel::Show(std::int32_t stationKind, Language language)
 {
-    if (mlStationKind == stationKind) return;
+    if (mlStationKind == stationKind && meLanguage == language) return;
     mlStationKind = stationKind;
-    Fill();
-}
-
-void CatalogueDock::UiLanguage(Language language)
-{
-    if (meLanguage == language) return;
     meLanguage = language;
-    Fill();
+    const QString current = moTree->CurrentOrderNumber();
+    moModel->Fill(stationKind, language);
+    moTree->header()->setStretchLastSection(true);
+    moTree->header()->resizeSection(0, 190);
+    moTree->expandAll();
+    const auto found = moModel->match(moModel->index(0, 0), CatalogueModel::OrderNumberRole, current, 1,
+                                      Qt::MatchExactly | Qt::MatchRecursive);
+    if (!current.isEmpty() && !found.isEmpty()) moTree->setCurrentIndex(moFilter->mapFromSource(found.front()));
+    ShowCount();
+    ShowType();
 }
 
-void CatalogueDock::InsertEnabled(bool enabled)
+void CataloguePanel::InsertEnabled(bool enabled)
 {
     mbInsertEnabled = enabled;
     moInsert->setEnabled(enabled && !moTree->CurrentOrderNumber().isEmpty());
 }
 
-void CatalogueDock::FocusSearch()
+void CataloguePanel::FocusSearch()
 {
-    show();
-    raise();
     moSearch->setFocus(Qt::ShortcutFocusReason);
     moSearch->selectAll();
 }
 
-void CatalogueDock::changeEvent(QEvent* event)
+void CataloguePanel::changeEvent(QEvent* event)
 {
-    QDockWidget::changeEvent(event);
+    QWidget::changeEvent(event);
     if (event->type() != QEvent::LanguageChange) return;
     RetranslateUi();
-    Fill();
 }
 
-bool CatalogueDock::eventFilter(QObject* watched, QEvent* event)
+bool CataloguePanel::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == moSearch && event->type() == QEvent::KeyPress) {
         switch (static_cast<QKeyEvent*>(event)->key()) {
@@ -138,24 +133,10 @@ bool CatalogueDock::eventFilter(QObject* watched, QEvent* event)
             break;
         }
     }
-    return QDockWidget::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
 }
 
-void CatalogueDock::Fill()
-{
-    const QString current = moTree->CurrentOrderNumber();
-    moModel->Fill(mlStationKind, meLanguage);
-    moTree->header()->setStretchLastSection(true);
-    moTree->header()->resizeSection(0, 190);
-    moTree->expandAll();
-    const auto found = moModel->match(moModel->index(0, 0), CatalogueModel::OrderNumberRole, current, 1,
-                                      Qt::MatchExactly | Qt::MatchRecursive);
-    if (!current.isEmpty() && !found.isEmpty()) moTree->setCurrentIndex(moFilter->mapFromSource(found.front()));
-    ShowCount();
-    ShowType();
-}
-
-void CatalogueDock::Search()
+void CataloguePanel::Search()
 {
     moFilter->Search(moSearch->text());
     moTree->expandAll();
@@ -165,20 +146,20 @@ void CatalogueDock::Search()
     ShowCount();
 }
 
-void CatalogueDock::ShowCount()
+void CataloguePanel::ShowCount()
 {
     const int count = moFilter->TypeCount();
     moCount->setText(count == 0 ? tr("No module type matches") : tr("%n module type(s)", nullptr, count));
 }
 
-void CatalogueDock::ShowType()
+void CataloguePanel::ShowType()
 {
     const ModuleType* type = moCatalogue.Find(moTree->CurrentOrderNumber().toStdString());
     moCard->Show(type, type ? moPictures.Picture(*type, CardScale, devicePixelRatioF()) : QPixmap(), meLanguage);
     InsertEnabled(mbInsertEnabled);
 }
 
-void CatalogueDock::Choose()
+void CataloguePanel::Choose()
 {
     const QString orderNumber = moTree->CurrentOrderNumber();
     if (!orderNumber.isEmpty()) emit insertRequested(orderNumber);

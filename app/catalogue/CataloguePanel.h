@@ -4,7 +4,9 @@
 #include "app/host/ModulePictures.h"
 #include "reference/catalogue/Catalogue.h"
 
-#include <QDockWidget>
+#include <QWidget>
+
+#include <optional>
 
 class QLabel;
 class QLineEdit;
@@ -17,16 +19,15 @@ class CatalogueTree;
 class ModuleTypeCard;
 
 /// The catalogue of module types: a tree with search, and picture and facts of the selected type.
-class CatalogueDock : public QDockWidget {
+class CataloguePanel : public QWidget {
     Q_OBJECT
 
 public:
-    CatalogueDock(const zqbchwcx::reference::Catalogue& catalogue, ModulePictures& pictures,
-                  CatalogueModel::DragData dragData, QWidget* parent);
+    CataloguePanel(const zqbchwcx::reference::Catalogue& catalogue, ModulePictures& pictures,
+                   CatalogueModel::DragData dragData, QWidget* parent);
 
-    /// Shows the types that stations of that kind take.
-    void StationKind(std::int32_t stationKind);
-    void UiLanguage(zqbchwcx::reference::Language language);
+    /// Shows the types that stations of that kind take, named in that language.
+    void Show(std::int32_t stationKind, zqbchwcx::reference::Language language);
     /// Whether a type can be inserted now.
     void InsertEnabled(bool enabled);
     void FocusSearch();
@@ -41,7 +42,6 @@ protected:
 
 private:
     void RetranslateUi();
-    void Fill();
     void Search();
     void ShowCount();
     void ShowType();
@@ -49,7 +49,7 @@ private:
 
     const zqbchwcx::reference::Catalogue& moCatalogue;
     ModulePictures& moPictures;
-    std::int32_t mlStationKind = 0;
+    std::optional<std::int32_t> mlStationKind; ///< of the types in the tree
     zqbchwcx::reference::Language meLanguage = zqbchwcx::reference::Language::English;
     CatalogueModel* moModel;
     CatalogueFilter* moFilter;
