@@ -1,11 +1,14 @@
 #include "reference/files/StationReader.h"
 
+#include "reference/json/FileError.h"
 #include "reference/json/JsonCursor.h"
 #include "reference/json/ModuleJson.h"
 #include "reference/json/StationNames.h"
 
 #include <memory>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace zqbchwcx::reference {
 namespace {
@@ -54,11 +57,42 @@ RackDataPtr ReadRack(const JsonCursor& cursor, const Catalogue& catalogue)
     return rack;
 }
 
+/// Reads the racks one by one as they come. What is wrong with one is told when all that stands above the racks has
+/// been found in order.
+class RackTaker {
+public:
+    explicit RackTaker(const Catalogue& catalogue) : moCatalogue(catalogue) {}
+
+    void Take(const JsonCursor& cursor)
+    {
+        if (moError || mcolRacks.size() == MaxRacks) return;
+        try {
+            mcolRacks.push_back(ReadRack(cursor, moCatalogue));
+        } catch (const FileError& error) {
+            moError = error;
+        }
+    }
+
+    std::vector<RackDataPtr> Racks()
+    {
+        if (moError) throw FileError(*moError);
+        return std::move(mcolRacks);
+    }
+
+private:
+    const Catalogue& moCatalogue;
+    std::vector<RackDataPtr> mcolRacks;
+    std::optional<FileError> moError;
+};
+
 } // namespace
 
 StationData ParseStation(std::string_view text, std::string_view fileName, const Catalogue& catalogue)
 {
-    const JsonDocument document = ParseStrictJson(text, fileName, {LargestStationFile, DeepestNesting});
+    RackTaker racks(catalogue);
+    const JsonDocument document = ParseStrictJson(
+        text, fileName, {LargestStationFile, DeepestNesting},
+        {"racks", [&](const JsonDocument& whole, const nlohmann::json& rack) { racks.Take(JsonCursor(whole, rack)); }});
     const JsonCursor file(document);
     ReadFormatVersion(file, StationFormat, StationFormatVersion);
     file.AllowMembers({"$schema", "format", "version", "name", "kind", "displayMode", "readOnly", "racks"});
@@ -69,9 +103,9 @@ StationData ParseStation(std::string_view text, std::string_view fileName, const
     station.kind = file.Member("kind").Named(StationKindNames);
     if (const auto mode = file.OptionalMember("displayMode")) station.displayMode = mode->Integer32(0, 2);
     if (const auto readOnly = file.OptionalMember("readOnly")) station.readOnly = readOnly->Boolean();
-    const JsonCursor racks = file.Member("racks");
-    for (const JsonCursor& rack : racks.Elements(MaxRacks)) station.racks.push_back(ReadRack(rack, catalogue));
-    if (station.racks.empty()) racks.Fail("a station has at least one rack");
+    const JsonCursor list = file.Member("racks");
+    if (list.Elements(MaxRacks).empty()) list.Fail("a station has at least one rack");
+    station.racks = racks.Racks();
     return station;
 }
 

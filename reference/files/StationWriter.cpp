@@ -7,6 +7,7 @@
 #include "reference/json/ModuleJson.h"
 #include "reference/json/StationNames.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 
@@ -33,17 +34,14 @@ Json RackToJson(const RackData& rack)
     return json;
 }
 
-Json StationToJson(const StationData& station)
+Json HeadToJson(const StationData& station)
 {
-    Json json = {{"format", StationFormat},
-                 {"version", StationFormatVersion},
-                 {"name", station.name},
-                 {"kind", NameOf(station.kind, StationKindNames)},
-                 {"displayMode", station.displayMode},
-                 {"readOnly", station.readOnly},
-                 {"racks", Json::array()}};
-    for (const RackDataPtr& rack : station.racks) json["racks"].push_back(rack ? RackToJson(*rack) : Json());
-    return json;
+    return {{"format", StationFormat},
+            {"version", StationFormatVersion},
+            {"name", station.name},
+            {"kind", NameOf(station.kind, StationKindNames)},
+            {"displayMode", station.displayMode},
+            {"readOnly", station.readOnly}};
 }
 
 bool IsUtf8(const std::string& text)
@@ -68,21 +66,49 @@ std::optional<std::string> FindBrokenText(const Json& value, const std::string& 
     return std::nullopt;
 }
 
-std::string Dump(const Json& json, std::string_view fileName)
+constexpr int Indentation = 2;
+
+std::string Dump(const Json& json, const std::string& pointer, std::string_view fileName)
 {
-    constexpr int indentation = 2;
     try {
-        return json.dump(indentation) + "\n";
+        return json.dump(Indentation);
     } catch (const Json::type_error&) {
-        throw FileError(std::string(fileName), FindBrokenText(json, "").value_or(""), "the text is not valid UTF-8");
+        throw FileError(std::string(fileName), FindBrokenText(json, pointer).value_or(pointer),
+                        "the text is not valid UTF-8");
     }
+}
+
+void AppendIndented(std::string_view lines, std::size_t indentation, std::string& text)
+{
+    for (std::size_t start = 0; start < lines.size();) {
+        const std::size_t end = std::min(lines.find('\n', start), lines.size() - 1) + 1;
+        text.append(indentation, ' ').append(lines.substr(start, end - start));
+        start = end;
+    }
+}
+
+/// The racks one by one: a large station is never held whole as JSON.
+std::string StationText(const StationData& station, std::string_view fileName)
+{
+    std::string text = Dump(HeadToJson(station), "", fileName);
+    // The list of racks goes before the end of the object.
+    text.resize(text.size() - std::string_view("\n}").size());
+    text += ",\n  \"racks\": [";
+    for (std::size_t index = 0; index < station.racks.size(); ++index) {
+        const RackDataPtr& rack = station.racks[index];
+        text += index == 0 ? "\n" : ",\n";
+        AppendIndented(Dump(rack ? RackToJson(*rack) : Json(), "/racks/" + std::to_string(index), fileName),
+                       2 * Indentation, text);
+    }
+    text += "\n  ]\n}\n";
+    return text;
 }
 
 } // namespace
 
 std::string WriteStation(const StationData& station, std::string_view fileName)
 {
-    std::string text = Dump(StationToJson(station), fileName);
+    std::string text = StationText(station, fileName);
     // Reading it back proves, before anything is overwritten, that the file will open again. Which types the
     // catalogue knows does not matter to that.
     static_cast<void>(ParseStation(text, fileName, Catalogue()));

@@ -18,6 +18,8 @@ namespace zqbchwcx::reference {
 class JsonCursor {
 public:
     explicit JsonCursor(const JsonDocument& document) : JsonCursor(document, document.root) {}
+    /// A value inside the document.
+    JsonCursor(const JsonDocument& document, const nlohmann::json& value) : moDocument(&document), moValue(&value) {}
 
     [[noreturn]] void Fail(const std::string& reason) const;
 
@@ -59,8 +61,6 @@ public:
     }
 
 private:
-    JsonCursor(const JsonDocument& document, const nlohmann::json& value) : moDocument(&document), moValue(&value) {}
-
     const std::string& StringValue() const;
     void RequireObject() const;
 

@@ -26,7 +26,10 @@ std::string ReadableReason(std::string reason)
 /// knows at every moment where it is.
 class DocumentBuilder : public nlohmann::json_sax<nlohmann::json> {
 public:
-    DocumentBuilder(JsonDocument& document, const JsonLimits& limits) : moDocument(document), moLimits(limits) {}
+    DocumentBuilder(JsonDocument& document, const JsonLimits& limits, const ElementTaker& taker)
+        : moDocument(document), moLimits(limits), moTaker(taker)
+    {
+    }
 
     bool null() override { return Add(nullptr); }
     bool boolean(bool value) override { return Add(value); }
@@ -69,7 +72,7 @@ private:
     template <class Value>
     bool Add(Value&& value)
     {
-        Insert(std::forward<Value>(value));
+        Take(*Insert(std::forward<Value>(value)));
         return true;
     }
 
@@ -83,8 +86,21 @@ private:
 
     bool Close()
     {
+        nlohmann::json& closed = *mcolOpen.back();
         mcolOpen.pop_back();
+        Take(closed);
         return true;
+    }
+
+    void Take(nlohmann::json& element)
+    {
+        constexpr std::size_t inArrayOfRoot = 2;
+        if (!moTaker.take || mcolOpen.size() != inArrayOfRoot || !mcolOpen.back()->is_array()) return;
+        const nlohmann::json& root = moDocument.root;
+        const auto array = root.is_object() ? root.find(moTaker.array) : root.end();
+        if (array == root.end() || &*array != mcolOpen.back()) return;
+        moTaker.take(moDocument, element);
+        element = nullptr;
     }
 
     std::string Pointer() const
@@ -96,20 +112,22 @@ private:
 
     JsonDocument& moDocument;
     const JsonLimits& moLimits;
+    const ElementTaker& moTaker;
     std::vector<nlohmann::json*> mcolOpen;
     std::string msKey;
 };
 
 } // namespace
 
-JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, const JsonLimits& limits)
+JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, const JsonLimits& limits,
+                             const ElementTaker& taker)
 {
     JsonDocument document{std::string(fileName), nullptr};
     if (text.size() > limits.bytes)
         throw FileError(document.fileName, "",
                         "the text has " + std::to_string(text.size()) + " bytes; " + std::to_string(limits.bytes) +
                             " are the most that is read");
-    DocumentBuilder builder(document, limits);
+    DocumentBuilder builder(document, limits, taker);
     nlohmann::json::sax_parse(text, &builder);
     return document;
 }

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -20,8 +21,16 @@ struct JsonDocument {
     nlohmann::json root;
 };
 
+/// Takes the elements of an array while the text is still being read, so that a long one is never held whole: an
+/// element is in the document while it is taken, and null from then on.
+struct ElementTaker {
+    std::string_view array; ///< the root object's member
+    std::function<void(const JsonDocument& document, const nlohmann::json& element)> take;
+};
+
 /// Reads exactly one JSON value. Throws FileError for text that is not JSON (with line and column), for a member that
 /// stands twice in an object (with its pointer), and for text that goes beyond the limits.
-JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, const JsonLimits& limits = {});
+JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, const JsonLimits& limits = {},
+                             const ElementTaker& taker = {});
 
 } // namespace zqbchwcx::reference

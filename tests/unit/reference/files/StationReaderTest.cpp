@@ -50,6 +50,7 @@ TEST(StationReader, RefusesWhatIsNotExactlyAStation)
         {"racks as an object", "/racks", "{}", "/racks", "must be an array"},
         {"no racks", "/racks", "[]", "/racks", "at least one rack"},
         {"rack as a number", "/racks/0", "5", "/racks/0", "must be an object"},
+        {"rack as nothing", "/racks/0", "null", "/racks/0", "must be an object"},
         {"no places", "/racks/0/placeCount", "0", "/racks/0/placeCount", "from 1 to 499"},
         {"too many places", "/racks/0/placeCount", "500", "/racks/0/placeCount", "from 1 to 499"},
         {"place out of range", "/racks/0/places/2/place", "12", "/racks/0/places/2/place", "from 1 to 11"},
@@ -111,6 +112,11 @@ TEST(StationReader, RefusesDamagedAndHostileJson)
     ordered_json longText = ValidStation();
     longText["name"] = std::string(MaxTextBytes + 1, 'x');
     EXPECT_EQ(ParseError(longText.dump()).pointer, "/name");
+
+    ordered_json secondBroken = ValidStation();
+    secondBroken["racks"].push_back({{"placeCount", 4}, {"places", "none"}});
+    EXPECT_EQ(ParseError(secondBroken.dump()).pointer, "/racks/1/places");
+    EXPECT_EQ(ParseError(R"({"racks": [5], "format": "other"})").pointer, "/format") << "another file altogether";
 
     // Whatever is cut off, it is refused and never half read.
     for (std::size_t length = 0; length < valid.size(); length += 7)
