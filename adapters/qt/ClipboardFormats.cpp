@@ -36,7 +36,7 @@ QString ClipboardMimeType(std::int16_t nFormat)
 
 QString RequiredMimeType(std::int16_t nFormat)
 {
-    const QString type = ClipboardMimeType(nFormat);
+    QString type = ClipboardMimeType(nFormat);
     if (type.isEmpty())
         throw VxError(vxErrorInvalidArgument, "There is no clipboard format " + std::to_string(nFormat));
     return type;

@@ -14,7 +14,7 @@
 namespace zqbchwcx::qt {
 namespace {
 
-constexpr qint64 LargestFile = 16 * 1024 * 1024;
+constexpr qint64 LargestFile = qint64{16} << 20;
 constexpr int LargestSide = 4096;
 constexpr double LargestScale = 4;
 

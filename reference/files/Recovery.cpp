@@ -37,7 +37,7 @@ std::vector<RecoverableJournal> FindRecoverable(const std::string& directory, Fi
     std::vector<RecoverableJournal> found;
     for (const std::string& name : ListFiles(files, directory)) {
         if (!name.ends_with(JournalSuffix)) continue;
-        const std::string journalFile = directory + "/" + name;
+        const std::string journalFile = std::string(directory).append("/").append(name);
         try {
             const auto lock = files.TryLock(JournalLockName(journalFile));
             if (!lock) continue;
