@@ -8,6 +8,7 @@
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
 #include "app/window/AfterFirstPaint.h"
+#include "app/window/DroppedFiles.h"
 #include "app/window/EditParameters.h"
 #include "app/window/ExportCommands.h"
 #include "app/window/MessagesDock.h"
@@ -27,9 +28,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QDropEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QTimer>
@@ -51,16 +50,6 @@ bool HasParamDialogInSelection(const VxHWSelectionHandler& handler)
     bool found = false;
     for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) found = found || place->Module()->HasParamDialog();
     return found;
-}
-
-/// The local files that a drag over the window carries.
-QStringList FilesOf(const QMimeData* data)
-{
-    QStringList files;
-    for (const QUrl& url : data->urls()) {
-        if (url.isLocalFile()) files << url.toLocalFile();
-    }
-    return files;
 }
 
 QString InSentence(const QString& step, Language language)
@@ -99,9 +88,7 @@ MainWindow::MainWindow(AppServices& services)
     restoreGeometry(services.Settings().value(GeometryKey).toByteArray());
     restoreState(services.Settings().value(StateKey).toByteArray());
     moMessages->hide();
-    setAcceptDrops(true);
-    // A station file may be dropped anywhere on the window, whatever lies there.
-    qApp->installEventFilter(this);
+    OpenDroppedFiles(*this, [this](const QString& file) { moFiles.OpenFile(file); });
     UpdateActions();
 }
 
@@ -241,29 +228,6 @@ void MainWindow::closeEvent(QCloseEvent* event)
     moServices.Settings().setValue(GeometryKey, saveGeometry());
     moServices.Settings().setValue(StateKey, saveState());
     event->accept();
-}
-
-bool MainWindow::eventFilter(QObject* watched, QEvent* event)
-{
-    const bool isDrag = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
-    if (!isDrag && event->type() != QEvent::Drop) return QMainWindow::eventFilter(watched, event);
-    const auto* widget = qobject_cast<QWidget*>(watched);
-    auto* drop = static_cast<QDropEvent*>(event);
-    if (!widget || widget->window() != this || !drop->mimeData()->hasUrls()) {
-        return QMainWindow::eventFilter(watched, event);
-    }
-    const QStringList files = FilesOf(drop->mimeData());
-    if (files.isEmpty()) return QMainWindow::eventFilter(watched, event);
-    drop->setDropAction(Qt::CopyAction);
-    drop->accept();
-    if (event->type() == QEvent::Drop) {
-        // The program that the file comes from waits until the drop is over.
-        QTimer::singleShot(0, this, [this, file = files.front()] {
-            activateWindow();
-            moFiles.OpenFile(file);
-        });
-    }
-    return true;
 }
 
 void MainWindow::FillRecentMenu()
