@@ -49,11 +49,8 @@ void AddPlaceTexts(QStringList& parts, const VxHWRackPlace& place)
 QString AddressText(const VxHWModule& module)
 {
     QStringList parts;
-    const auto range = [](const std::string& text) {
-        return ToQString(text).replace(QStringLiteral(".."), QStringLiteral("…"));
-    };
-    const QString input = range(module.InputAddressText());
-    const QString output = range(module.OutputAddressText());
+    const QString input = ToQString(module.InputAddressText());
+    const QString output = ToQString(module.OutputAddressText());
     if (!input.isEmpty()) parts << PositionTexts::tr("I %1").arg(input);
     if (!output.isEmpty()) parts << PositionTexts::tr("O %1").arg(output);
     return parts.join(Dot);
