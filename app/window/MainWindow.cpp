@@ -101,8 +101,11 @@ void MainWindow::Start(const QString& file)
 {
     show();
     AfterFirstPaint(*this, [this, file] {
+        // Comes too while a message tells why the file cannot be opened.
+        QTimer::singleShot(0, this, [this] {
+            if (!moFiles.Current()) ShowDocument();
+        });
         if (!file.isEmpty()) moFiles.OpenFile(file);
-        if (!moFiles.Current()) ShowDocument();
         moFiles.OfferRecovery(false);
     });
 }
