@@ -6,7 +6,6 @@
 #include <QGuiApplication>
 #include <QString>
 
-#include <array>
 #include <cmath>
 
 namespace zqbchwcx::qt {
@@ -14,19 +13,16 @@ namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72.0;
 
+/// Only the regular cut: the bold one of this free font has the stems of the regular one, and is no bolder than it.
+/// Qt makes a bold one that is.
 bool LoadTahoma()
 {
-    bool bLoaded = false;
-    for (const char* file : {"tahoma.ttf", "tahomabd.ttf"}) {
-        for (const char* directory :
-             {"/usr/share/wine/fonts/", "/usr/share/fonts/truetype/wine/", "/usr/share/fonts/truetype/"}) {
-            const QString path = QString::fromLatin1(directory) + QString::fromLatin1(file);
-            if (!QFileInfo::exists(path)) continue;
-            bLoaded = QFontDatabase::addApplicationFont(path) >= 0 || bLoaded;
-            break;
-        }
+    for (const char* directory :
+         {"/usr/share/wine/fonts/", "/usr/share/fonts/truetype/wine/", "/usr/share/fonts/truetype/"}) {
+        const QString path = QString::fromLatin1(directory) + QStringLiteral("tahoma.ttf");
+        if (QFileInfo::exists(path)) return QFontDatabase::addApplicationFont(path) >= 0;
     }
-    return bLoaded;
+    return false;
 }
 
 bool IsAvailable(const QString& family)

@@ -93,6 +93,21 @@ TEST_P(DrawingAtRatio, anotherWeightOrColourOfATextLeavesNothingOfTheFirst)
     }
 }
 
+TEST_P(DrawingAtRatio, boldTextHasMoreInk)
+{
+    const auto inkOf = [&](FontWeight weight) {
+        PersistentPicture picture({90, 70}, GetParam());
+        picture.Font(qt::UiFont("Tahoma", 8.25));
+        picture.DrawCenteredText("0123456789", MakeRect(0, 0, 90, 13), weight, 0);
+        double ink = 0;
+        for (int y = 0; y < picture.Pixels().height(); ++y) {
+            for (int x = 0; x < picture.Pixels().width(); ++x) ink += 255 - qGray(picture.Pixels().pixel(x, y));
+        }
+        return ink;
+    };
+    EXPECT_GT(inkOf(FontWeight::Bold), 1.2 * inkOf(FontWeight::Regular));
+}
+
 TEST_P(DrawingAtRatio, linesIncludeBothEndsAndBoxesStayInside)
 {
     const qt::PixelGrid grid(GetParam());
