@@ -142,12 +142,11 @@ public:
 
     Reason Read()
     {
-        readCommand();
         bool optionsEnded = false;
         for (; mlNext < mcolArguments.size(); ++mlNext) {
             const std::string& argument = mcolArguments[mlNext];
             if (!optionsEnded && argument == "--") optionsEnded = true;
-            else if (optionsEnded || argument.size() < 2 || argument[0] != '-') line.files.push_back(argument);
+            else if (optionsEnded || argument.size() < 2 || argument[0] != '-') readWord(argument, !optionsEnded);
             else if (Reason reason = readOption(argument)) return reason;
         }
         return line.help || line.version ? Reason() : checkFiles();
@@ -156,15 +155,20 @@ public:
     CommandLine line;
 
 private:
-    void readCommand()
+    /// The first word is the command, also after options that every command has; the others are files.
+    void readWord(const std::string& word, bool mayBeCommand)
     {
-        if (mcolArguments.empty()) return;
-        const std::string& word = mcolArguments[0];
-        for (const CommandRule& rule : CommandRules) {
-            if (rule.word.empty() || rule.word != word) continue;
-            line.command = rule.command;
-            mlNext = 1;
+        const bool isFirst = mbFirstWord;
+        mbFirstWord = false;
+        if (isFirst && mayBeCommand) {
+            for (const CommandRule& rule : CommandRules) {
+                if (rule.word.empty() || rule.word != word) continue;
+                line.command = rule.command;
+                return;
+            }
+            mbMayBeMistyped = true;
         }
+        line.files.push_back(word);
     }
 
     /// "--name value", "--name=value", "-o value", "-ovalue".
@@ -238,12 +242,11 @@ private:
     /// A first word like "rendr" is rather a mistyped command than a file; "./rendr" opens a file of that name.
     Reason mistypedCommand() const
     {
-        if (line.command != Command::Open || line.files.empty()) return {};
+        if (!mbMayBeMistyped) return {};
         std::vector<std::string> words;
         for (const CommandRule& rule : CommandRules)
             if (!rule.word.empty()) words.emplace_back(rule.word);
         const std::string& first = line.files[0];
-        if (mcolArguments[0] != first) return {};
         const std::string meant = ClosestWord(first, words);
         if (meant.empty()) return {};
         return withHint({"unknown command '" + first + "'", "unbekannter Befehl '" + first + "'"}, meant);
@@ -251,6 +254,9 @@ private:
 
     const std::vector<std::string>& mcolArguments;
     std::size_t mlNext = 0;
+    bool mbFirstWord = true;
+    /// The first word is no command, but stands where one would.
+    bool mbMayBeMistyped = false;
 };
 
 } // namespace

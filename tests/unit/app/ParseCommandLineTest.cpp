@@ -49,6 +49,15 @@ TEST(ParseCommandLine, ReadsEverySpellingOfAnOptionWithAValue)
     }
 }
 
+TEST(ParseCommandLine, FindsTheCommandBehindOptionsOfEveryCommand)
+{
+    const CommandLine line = Understood({"--lang", "de", "check", "render"});
+    EXPECT_EQ(line.command, Command::Check);
+    EXPECT_EQ(line.files, Arguments{"render"});
+    EXPECT_EQ(Refusal({"--lang=de", "chekc", "s.json"}), "unknown command 'chekc'; did you mean 'check'?");
+    EXPECT_EQ(Understood({"a.json", "check"}).command, Command::Open);
+}
+
 TEST(ParseCommandLine, TakesNamesBehindTheDoubleDashAndTheLoneDashAsFiles)
 {
     EXPECT_EQ(Understood({"check", "-", "--", "--lang"}).files, (Arguments{"-", "--lang"}));
