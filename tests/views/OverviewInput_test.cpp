@@ -348,6 +348,12 @@ TEST_F(OverviewInputTest, TheKeyboardOpensTheMenuAtTheFocus)
     EXPECT_EQ(openedBy(2007, vxKeyF10, vxShiftMask), "at 83,125");
     EXPECT_EQ(openedBy(2000, vxKeyApps, 0), "at 22,128");
     EXPECT_EQ(openedBy(2008, vxKeyF10, 0), "");
+
+    // Shift is released before F10.
+    site.User().KeyDown(vxKeyF10, vxShiftMask);
+    site.User().KeyUp(vxKeyF10, 0);
+    EXPECT_EQ(Menu().shown.size(), 1U);
+    EXPECT_EQ(openedBy(2008, vxKeyF10, 0), "");
 }
 
 TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)

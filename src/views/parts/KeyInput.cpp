@@ -15,6 +15,7 @@ KeyInput::KeyInput(const ViewContext& context, PlaceMenu& menu, CursorTarget cur
 void KeyInput::KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept
 {
     G_Trap(mContext.className, "UserControl_KeyDown", [&] {
+        mbMenuKeyDown = nKeyCode == vxKeyF10 && (nShift & vxShiftMask) != 0;
         switch (nKeyCode) {
         case vxKeyLeft:
         case vxKeyUp:
@@ -41,8 +42,9 @@ void KeyInput::KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept
 void KeyInput::KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept
 {
     G_Trap(mContext.className, "UserControl_KeyUp", [&] {
-        const bool bMenuKey = nKeyCode == vxKeyApps || (nKeyCode == vxKeyF10 && (nShift & vxShiftMask) != 0);
-        if (bMenuKey) mMenu.P_OpenPopupMenu(true);
+        if (nKeyCode != vxKeyApps && nKeyCode != vxKeyF10) return;
+        const bool bWithShift = std::exchange(mbMenuKeyDown, false) || (nShift & vxShiftMask) != 0;
+        if (nKeyCode == vxKeyApps || bWithShift) mMenu.P_OpenPopupMenu(true);
     });
 }
 

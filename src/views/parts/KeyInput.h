@@ -27,6 +27,8 @@ private:
     const ViewContext& mContext;
     PlaceMenu& mMenu;
     CursorTarget mCursorTarget;
+    /// Shift was held when F10 went down: whichever of the two is released first, the menu opens.
+    bool mbMenuKeyDown = false;
 };
 
 } // namespace zqbchwcx
