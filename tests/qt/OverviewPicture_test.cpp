@@ -52,7 +52,7 @@ public:
             station.RackChange.Raise(station.Rack(lRack));
             break;
         case 4:
-            station.Place(lRack, lPlace)->usability = Number(0, 1);
+            station.Place(lRack, lPlace)->usability = Number(-1, 1);
             station.RackPlaceChange.Raise(station.Place(lRack, lPlace));
             break;
         default:

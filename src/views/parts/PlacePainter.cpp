@@ -14,14 +14,7 @@ namespace zqbchwcx {
 namespace {
 
 constexpr Point NumberOffset{3, 33};
-// Hides the number of a place that was usable before; both edges of the 12 × 7 box belong to it.
-constexpr Rect BlankOutBox{3, 36, 16, 44};
 constexpr StatusSymbols::Offsets SymbolOffsets{{3, 3}, {3, 45}, {1, 43}};
-
-constexpr Rect Shifted(const Rect& rect, Point by)
-{
-    return {rect.left + by.x, rect.top + by.y, rect.right + by.x, rect.bottom + by.y};
-}
 
 /// A place picture at the end of the rail closes it.
 std::string PlaceKey(std::string_view key, std::int32_t lPlace)
@@ -73,11 +66,12 @@ PlacePainter::Look PlacePainter::LookOf(const VxHWRackPlacePtr& oPlace)
 
 void PlacePainter::DrawNumber(Surface& surface, const Look& look, std::int32_t lNumber, Point placeAt) const
 {
+    const Point at{placeAt.x + NumberOffset.x, placeAt.y + NumberOffset.y};
     if (look.bNumber) {
-        P_DrawNumber(mContext.className, surface, lNumber, {placeAt.x + NumberOffset.x, placeAt.y + NumberOffset.y},
-                     look.bGrayed ? NumberMode::Grayed : NumberMode::Plain);
+        P_DrawNumber(mContext.className, surface, lNumber, at, look.bGrayed ? NumberMode::Grayed : NumberMode::Plain);
     } else {
-        surface.FillBox(Shifted(BlankOutBox, placeAt), mContext.backColor);
+        // The whole box, however high the digits of the font are: the place may have shown a number before.
+        surface.FillBox(MakeRect(at.x, at.y, G_NumberBox.width, G_NumberBox.height), mContext.backColor);
     }
 }
 
