@@ -33,7 +33,8 @@ std::string ModulePictures::KeyOf(const VxHWModule& oModule, std::string_view de
     std::string key(defaultKey);
     G_Trap(msClassName, "P_GetModulePicName", [&] {
         std::string name = ToUpper(oModule.PictureName());
-        if (name.starts_with("IDB_") || List().Contains(name) || AddFile(name)) key = std::move(name);
+        // A built-in picture is never a file; one that the list lacks belongs to a module of another kind of station.
+        if (List().Contains(name) || (!name.starts_with("IDB_") && AddFile(name))) key = std::move(name);
     });
     return key;
 }
