@@ -1,8 +1,10 @@
 #include "app/document/Document.h"
 
 #include "app/host/Strings.h"
+#include "reference/files/AtomicWrite.h"
 #include "reference/files/StationReader.h"
 #include "reference/files/StationWriter.h"
+#include "reference/json/FileError.h"
 
 #include <QFileInfo>
 
@@ -10,9 +12,10 @@ namespace quillon_ed {
 
 using namespace zqbchwcx::reference;
 
-Document::Document(ModelContextPtr context, StationData data, JournalOrigin origin, StationServices services)
-    : moStation(
-          std::make_shared<zqbchwcx::reference::Station>(std::move(context), std::move(data), std::move(services))),
+Document::Document(ModelContextPtr context, StationData data, JournalOrigin origin, StationServices services,
+                   FileSystem& files)
+    : moFiles(files), moStation(std::make_shared<zqbchwcx::reference::Station>(std::move(context), std::move(data),
+                                                                               std::move(services))),
       moOrigin(std::move(origin))
 {
     HistoryServices asked;
@@ -75,25 +78,39 @@ void Document::MarkModified()
 void Document::Save(const QString& fileName)
 {
     const std::string path = fileName.toStdString();
-    const FileStamp stamp = SaveStation(moStation->Data(), path);
-    moOrigin = {path, stamp};
+    const std::string text = WriteStation(moStation->Data(), path);
+    try {
+        AtomicWrite(moFiles, path, text);
+        moOrigin = {path, MakeStamp(ReadStatus(moFiles, path), text)};
+    } catch (const FileError&) {
+        if (path == moOrigin.stationFile) RecogniseOwnFile(text);
+        throw;
+    }
     mbModifiedAnyway = false;
     moHistory->MarkSaved();
     emit changed();
 }
 
+void Document::RecogniseOwnFile(const std::string& text)
+{
+    try {
+        if (ReadFile(moFiles, moOrigin.stationFile, LargestStationFile) != text) return;
+        moOrigin.stamp = MakeStamp(ReadStatus(moFiles, moOrigin.stationFile), text);
+    } catch (const FileError&) { // NOLINT(bugprone-empty-catch): the failure of the save is the one to tell
+    }
+}
+
 FileChange Document::FileChange() const
 {
     if (moOrigin.stationFile.empty() || !moOrigin.stamp) return zqbchwcx::reference::FileChange::Unchanged;
-    return ChangeSince(*moOrigin.stamp, moOrigin.stationFile);
+    return ChangeSince(*moOrigin.stamp, moOrigin.stationFile, moFiles);
 }
 
 void Document::KeepOwnContent()
 {
     moOrigin.stamp.reset();
-    FileSystem& files = SystemFiles();
-    if (const auto status = ReadStatus(files, moOrigin.stationFile)) {
-        moOrigin.stamp = MakeStamp(status, ReadFile(files, moOrigin.stationFile, LargestStationFile));
+    if (const auto status = ReadStatus(moFiles, moOrigin.stationFile)) {
+        moOrigin.stamp = MakeStamp(status, ReadFile(moFiles, moOrigin.stationFile, LargestStationFile));
     }
     MarkModified();
 }

@@ -25,7 +25,8 @@ public:
 
     /// The origin's file is empty for a station that was never saved.
     Document(zqbchwcx::reference::ModelContextPtr context, zqbchwcx::reference::StationData data,
-             zqbchwcx::reference::JournalOrigin origin, zqbchwcx::reference::StationServices services);
+             zqbchwcx::reference::JournalOrigin origin, zqbchwcx::reference::StationServices services,
+             zqbchwcx::reference::FileSystem& files = zqbchwcx::reference::SystemFiles());
     ~Document() override;
 
     const zqbchwcx::reference::StationPtr& Station() const { return moStation; }
@@ -46,8 +47,8 @@ public:
 
     /// Counts as modified whatever the history says, as after a recovery.
     void MarkModified();
-    /// Writes the file and takes its name over. Throws FileError; the file that was there is then whole, and the
-    /// station stays modified.
+    /// Writes the file and takes its name over. Throws FileError; the file then has its old content or, when the
+    /// failure came last, the new one, and the station stays modified.
     void Save(const QString& fileName);
     /// What another program did to the file since it was read or written. Throws FileError.
     zqbchwcx::reference::FileChange FileChange() const;
@@ -62,7 +63,10 @@ signals:
 
 private:
     std::string EditName(zqbchwcx::reference::EditKind kind) const;
+    /// Knows the file again when a save failed only after its content had come into place.
+    void RecogniseOwnFile(const std::string& text);
 
+    zqbchwcx::reference::FileSystem& moFiles;
     zqbchwcx::reference::StationPtr moStation;
     zqbchwcx::reference::JournalOrigin moOrigin;
     View moView;

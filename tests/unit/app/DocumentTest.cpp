@@ -6,7 +6,9 @@
 #include "reference/files/Recovery.h"
 #include "reference/json/FileError.h"
 #include "reference/model/rules/CheckStation.h"
+#include "tests/unit/reference/files/FaultyFiles.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace quillon_ed {
@@ -51,6 +53,33 @@ TEST_F(DocumentTest, AFailedSaveKeepsNameContentAndMark)
     EXPECT_THROW(document->Save(Path("no such folder") + QStringLiteral("/a.station.json")), FileError);
     EXPECT_EQ(document->FileName(), path);
     EXPECT_TRUE(document->IsModified());
+}
+
+TEST_F(DocumentTest, AnyFailingCallOfASaveLeavesAWholeFileAndAStationThatCanBeSaved)
+{
+    const auto onDisk = [&] { return LoadStation(path.toStdString(), services.Catalogue()).data; };
+    bool failed = true;
+    for (int call = 1; failed; ++call) {
+        FaultyFiles files(call);
+        auto loaded = LoadStation(path.toStdString(), services.Catalogue());
+        const StationData before = loaded.data;
+        Document faulty(services.Context(), std::move(loaded.data), {path.toStdString(), loaded.stamp}, {}, files);
+        ASSERT_TRUE(SetComment(faulty, Input, "changed before call " + std::to_string(call)));
+        try {
+            faulty.Save(path);
+            failed = false;
+            EXPECT_GT(call, 8) << "too few calls to have been a save";
+        } catch (const FileError& error) {
+            EXPECT_EQ(error.fileName, path.toStdString());
+            EXPECT_TRUE(faulty.IsModified());
+            EXPECT_TRUE(SameStation(onDisk(), before) || SameStation(onDisk(), faulty.Station()->Data()));
+            EXPECT_EQ(faulty.FileChange(), FileChange::Unchanged) << "its own save is no change by another program";
+            faulty.Save(path);
+        }
+        EXPECT_FALSE(faulty.IsModified());
+        EXPECT_TRUE(SameStation(onDisk(), faulty.Station()->Data()));
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).filter(QStringLiteral(".tmp")).size(), 0);
+    }
 }
 
 TEST_F(DocumentTest, NoticesWhatAnotherProgramDidToTheFile)
