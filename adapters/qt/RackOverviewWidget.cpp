@@ -4,6 +4,7 @@
 #include "adapters/qt/QtUserControl.h"
 #include "views/config/VxHWRackOverview.h"
 
+#include <QEvent>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -52,8 +53,7 @@ struct RackOverviewWidget::Members {
 RackOverviewWidget::RackOverviewWidget(QWidget* parent) : QWidget(parent), m(std::make_unique<Members>(*this))
 {
     setObjectName(QStringLiteral("rackOverview"));
-    setAccessibleName(tr("Rack overview"));
-    setAccessibleDescription(tr("Racks of the station with their places and modules; the arrow keys move the focus"));
+    RetranslateUi();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMinimumSize(SmallestSize);
     resize(ComfortableSize);
@@ -97,6 +97,18 @@ QSize RackOverviewWidget::minimumSizeHint() const
 void RackOverviewWidget::resizeEvent(QResizeEvent* /*event*/)
 {
     m->window->ResizeNow(size());
+}
+
+void RackOverviewWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) RetranslateUi();
+}
+
+void RackOverviewWidget::RetranslateUi()
+{
+    setAccessibleName(tr("Rack overview"));
+    setAccessibleDescription(tr("Racks of the station with their places and modules; the arrow keys move the focus"));
 }
 
 } // namespace zqbchwcx::qt

@@ -40,8 +40,11 @@ signals:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void RetranslateUi();
+
     struct Members;
     std::unique_ptr<Members> m;
 };

@@ -250,6 +250,10 @@
         <translation>Katalog</translation>
     </message>
     <message>
+        <source>&amp;Catalogue</source>
+        <translation>&amp;Katalog</translation>
+    </message>
+    <message>
         <source>Clear this list</source>
         <translation>Liste leeren</translation>
     </message>
@@ -259,6 +263,10 @@
     <message>
         <source>Messages</source>
         <translation>Meldungen</translation>
+    </message>
+    <message>
+        <source>&amp;Messages</source>
+        <translation>&amp;Meldungen</translation>
     </message>
     <message>
         <source>Time</source>
@@ -818,6 +826,10 @@
     <message>
         <source>Toolbar</source>
         <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Toolbar</source>
+        <translation>&amp;Werkzeugleiste</translation>
     </message>
     <message>
         <source>&amp;New station…</source>

@@ -206,6 +206,7 @@ void MainWindow::RetranslateUi()
 {
     moActions.Retranslate();
     moCatalogueDock->setWindowTitle(tr("Catalogue"));
+    moCatalogueDock->toggleViewAction()->setText(tr("&Catalogue"));
     if (moCatalogue) ShowCatalogue();
     FillRecentMenu();
     FillExamples();

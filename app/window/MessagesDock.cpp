@@ -3,6 +3,7 @@
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
 
+#include <QAction>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -53,6 +54,7 @@ MessagesDock::MessagesDock(reference::ErrorLog& log, QWidget* parent)
 void MessagesDock::RetranslateUi()
 {
     setWindowTitle(tr("Messages"));
+    toggleViewAction()->setText(tr("&Messages"));
     moList->setAccessibleName(windowTitle());
     moList->setHeaderLabels({tr("Time"), tr("Message"), tr("Where")});
     moClear->setText(tr("Clear"));

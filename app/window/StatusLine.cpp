@@ -22,7 +22,6 @@ StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent), moFocus(new QLabel(this)), moSelection(new QLabel(this)), moReadOnly(new QLabel(this)),
       moMode(new QLabel(this))
 {
-    moFocus->setAccessibleName(tr("Focus"));
     moFocus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     moFocus->setContentsMargins(4, 0, 4, 0);
     addWidget(moFocus, 1);
@@ -34,6 +33,8 @@ StatusLine::StatusLine(QWidget* parent)
 
 void StatusLine::Show(const Document* document, const StationView* view)
 {
+    // Shown anew whenever the language changes, too.
+    moFocus->setAccessibleName(tr("Focus"));
     for (QLabel* label : {moFocus, moSelection, moReadOnly, moMode}) label->clear();
     if (document && view) G_Trap("StatusLine", "Show", [&] { ShowStates(*document, *view); });
     for (QLabel* label : {moSelection, moReadOnly, moMode}) label->setVisible(!label->text().isEmpty());

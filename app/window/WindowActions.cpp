@@ -2,6 +2,7 @@
 
 #include "app/host/SvgIcon.h"
 
+#include <QAction>
 #include <QActionGroup>
 #include <QCoreApplication>
 #include <QMenu>
@@ -123,6 +124,7 @@ void WindowActions::Retranslate()
     languageMenu->setTitle(ActionTexts::tr("&Language"));
     helpMenu->setTitle(ActionTexts::tr("&Help"));
     toolBar->setWindowTitle(ActionTexts::tr("Toolbar"));
+    toolBar->toggleViewAction()->setText(ActionTexts::tr("&Toolbar"));
 
     fileNew.setText(ActionTexts::tr("&New station…"));
     fileOpen.setText(ActionTexts::tr("&Open…"));

@@ -99,6 +99,12 @@ TEST_F(MainWindowTest, SpeaksTheLanguageThatIsChosenWhileItRuns)
     EXPECT_TRUE(StatusTexts().contains(QStringLiteral("1 Platz ausgewählt")));
     EXPECT_EQ(window->findChild<QDockWidget*>(QStringLiteral("catalogueDock"))->windowTitle(),
               QStringLiteral("Katalog"));
+    EXPECT_EQ(window->findChild<QWidget*>(QStringLiteral("rackOverview"))->accessibleName(),
+              QStringLiteral("Trägerübersicht"));
+    for (const QAction* menu : window->menuBar()->actions()) {
+        for (const QAction* action : menu->menu()->actions())
+            EXPECT_TRUE(action->isSeparator() || action->text().contains(u'&')) << action->text().toStdString();
+    }
     EXPECT_EQ(services.Text(6100), QStringLiteral("Freier Platz: Baugruppe hierher ziehen"));
     Action("English")->trigger();
     QCoreApplication::processEvents();
