@@ -1,5 +1,6 @@
 #include "app/commandline/OpenStations.h"
 
+#include "app/commandline/RunCommand.h"
 #include "app/commandline/TellErrors.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
@@ -34,7 +35,7 @@ void openOtherStations(const CommandLine& line)
 
 int OpenStations(const CommandLine& line)
 {
-    return TellErrors(std::cerr, [&] {
+    return TellErrors(std::cerr, LanguageOf(line), [&] {
         QSettings settings;
         AppServices services(settings);
         if (line.language) services.ShowLanguage(*line.language);

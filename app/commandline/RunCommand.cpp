@@ -24,7 +24,7 @@ int checkStations(const CommandLine& line, const CommandStreams& streams)
     int worst = ExitClean;
     for (const std::string& file : line.files) {
         // One bad file must not keep the others from being checked.
-        const int result = TellErrors(streams.err, [&] {
+        const int result = TellErrors(streams.err, LanguageOf(line), [&] {
             const StationData station = LoadStation(file, catalogue).data;
             const std::string report = WriteCheckReport(CheckStation(station, catalogue), file, LanguageOf(line));
             streams.out << report;
@@ -63,7 +63,7 @@ Language LanguageOf(const CommandLine& line)
 
 int RunCommand(const CommandLine& line, const CommandStreams& streams)
 {
-    return TellErrors(streams.err, [&] {
+    return TellErrors(streams.err, LanguageOf(line), [&] {
         switch (line.command) {
         case Command::Check:
             return checkStations(line, streams);

@@ -1,5 +1,6 @@
 #include "app/commandline/RunRender.h"
 
+#include "app/commandline/RunCommand.h"
 #include "app/commandline/TellErrors.h"
 #include "app/export/ExportOverview.h"
 #include "app/host/AppServices.h"
@@ -27,7 +28,7 @@ void tellReports(const ErrorLog& log, std::ostream& err)
 
 int RunRender(const CommandLine& line, const CommandStreams& streams)
 {
-    return TellErrors(streams.err, [&] {
+    return TellErrors(streams.err, LanguageOf(line), [&] {
         QSettings settings;
         AppServices services(settings);
         services.ShowLanguage(LanguageOf(line));
@@ -35,7 +36,8 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
         const std::string& file = line.files[0];
         StationData data = LoadStation(file, services.Catalogue()).data;
         if (data.kind != zqbchwcx::vxStationKindCentral)
-            throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed");
+            throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed",
+                            "die Übersicht zeigt zentrale Stationen, und diese ist dezentral");
         const PageHeader header{ToQString(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
         ExportOverview(std::make_shared<Station>(services.Context(), std::move(data)), header, line.scale,

@@ -2,6 +2,8 @@
 
 #include "app/commandline/CommandLine.h"
 
+#include "reference/json/FileError.h"
+
 #include <exception>
 #include <ostream>
 
@@ -9,10 +11,13 @@ namespace quillon_ed {
 
 /// Runs a command and returns its exit code. An error ends it and is told as "quillon-ed: FILE: POINTER: reason".
 template <class Body>
-int TellErrors(std::ostream& err, Body&& body)
+int TellErrors(std::ostream& err, zqbchwcx::reference::Language language, Body&& body)
 {
     try {
         return body();
+    } catch (const zqbchwcx::reference::FileError& error) {
+        err << "quillon-ed: " << error.Message(language) << '\n';
+        return ExitFile;
     } catch (const std::exception& error) {
         err << "quillon-ed: " << error.what() << '\n';
         return ExitFile;

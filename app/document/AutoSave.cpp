@@ -36,7 +36,7 @@ void AutoSave::Try(Step step)
         step();
         mbFailed = false;
     } catch (const FileError& error) {
-        if (!mbFailed) emit failed(QString::fromUtf8(error.what()));
+        if (!mbFailed) emit failed(error);
         mbFailed = true;
     }
 }

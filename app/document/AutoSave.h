@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference/files/Journal.h"
+#include "reference/json/FileError.h"
 
 #include <QObject>
 #include <QString>
@@ -31,7 +32,7 @@ public:
 
 signals:
     /// The journal cannot be written or removed; told once until it works again.
-    void failed(const QString& reason);
+    void failed(const zqbchwcx::reference::FileError& error);
 
 private:
     void OnChanged();

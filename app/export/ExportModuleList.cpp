@@ -35,7 +35,9 @@ void ExportModuleList(const StationData& station, const Catalogue& catalogue, La
                       const QString& fileName)
 {
     const auto format = formatOf(fileName);
-    if (!format) throw FileError(fileName.toStdString(), {}, "the name of a module list ends in .csv or .md");
+    if (!format)
+        throw FileError(fileName.toStdString(), {}, "the name of a module list ends in .csv or .md",
+                        "der Name einer Baugruppenliste endet auf .csv oder .md");
     const std::string list = WriteModuleList(ListModules(station, catalogue, language), *format, language);
     WriteBytes(fileName, QByteArray::fromStdString(list));
 }

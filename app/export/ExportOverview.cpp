@@ -76,7 +76,8 @@ void ExportOverview(const VxHWStationPtr& station, const PageHeader& header, dou
 {
     const auto format = PictureFormatOf(fileName);
     if (!format)
-        throw reference::FileError(fileName.toStdString(), {}, "the name of a picture ends in .png, .svg or .pdf");
+        throw reference::FileError(fileName.toStdString(), {}, "the name of a picture ends in .png, .svg or .pdf",
+                                   "der Name eines Bilds endet auf .png, .svg oder .pdf");
     switch (*format) {
     case PictureFormat::Png:
         return WriteBytes(fileName, PngOf(station, scale));

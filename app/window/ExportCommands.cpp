@@ -52,27 +52,27 @@ QString AskFileName(const Document& document, const QString& title, const QStrin
 }
 
 template <class Step>
-void TellFailure(QWidget* parent, const QString& what, Step step)
+void TellFailure(AppServices& services, QWidget* parent, const QString& what, Step step)
 {
     try {
         step();
     } catch (const reference::FileError& error) {
         QMessageBox box(QMessageBox::Critical, ExportTexts::tr("Quillon Ed"), what, QMessageBox::Close, parent);
-        box.setInformativeText(QString::fromUtf8(error.what()));
+        box.setInformativeText(ToQString(error.Message(services.CurrentLanguage())));
         box.exec();
     }
 }
 
 } // namespace
 
-void ExportPicture(AppServices&, const Document& document, QWidget* parent)
+void ExportPicture(AppServices& services, const Document& document, QWidget* parent)
 {
     const QString file = AskFileName(document, ExportTexts::tr("Export picture"),
                                      {ExportTexts::tr("Page (*.pdf)"), ExportTexts::tr("Picture (*.png)"),
                                       ExportTexts::tr("Vector picture (*.svg)")},
                                      parent);
     if (file.isEmpty()) return;
-    TellFailure(parent, ExportTexts::tr("The picture cannot be exported."),
+    TellFailure(services, parent, ExportTexts::tr("The picture cannot be exported."),
                 [&] { ExportOverview(document.Station(), HeaderOf(document), PictureScale, file); });
 }
 
@@ -82,7 +82,7 @@ void ExportList(AppServices& services, const Document& document, QWidget* parent
         AskFileName(document, ExportTexts::tr("Export module list"),
                     {ExportTexts::tr("Comma-separated values (*.csv)"), ExportTexts::tr("Markdown (*.md)")}, parent);
     if (file.isEmpty()) return;
-    TellFailure(parent, ExportTexts::tr("The module list cannot be exported."), [&] {
+    TellFailure(services, parent, ExportTexts::tr("The module list cannot be exported."), [&] {
         ExportModuleList(document.Station()->Data(), services.Catalogue(), services.CurrentLanguage(), file);
     });
 }

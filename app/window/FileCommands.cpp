@@ -24,9 +24,9 @@ namespace {
 
 const QString StationSuffix = QStringLiteral("station.json");
 
-QString ReasonOf(const FileError& error)
+QString ReasonOf(const FileError& error, Language language)
 {
-    const QString reason = ToQString(error.reason);
+    const QString reason = ToQString(error.Reason(language));
     return error.pointer.empty() ? reason : QStringLiteral("%1: %2").arg(ToQString(error.pointer), reason);
 }
 
@@ -59,8 +59,9 @@ void FileCommands::Adopt(std::unique_ptr<Document> document)
         moServices.Errors().Actions(moDocument->Actions());
         connect(moDocument.get(), &Document::changed, this, &FileCommands::changed);
         moAutoSave = std::make_unique<AutoSave>(*moDocument, JournalDirectory(), nullptr);
-        connect(moAutoSave.get(), &AutoSave::failed, this, [this](const QString& reason) {
-            emit warned(tr("Unsaved changes cannot be kept for a recovery: %1").arg(reason));
+        connect(moAutoSave.get(), &AutoSave::failed, this, [this](const FileError& error) {
+            emit warned(tr("Unsaved changes cannot be kept for a recovery: %1")
+                            .arg(ToQString(error.Message(moServices.CurrentLanguage()))));
         });
     }
     emit opened();
@@ -100,7 +101,8 @@ bool FileCommands::OpenFile(const QString& fileName)
         return true;
     } catch (const FileError& error) {
         if (!QFileInfo::exists(path)) moRecentFiles.Remove(path);
-        Tell(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)), ReasonOf(error));
+        Tell(tr("“%1” cannot be opened.").arg(QDir::toNativeSeparators(path)),
+             ReasonOf(error, moServices.CurrentLanguage()));
         return false;
     }
 }
@@ -114,7 +116,7 @@ void FileCommands::OpenExample(const QString& resource)
                                         moServices.Catalogue()),
                            {}));
     } catch (const FileError& error) {
-        Tell(tr("“%1” cannot be opened.").arg(resource), ReasonOf(error));
+        Tell(tr("“%1” cannot be opened.").arg(resource), ReasonOf(error, moServices.CurrentLanguage()));
     }
 }
 
@@ -155,7 +157,7 @@ bool FileCommands::SaveTo(const QString& fileName)
         QMessageBox box(QMessageBox::Critical, tr("Quillon Ed"),
                         tr("“%1” cannot be saved.").arg(QDir::toNativeSeparators(fileName)), QMessageBox::Close,
                         &moWindow);
-        box.setInformativeText(ReasonOf(error));
+        box.setInformativeText(ReasonOf(error, moServices.CurrentLanguage()));
         const QPushButton* elsewhere = box.addButton(tr("Save as…"), QMessageBox::AcceptRole);
         box.exec();
         return box.clickedButton() == elsewhere && SaveAs();
@@ -214,7 +216,7 @@ void FileCommands::CheckFile()
         const FileChange change = moDocument->FileChange();
         if (change != FileChange::Unchanged) AnswerForeignChange(change);
     } catch (const FileError& error) {
-        emit warned(QString::fromUtf8(error.what()));
+        emit warned(ToQString(error.Message(moServices.CurrentLanguage())));
     }
 }
 
@@ -238,7 +240,7 @@ void FileCommands::AnswerForeignChange(FileChange change)
             moDocument->Reload();
             return;
         } catch (const FileError& error) {
-            Tell(tr("“%1” cannot be opened.").arg(title), ReasonOf(error));
+            Tell(tr("“%1” cannot be opened.").arg(title), ReasonOf(error, moServices.CurrentLanguage()));
         }
     }
     // Whatever comes next, the same change is not asked about twice.
@@ -263,13 +265,13 @@ void FileCommands::OfferRecovery(bool telling)
             try {
                 DropJournal(journal.journalFile);
             } catch (const FileError& error) {
-                emit warned(QString::fromUtf8(error.what()));
+                emit warned(ToQString(error.Message(moServices.CurrentLanguage())));
             }
         });
         const QScopedValueRollback<bool> guard(mbAsking, true);
         dialog.exec();
     } catch (const FileError& error) {
-        emit warned(QString::fromUtf8(error.what()));
+        emit warned(ToQString(error.Message(moServices.CurrentLanguage())));
     }
 }
 
@@ -284,7 +286,7 @@ void FileCommands::Recover(const RecoverableJournal& journal)
         moAutoSave->Flush();
         DropJournal(journal.journalFile);
     } catch (const FileError& error) {
-        Tell(tr("The station cannot be recovered."), ReasonOf(error));
+        Tell(tr("The station cannot be recovered."), ReasonOf(error, moServices.CurrentLanguage()));
     }
 }
 

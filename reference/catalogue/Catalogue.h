@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference/catalogue/LocalizedText.h"
 #include "reference/model/StationData.h"
 
 #include <cstdint>
@@ -9,15 +10,6 @@
 #include <vector>
 
 namespace zqbchwcx::reference {
-
-enum class Language { English, German };
-
-struct LocalizedText {
-    std::string en;
-    std::string de;
-
-    const std::string& In(Language language) const { return language == Language::German && !de.empty() ? de : en; }
-};
 
 /// What a module is for; the placing rules go by it.
 enum class ModuleFamily {

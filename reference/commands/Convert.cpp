@@ -17,7 +17,8 @@ void ConvertStation(const std::string& sourceFile, const std::string& targetFile
     if (targetFile.ends_with(".csv")) list = ListFormat::Csv;
     else if (targetFile.ends_with(".md")) list = ListFormat::Markdown;
     else if (!targetFile.ends_with(".json"))
-        throw FileError(targetFile, "", "the name must end in .json, .csv or .md to say what is to be written");
+        throw FileError(targetFile, "", "the name must end in .json, .csv or .md to say what is to be written",
+                        "der Name muss auf .json, .csv oder .md enden, damit klar ist, was geschrieben wird");
 
     const StationData station = LoadStation(sourceFile, catalogue, files).data;
     AtomicWrite(files, targetFile,

@@ -1,6 +1,6 @@
 #include "reference/files/AtomicWrite.h"
 
-#include "reference/json/FileError.h"
+#include "reference/files/SystemFailure.h"
 
 #include <system_error>
 
@@ -30,7 +30,17 @@ TemporaryFile CreateBeside(FileSystem& files, const std::string& target)
     }
 }
 
-/// What is being done, for the error message.
+LocalizedText OldUnchanged()
+{
+    return {"; the old content is unchanged", "; der alte Inhalt ist unverändert"};
+}
+
+LocalizedText NewInPlace()
+{
+    return {"; the new content is in place, but may be lost when the power fails now",
+            "; der neue Inhalt ist da, kann aber bei einem Stromausfall jetzt noch verloren gehen"};
+}
+
 class AtomicReplacement {
 public:
     AtomicReplacement(FileSystem& files, const std::string& fileName) : moFiles(files), msFileName(fileName) {}
@@ -40,28 +50,36 @@ public:
         try {
             Replace(content);
         } catch (const std::system_error& error) {
-            throw FileError(msFileName, "",
-                            std::string(msStep) + ": " + error.code().message() +
-                                (mbReplaced ? "; the new content is in place, but may be lost when the power fails now"
-                                            : "; the old content is unchanged"));
+            // Not even the directory is there: nothing of that name can be.
+            if (error.code() == std::errc::no_such_file_or_directory) mbIsNew = true;
+            throw SystemFailure(msFileName, mStep, error, Consequence());
         }
     }
 
 private:
+    LocalizedText Consequence() const
+    {
+        if (mbReplaced) return NewInPlace();
+        return mbIsNew ? LocalizedText() : OldUnchanged();
+    }
+
     void Replace(std::string_view content)
     {
-        msStep = "cannot be found";
+        mStep = {"cannot be found", "kann nicht gefunden werden"};
         const std::string target = moFiles.ResolveLinks(msFileName);
         const auto status = moFiles.Status(target);
-        if (status && !status->isRegularFile) throw FileError(msFileName, "", "is not a regular file");
+        mbIsNew = !status;
+        if (status && !status->isRegularFile)
+            throw FileError(msFileName, "", "is not a regular file", "ist keine gewöhnliche Datei");
         if (status && !IsWritable(target, *status))
-            throw FileError(msFileName, "", "is write-protected; the old content is unchanged");
+            throw FileError(msFileName, "", "is write-protected" + OldUnchanged().en,
+                            "ist schreibgeschützt" + OldUnchanged().de);
 
-        msStep = "no file can be made in its directory";
+        mStep = {"no file can be made in its directory", "in ihrem Ordner lässt sich keine Datei anlegen"};
         const TemporaryFile temporary = CreateBeside(moFiles, target);
         try {
             Fill(temporary, content, status);
-            msStep = "cannot be replaced";
+            mStep = {"cannot be replaced", "kann nicht ersetzt werden"};
             moFiles.Rename(temporary.path, target);
         } catch (const std::system_error&) {
             RemoveQuietly(temporary.path);
@@ -69,7 +87,7 @@ private:
         }
         mbReplaced = true;
 
-        msStep = "the directory cannot be flushed";
+        mStep = {"the directory cannot be flushed", "der Ordner kann nicht gesichert werden"};
         OpenFile directory(moFiles, moFiles.OpenDirectory(DirectoryOf(target)));
         moFiles.Flush(directory.Handle());
     }
@@ -84,9 +102,9 @@ private:
     void Fill(const TemporaryFile& temporary, std::string_view content, const std::optional<FileStatus>& status)
     {
         OpenFile file(moFiles, temporary.handle);
-        msStep = "the permissions cannot be kept";
+        mStep = {"the permissions cannot be kept", "die Zugriffsrechte können nicht erhalten werden"};
         if (status) moFiles.TakePermissions(file.Handle(), *status);
-        msStep = "cannot be written";
+        mStep = {"cannot be written", "kann nicht geschrieben werden"};
         while (!content.empty()) content.remove_prefix(moFiles.Write(file.Handle(), content));
         moFiles.Flush(file.Handle());
         file.Close();
@@ -102,7 +120,8 @@ private:
 
     FileSystem& moFiles;
     const std::string& msFileName;
-    const char* msStep = "";
+    LocalizedText mStep; ///< what is being done, for the error message
+    bool mbIsNew = false;
     bool mbReplaced = false;
 };
 

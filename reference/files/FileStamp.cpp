@@ -1,6 +1,6 @@
 #include "reference/files/FileStamp.h"
 
-#include "reference/json/FileError.h"
+#include "reference/files/SystemFailure.h"
 
 #include <system_error>
 
@@ -20,7 +20,7 @@ std::optional<FileStatus> ReadStatus(FileSystem& files, const std::string& fileN
     try {
         return files.Status(fileName);
     } catch (const std::system_error& error) {
-        throw FileError(fileName, "", "cannot be read: " + error.code().message());
+        throw SystemFailure(fileName, {"cannot be read", "kann nicht gelesen werden"}, error);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "reference/files/FileSystem.h"
 
-#include "reference/json/FileError.h"
+#include "reference/files/SystemFailure.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +40,7 @@ std::vector<std::string> ListFiles(FileSystem& files, const std::string& directo
     try {
         return files.List(directory);
     } catch (const std::system_error& error) {
-        throw FileError(directory, "", "cannot be read: " + error.code().message());
+        throw SystemFailure(directory, {"cannot be read", "kann nicht gelesen werden"}, error);
     }
 }
 
@@ -48,8 +48,8 @@ std::string ReadFile(FileSystem& files, const std::string& path, std::size_t lar
 {
     try {
         const auto status = files.Status(path);
-        if (!status) throw FileError(path, "", "there is no such file");
-        if (!status->isRegularFile) throw FileError(path, "", "is not a regular file");
+        if (!status) throw FileError(path, "", "there is no such file", "die Datei fehlt");
+        if (!status->isRegularFile) throw FileError(path, "", "is not a regular file", "ist keine gewöhnliche Datei");
 
         const OpenFile file(files, files.OpenForReading(path));
         std::string text;
@@ -58,11 +58,12 @@ std::string ReadFile(FileSystem& files, const std::string& path, std::size_t lar
         while (const std::size_t count = files.Read(file.Handle(), buffer)) {
             text.append(buffer.data(), count);
             if (text.size() > largestBytes)
-                throw FileError(path, "", "is larger than " + std::to_string(largestBytes) + " bytes");
+                throw FileError(path, "", "is larger than " + std::to_string(largestBytes) + " bytes",
+                                "ist größer als " + std::to_string(largestBytes) + " Bytes");
         }
         return text;
     } catch (const std::system_error& error) {
-        throw FileError(path, "", "cannot be read: " + error.code().message());
+        throw SystemFailure(path, {"cannot be read", "kann nicht gelesen werden"}, error);
     }
 }
 

@@ -3,7 +3,7 @@
 #include "reference/files/AtomicWrite.h"
 #include "reference/files/JournalName.h"
 #include "reference/files/StationWriter.h"
-#include "reference/json/FileError.h"
+#include "reference/files/SystemFailure.h"
 
 #include <system_error>
 
@@ -30,9 +30,9 @@ Journal::Journal(const std::string& directory, FileSystem& files) : moFiles(file
             return;
         }
     } catch (const std::system_error& error) {
-        throw FileError(directory, "", "no journal can be kept here: " + error.code().message());
+        throw SystemFailure(directory, {"no journal can be kept here", "hier kann kein Journal geführt werden"}, error);
     }
-    throw FileError(directory, "", "there are too many journals");
+    throw FileError(directory, "", "there are too many journals", "es gibt zu viele Journale");
 }
 
 Journal::~Journal() = default;
@@ -47,7 +47,7 @@ void Journal::Discard()
     try {
         if (moFiles.Status(msFileName)) moFiles.Remove(msFileName);
     } catch (const std::system_error& error) {
-        throw FileError(msFileName, "", "cannot be removed: " + error.code().message());
+        throw SystemFailure(msFileName, {"cannot be removed", "kann nicht entfernt werden"}, error);
     }
 }
 

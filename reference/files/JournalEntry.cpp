@@ -31,7 +31,8 @@ std::uint64_t ReadHash(const JsonCursor& cursor)
     std::uint64_t hash = 0;
     const char* end = text.data() + text.size();
     const auto [rest, error] = std::from_chars(text.data(), end, hash, Hexadecimal);
-    if (error != std::errc() || rest != end) cursor.Fail("must be a hexadecimal number");
+    if (error != std::errc() || rest != end)
+        cursor.Fail("must be a hexadecimal number", "muss eine hexadezimale Zahl sein");
     return hash;
 }
 
@@ -65,7 +66,8 @@ std::string WriteJournalEntry(const JournalEntry& entry)
 JournalEntry ParseJournalEntry(std::string_view content, std::string_view fileName)
 {
     const std::size_t lineEnd = content.find('\n');
-    if (lineEnd == std::string_view::npos) throw FileError(std::string(fileName), "", "the first line is cut off");
+    if (lineEnd == std::string_view::npos)
+        throw FileError(std::string(fileName), "", "the first line is cut off", "die erste Zeile ist abgeschnitten");
     const JsonDocument document = ParseStrictJson(content.substr(0, lineEnd), fileName);
     const JsonCursor head(document);
     ReadFormatVersion(head, Format, Version);
@@ -77,9 +79,12 @@ JournalEntry ParseJournalEntry(std::string_view content, std::string_view fileNa
     entry.stationText = content.substr(lineEnd + 1);
     if (ReadBytes(head.Member("bytes")) != entry.stationText.size())
         head.Member("bytes").Fail("the station is cut off: " + std::to_string(entry.stationText.size()) +
-                                  " bytes of it are there");
+                                      " bytes of it are there",
+                                  "die Station ist abgeschnitten: nur " + std::to_string(entry.stationText.size()) +
+                                      " Bytes von ihr sind da");
     if (ReadHash(head.Member("hash")) != ContentHash(entry.stationText))
-        head.Member("hash").Fail("the station is damaged: its bytes have another hash");
+        head.Member("hash").Fail("the station is damaged: its bytes have another hash",
+                                 "die Station ist beschädigt: ihre Bytes haben einen anderen Hash");
     return entry;
 }
 

@@ -2,7 +2,7 @@
 
 #include "reference/files/JournalName.h"
 #include "reference/files/StationReader.h"
-#include "reference/json/FileError.h"
+#include "reference/files/SystemFailure.h"
 
 #include <system_error>
 
@@ -44,7 +44,7 @@ std::vector<RecoverableJournal> FindRecoverable(const std::string& directory, Fi
             const OpenFile held(files, *lock);
             found.push_back(Describe(files, journalFile));
         } catch (const std::system_error& error) {
-            throw FileError(journalFile, "", "cannot be locked: " + error.code().message());
+            throw SystemFailure(journalFile, {"cannot be locked", "kann nicht gesperrt werden"}, error);
         }
     }
     return found;
@@ -60,11 +60,13 @@ void DropJournal(const std::string& journalFile, FileSystem& files)
 {
     try {
         const auto lock = files.TryLock(JournalLockName(journalFile));
-        if (!lock) throw FileError(journalFile, "", "belongs to a program that is running");
+        if (!lock)
+            throw FileError(journalFile, "", "belongs to a program that is running",
+                            "gehört zu einem laufenden Programm");
         const OpenFile held(files, *lock);
         files.Remove(journalFile);
     } catch (const std::system_error& error) {
-        throw FileError(journalFile, "", "cannot be removed: " + error.code().message());
+        throw SystemFailure(journalFile, {"cannot be removed", "kann nicht entfernt werden"}, error);
     }
 }
 

@@ -30,8 +30,9 @@ std::int32_t ReadPlace(const JsonCursor& cursor, std::int32_t previousNumber, co
     const auto placeCount = static_cast<std::int32_t>(rack.places.size());
     const JsonCursor number = cursor.Member("place");
     const std::int32_t place = number.Integer32(1, placeCount);
-    if (place == previousNumber) number.Fail("the place stands twice");
-    if (place < previousNumber) number.Fail("places must stand in rising order");
+    if (place == previousNumber) number.Fail("the place stands twice", "der Platz steht doppelt da");
+    if (place < previousNumber)
+        number.Fail("places must stand in rising order", "Plätze müssen in steigender Folge stehen");
 
     PlaceData& data = rack.places[static_cast<std::size_t>(place - 1)];
     if (const auto usability = cursor.OptionalMember("usability")) data.usability = usability->Named(UsabilityNames);
@@ -40,7 +41,9 @@ std::int32_t ReadPlace(const JsonCursor& cursor, std::int32_t previousNumber, co
         const std::int32_t span = PlacesOf(*data.module, catalogue);
         if (place + span - 1 > placeCount)
             module->Fail("the module spans " + std::to_string(span) + " places and reaches beyond place " +
-                         std::to_string(placeCount) + ", the last of its rack");
+                             std::to_string(placeCount) + ", the last of its rack",
+                         "die Baugruppe belegt " + std::to_string(span) + " Plätze und reicht über Platz " +
+                             std::to_string(placeCount) + ", den letzten ihres Trägers, hinaus");
     }
     return place;
 }
@@ -104,7 +107,8 @@ StationData ParseStation(std::string_view text, std::string_view fileName, const
     if (const auto mode = file.OptionalMember("displayMode")) station.displayMode = mode->Integer32(0, 2);
     if (const auto readOnly = file.OptionalMember("readOnly")) station.readOnly = readOnly->Boolean();
     const JsonCursor list = file.Member("racks");
-    if (list.Elements(MaxRacks).empty()) list.Fail("a station has at least one rack");
+    if (list.Elements(MaxRacks).empty())
+        list.Fail("a station has at least one rack", "eine Station hat mindestens einen Baugruppenträger");
     station.racks = racks.Racks();
     return station;
 }

@@ -74,7 +74,7 @@ std::string Dump(const Json& json, const std::string& pointer, std::string_view 
         return json.dump(Indentation);
     } catch (const Json::type_error&) {
         throw FileError(std::string(fileName), FindBrokenText(json, pointer).value_or(pointer),
-                        "the text is not valid UTF-8");
+                        "the text is not valid UTF-8", "der Text ist kein gültiges UTF-8");
     }
 }
 

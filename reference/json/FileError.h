@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reference/catalogue/LocalizedText.h"
+
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -10,15 +12,30 @@ namespace zqbchwcx::reference {
 class FileError : public std::runtime_error {
 public:
     /// The pointer is a JSON pointer (RFC 6901); empty when the whole file is meant or could not be read or written.
-    FileError(std::string sFileName, std::string sPointer, std::string sReason)
-        : std::runtime_error(sFileName + (sPointer.empty() ? "" : ": " + sPointer) + ": " + sReason),
-          fileName(std::move(sFileName)), pointer(std::move(sPointer)), reason(std::move(sReason))
+    /// Without a German reason the English one stands in every language.
+    FileError(std::string sFileName, std::string sPointer, std::string sReason, std::string sGermanReason = {})
+        : std::runtime_error(Joined(sFileName, sPointer, sReason)), fileName(std::move(sFileName)),
+          pointer(std::move(sPointer)), reason(std::move(sReason)), germanReason(std::move(sGermanReason))
     {
     }
 
+    const std::string& Reason(Language language) const
+    {
+        return language == Language::German && !germanReason.empty() ? germanReason : reason;
+    }
+    /// "file: pointer: reason"; in English that is `what()`.
+    std::string Message(Language language) const { return Joined(fileName, pointer, Reason(language)); }
+
     std::string fileName;
     std::string pointer;
-    std::string reason;
+    std::string reason; ///< in English
+    std::string germanReason;
+
+private:
+    static std::string Joined(const std::string& fileName, const std::string& pointer, const std::string& reason)
+    {
+        return fileName + (pointer.empty() ? "" : ": " + pointer) + ": " + reason;
+    }
 };
 
 } // namespace zqbchwcx::reference

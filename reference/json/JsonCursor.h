@@ -21,7 +21,8 @@ public:
     /// A value inside the document.
     JsonCursor(const JsonDocument& document, const nlohmann::json& value) : moDocument(&document), moValue(&value) {}
 
-    [[noreturn]] void Fail(const std::string& reason) const;
+    /// Refuses the file for what is at this place.
+    [[noreturn]] void Fail(const std::string& reason, const std::string& germanReason = {}) const;
 
     /// The member of an object. Refused when it is missing.
     JsonCursor Member(std::string_view name) const;
@@ -57,7 +58,7 @@ public:
             if (entry.name == name) return entry.value;
         std::string names;
         for (const auto& entry : table) names.append(names.empty() ? "\"" : ", \"").append(entry.name).append("\"");
-        Fail("must be one of " + names);
+        Fail("must be one of " + names, "muss eines von diesen sein: " + names);
     }
 
 private:

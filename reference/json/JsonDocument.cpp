@@ -12,14 +12,22 @@ namespace {
 constexpr std::size_t LongestReason = 300;
 
 /// The parser's message without its class prefix. It quotes the input, which need not be text at all.
-std::string ReadableReason(std::string reason)
+LocalizedText ReadableReason(std::string reason)
 {
     if (const auto prefixEnd = reason.find("] "); reason.starts_with('[') && prefixEnd != std::string::npos)
         reason.erase(0, prefixEnd + 2);
     if (reason.size() > LongestReason) reason.resize(LongestReason);
     for (char& character : reason)
         if (character < ' ' || character > '~') character = '?';
-    return reason;
+    // Only where it is told in German: what the parser expected there is told by the parser alone.
+    const std::string at = "at line ";
+    const auto line = reason.find(at);
+    const auto column = reason.find(", column ", line);
+    const auto end = reason.find(':', column);
+    if (end == std::string::npos) return {reason, "ist kein gültiges JSON: " + reason};
+    const auto columnNumber = column + std::string_view(", column ").size();
+    return {reason, "ist kein gültiges JSON: Zeile " + reason.substr(line + at.size(), column - line - at.size()) +
+                        ", Spalte " + reason.substr(columnNumber, end - columnNumber)};
 }
 
 /// Builds the document from the parser's events. Unlike the parser's own builder it refuses repeated members, and
@@ -37,7 +45,10 @@ public:
     bool number_unsigned(number_unsigned_t value) override { return Add(value); }
     bool number_float(number_float_t value, const string_t& /*text*/) override { return Add(value); }
     bool string(string_t& value) override { return Add(std::move(value)); }
-    bool binary(binary_t& /*value*/) override { return Refuse("binary data is no JSON"); }
+    bool binary(binary_t& /*value*/) override
+    {
+        return Refuse({"binary data is no JSON", "Binärdaten sind kein JSON"});
+    }
 
     bool start_object(std::size_t /*size*/) override { return Open(nlohmann::json::object()); }
     bool end_object() override { return Close(); }
@@ -49,7 +60,8 @@ public:
         const bool isRepeated = mcolOpen.back()->contains(name);
         msKey = std::move(name);
         if (isRepeated)
-            throw FileError(moDocument.fileName, Pointer() + PointerToken(msKey), "the member stands twice");
+            throw FileError(moDocument.fileName, Pointer() + PointerToken(msKey), "the member stands twice",
+                            "das Element steht doppelt da");
         return true;
     }
 
@@ -79,7 +91,9 @@ private:
     bool Open(nlohmann::json value)
     {
         if (mcolOpen.size() >= moLimits.depth)
-            return Refuse("objects and arrays are nested deeper than " + std::to_string(moLimits.depth) + " levels");
+            return Refuse(
+                {"objects and arrays are nested deeper than " + std::to_string(moLimits.depth) + " levels",
+                 "Objekte und Listen sind tiefer als " + std::to_string(moLimits.depth) + " Ebenen geschachtelt"});
         mcolOpen.push_back(Insert(std::move(value)));
         return true;
     }
@@ -108,7 +122,10 @@ private:
         return mcolOpen.empty() ? std::string() : FindPointer(moDocument.root, *mcolOpen.back());
     }
 
-    bool Refuse(const std::string& reason) const { throw FileError(moDocument.fileName, Pointer(), reason); }
+    bool Refuse(const LocalizedText& reason) const
+    {
+        throw FileError(moDocument.fileName, Pointer(), reason.en, reason.de);
+    }
 
     JsonDocument& moDocument;
     const JsonLimits& moLimits;
@@ -126,7 +143,9 @@ JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, c
     if (text.size() > limits.bytes)
         throw FileError(document.fileName, "",
                         "the text has " + std::to_string(text.size()) + " bytes; " + std::to_string(limits.bytes) +
-                            " are the most that is read");
+                            " are the most that is read",
+                        "der Text hat " + std::to_string(text.size()) + " Bytes; höchstens " +
+                            std::to_string(limits.bytes) + " werden gelesen");
     DocumentBuilder builder(document, limits, taker);
     nlohmann::json::sax_parse(text, &builder);
     return document;

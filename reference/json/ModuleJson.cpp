@@ -24,9 +24,11 @@ void ReadParameters(const JsonCursor& parameters, const ModuleType* type, Module
 {
     const auto members = parameters.Members();
     if (members.size() > MaxParameters)
-        parameters.Fail("has more than " + std::to_string(MaxParameters) + " parameters");
+        parameters.Fail("has more than " + std::to_string(MaxParameters) + " parameters",
+                        "hat mehr als " + std::to_string(MaxParameters) + " Parameter");
     for (const auto& [key, value] : members) {
-        if (key.empty() || key.size() > MaxTextBytes) value.Fail("the parameter's name is empty or too long");
+        if (key.empty() || key.size() > MaxTextBytes)
+            value.Fail("the parameter's name is empty or too long", "der Name des Parameters ist leer oder zu lang");
         module.parameters.emplace_hint(module.parameters.end(), key, AsDefined(ParameterFromJson(value), key, type));
     }
 }
@@ -46,7 +48,8 @@ ModuleData ReadModule(const JsonCursor& cursor, const Catalogue& catalogue, bool
     if (const auto parameters = cursor.OptionalMember("parameters"))
         ReadParameters(*parameters, catalogue.Find(module.orderNumber), module);
     if (const auto subModules = cursor.OptionalMember("subModules")) {
-        if (isSubModule) subModules->Fail("sub-modules have no sub-modules of their own");
+        if (isSubModule)
+            subModules->Fail("sub-modules have no sub-modules of their own", "Submodule haben keine eigenen Submodule");
         for (const JsonCursor& subModule : subModules->Elements(MaxSubModules))
             module.subModules.push_back(ReadModule(subModule, catalogue, true));
     }

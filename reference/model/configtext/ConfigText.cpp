@@ -32,7 +32,7 @@ ModuleDataPtr ReadItem(const JsonCursor& item, const Catalogue& catalogue)
     auto module = std::make_shared<ModuleData>(ModuleFromJson(item, catalogue));
     // Addresses are left to the place where the module lands.
     if (const std::vector<Refusal> found = AgainstModule(*module, catalogue, {}); !found.empty())
-        item.Fail(found.front().text.en);
+        item.Fail(found.front().text.en, found.front().text.de);
     return module;
 }
 

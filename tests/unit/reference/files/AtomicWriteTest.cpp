@@ -47,6 +47,7 @@ TEST(AtomicWrite, LeavesOldOrNewContentWhicheverCallFails)
         ++failures;
         EXPECT_EQ(error.fileName, directory.File("plant.json"));
         EXPECT_THAT(error.reason, HasSubstr("No space left"));
+        EXPECT_THAT(error.Reason(Language::German), HasSubstr("kein Platz mehr; der "));
         EXPECT_THAT(error.reason, HasSubstr(content == OldContent ? "old content is unchanged" : "new content is in"));
         EXPECT_THAT(content, AnyOf(OldContent, NewContent));
     }

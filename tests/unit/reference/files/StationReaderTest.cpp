@@ -89,6 +89,7 @@ TEST(StationReader, RefusesWhatIsNotExactlyAStation)
         EXPECT_EQ(error.fileName, "plant.json");
         EXPECT_EQ(error.pointer, damage.pointer);
         EXPECT_THAT(error.reason, HasSubstr(damage.reason));
+        EXPECT_NE(error.Reason(Language::German), error.reason);
         EXPECT_THAT(error.what(), HasSubstr(std::string("plant.json: ") + damage.pointer));
     }
 }
@@ -97,6 +98,8 @@ TEST(StationReader, RefusesDamagedAndHostileJson)
 {
     const std::string valid = ValidStation().dump(2);
     EXPECT_THAT(ParseError("").reason, HasSubstr("line 1"));
+    EXPECT_EQ(ParseError("{\n \"a\": }").Message(Language::German),
+              "plant.json: ist kein gültiges JSON: Zeile 2, Spalte 7");
     EXPECT_THAT(ParseError(valid + "x").reason, HasSubstr("syntax error"));
     EXPECT_THAT(ParseError("{\"format\": \"\xff\"}").reason, HasSubstr("UTF-8"));
     EXPECT_THAT(ParseError(R"({"name": 1e999})").reason, HasSubstr("overflow"));
