@@ -30,10 +30,8 @@ constexpr std::int32_t MinimumWidth = 3525; // twips
 constexpr std::int32_t MinimumHeight = 5880;
 
 constexpr std::int32_t ArrowIndentation = 238;
-constexpr std::int32_t ArrowRowHeight = 15;
 constexpr std::int32_t ArrowHeaderHeight = 41;
 constexpr std::int32_t ArrowHeaderHeightCompare = 61;
-constexpr Point ArrowStartInPlace{7, -1};
 
 } // namespace
 
@@ -50,7 +48,8 @@ VxHWRackOverview::VxHWRackOverview(UserControl& oControl) noexcept
                   const DrawingBracket drawing(mCanvas);
                   mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
               },
-              [this] { P_DrawPending(); }})
+              [this] { P_DrawPending(); }}),
+      mArrow(mContext, mLayout, mCanvas)
 {
     mInput.DragThreshold(P_ReadDragDelayFromRegistry(ClassName));
     G_Trap(ClassName, "UserControl_Initialize", [&] { CreateChildren(); });
@@ -71,10 +70,7 @@ void VxHWRackOverview::CreateChildren()
     mControl.Font("Tahoma", 8.25);
     mCanvas.Use(toolkit.CreatePictureBox(mControl, "pic_Main", PictureRect));
     mLinks.Create(toolkit, mControl);
-    moArrowControl = toolkit.CreateChildControl(
-        mControl, "arw_Arrow", MakeRect(0, 0, mControl.Width() / vxTwipsPerPixel, mControl.Height() / vxTwipsPerPixel));
-    marwArrow = std::make_unique<HWCArrow>(*moArrowControl);
-    marwArrow->Indentation(ArrowIndentation);
+    mArrow.Create(toolkit, mControl, ArrowIndentation);
     auto picDrag = toolkit.CreatePictureBox(mControl, "pic_Drag", DragPictureRect);
     picDrag->Visible(false);
     mDragPointer.Use(std::move(picDrag));
@@ -122,7 +118,7 @@ void VxHWRackOverview::Style(VxEnumStyle eStyle) noexcept
 {
     mContext.eStyle = eStyle;
     if (eStyle != vxStyleHWCompare && eStyle != vxStyleHWConfig && eStyle != vxStyleHWDiag) return;
-    mlArrowHeaderHeight = eStyle == vxStyleHWCompare ? ArrowHeaderHeightCompare : ArrowHeaderHeight;
+    mArrow.HeaderHeight(eStyle == vxStyleHWCompare ? ArrowHeaderHeightCompare : ArrowHeaderHeight);
     mbDrawOnModelEvents = eStyle == vxStyleHWConfig;
 }
 
@@ -139,7 +135,7 @@ void VxHWRackOverview::VxHWStation(VxHWStationPtr oStation) noexcept
         if (!mContext.oStation) {
             mContext.backColor = vxColorWindowBackground;
             mLinks.Hide();
-            if (marwArrow) marwArrow->Hide();
+            mArrow.Hide();
             const DrawingBracket drawing(mCanvas);
             mCanvas.Box().BackColor(mContext.backColor);
             return;
@@ -159,16 +155,6 @@ void VxHWRackOverview::VxHWStation(VxHWStationPtr oStation) noexcept
     });
 }
 
-void VxHWRackOverview::VxHWCompareService(VxHWCompareServicePtr oCompareService) noexcept
-{
-    mContext.oCompareService = std::move(oCompareService);
-}
-
-void VxHWRackOverview::VxHWDiagService(VxHWDiagServicePtr oDiagService) noexcept
-{
-    mContext.oDiagService = std::move(oDiagService);
-}
-
 void VxHWRackOverview::VxHWSelectionHandler(VxHWSelectionHandlerPtr oSelectionHandler) noexcept
 {
     G_Trap(ClassName, "IVxHWControl_VxHWSelectionHandler", [&] {
@@ -180,21 +166,6 @@ void VxHWRackOverview::VxHWSelectionHandler(VxHWSelectionHandlerPtr oSelectionHa
         mFocusChangeConnection = mContext.oSelHandler->FocusChange.Connect(
             [this](std::int32_t lPreviousFocus) { moSelHandler_FocusChange(lPreviousFocus); });
     });
-}
-
-void VxHWRackOverview::VxHWMouseInputController(IVxHWMouseInputControllerPtr oController) noexcept
-{
-    mContext.oMouseCtrl = std::move(oController);
-}
-
-void VxHWRackOverview::VxHWKeyInputController(IVxHWKeyInputControllerPtr oController) noexcept
-{
-    mContext.oKeyCtrl = std::move(oController);
-}
-
-void VxHWRackOverview::VxHWDragDropController(IVxHWDragDropControllerPtr oController) noexcept
-{
-    mContext.oDragDropCtrl = std::move(oController);
 }
 
 void VxHWRackOverview::P_LoadImageLists() noexcept
@@ -380,24 +351,8 @@ void VxHWRackOverview::moSelHandler_FocusChange(std::int32_t lPreviousFocus) noe
             mFocusMarks.Reset(G_PositionInfo(lPreviousFocus));
             mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
         }
-        P_SetArrow();
+        mArrow.P_SetArrow();
         FocusChange.Raise();
-    });
-}
-
-void VxHWRackOverview::P_SetArrow() noexcept
-{
-    G_Trap(ClassName, "P_SetArrow", [&] {
-        auto& arrow = G_Require(marwArrow, "The arrow");
-        const PositionInfo focus = G_PositionInfo(mContext.FocusPosition());
-        if (!mContext.oStation || focus.eType != vxPositionPlace || !mLayout.Shows(focus.lRack, focus.lNumber)) {
-            arrow.Hide();
-            return;
-        }
-        const Rect place = mLayout.PlaceRect(focus.lRack, focus.lNumber);
-        arrow.Show(mCanvas.Box().Left() + place.left + ArrowStartInPlace.x,
-                   mCanvas.Box().Top() + place.top + ArrowStartInPlace.y,
-                   ArrowRowHeight / 2 + (focus.lNumber - 1) * ArrowRowHeight + mlArrowHeaderHeight);
     });
 }
 
@@ -407,9 +362,7 @@ void VxHWRackOverview::Resize() noexcept
         const std::int32_t lWidth = std::max(mControl.Width(), MinimumWidth);
         const std::int32_t lHeight = std::max(mControl.Height(), MinimumHeight);
         if (lWidth != mControl.Width() || lHeight != mControl.Height()) mControl.Size(lWidth, lHeight);
-        if (!moArrowControl) return;
-        moArrowControl->Move(MakeRect(0, 0, lWidth / vxTwipsPerPixel, lHeight / vxTwipsPerPixel));
-        P_SetArrow();
+        mArrow.Cover(lWidth, lHeight);
     });
 }
 

@@ -5,7 +5,7 @@
 #include "foundation/Event.h"
 #include "foundation/Registration.h"
 #include "platform/Toolkit.h"
-#include "views/config/HWCArrow.h"
+#include "views/config/FocusArrow.h"
 #include "views/parts/Canvas.h"
 #include "views/parts/CentralPlaceLayout.h"
 #include "views/parts/DragPointer.h"
@@ -22,6 +22,7 @@
 #include "views/parts/ViewContext.h"
 
 #include <memory>
+#include <utility>
 
 namespace zqbchwcx {
 
@@ -61,17 +62,32 @@ public:
     VxHWStationPtr VxHWStation() const noexcept override { return mContext.oStation; }
     void VxHWStation(VxHWStationPtr oStation) noexcept override;
     VxHWCompareServicePtr VxHWCompareService() const noexcept override { return mContext.oCompareService; }
-    void VxHWCompareService(VxHWCompareServicePtr oCompareService) noexcept override;
+    void VxHWCompareService(VxHWCompareServicePtr oCompareService) noexcept override
+    {
+        mContext.oCompareService = std::move(oCompareService);
+    }
     VxHWDiagServicePtr VxHWDiagService() const noexcept override { return mContext.oDiagService; }
-    void VxHWDiagService(VxHWDiagServicePtr oDiagService) noexcept override;
+    void VxHWDiagService(VxHWDiagServicePtr oDiagService) noexcept override
+    {
+        mContext.oDiagService = std::move(oDiagService);
+    }
     VxHWSelectionHandlerPtr VxHWSelectionHandler() const noexcept override { return mContext.oSelHandler; }
     void VxHWSelectionHandler(VxHWSelectionHandlerPtr oSelectionHandler) noexcept override;
     IVxHWMouseInputControllerPtr VxHWMouseInputController() const noexcept override { return mContext.oMouseCtrl; }
-    void VxHWMouseInputController(IVxHWMouseInputControllerPtr oController) noexcept override;
+    void VxHWMouseInputController(IVxHWMouseInputControllerPtr oController) noexcept override
+    {
+        mContext.oMouseCtrl = std::move(oController);
+    }
     IVxHWKeyInputControllerPtr VxHWKeyInputController() const noexcept override { return mContext.oKeyCtrl; }
-    void VxHWKeyInputController(IVxHWKeyInputControllerPtr oController) noexcept override;
+    void VxHWKeyInputController(IVxHWKeyInputControllerPtr oController) noexcept override
+    {
+        mContext.oKeyCtrl = std::move(oController);
+    }
     IVxHWDragDropControllerPtr VxHWDragDropController() const noexcept override { return mContext.oDragDropCtrl; }
-    void VxHWDragDropController(IVxHWDragDropControllerPtr oController) noexcept override;
+    void VxHWDragDropController(IVxHWDragDropControllerPtr oController) noexcept override
+    {
+        mContext.oDragDropCtrl = std::move(oController);
+    }
 
     // IVxHWDragDropCtrlEvents
     void StateChange(VxEnumDragDropStates ePreviousValue) noexcept override;
@@ -102,7 +118,6 @@ private:
     void DrawOutdatedSelection();
     void P_SetBorderSelection(const VxHWModulePtr& oParentModule) noexcept;
     void P_DrawPending() noexcept;
-    void P_SetArrow() noexcept;
 
     InstanceRegistration mRegistration;
     TextModuleUse mTexts;
@@ -122,8 +137,7 @@ private:
     PlaceTooltips mTooltips;
     KeyInput mKeyInput;
     PictureInput mInput;
-    ChildControlPtr moArrowControl;
-    std::unique_ptr<HWCArrow> marwArrow;
+    FocusArrow mArrow;
     SysInfoPtr msysinfMain;
 
     bool mbDrawOnModelEvents = true;
@@ -131,7 +145,6 @@ private:
     /// What could not be drawn while the station's drawing was off, and of which no model event will tell.
     bool mbRefreshPending = false;
     bool mbSelectionPending = false;
-    std::int32_t mlArrowHeaderHeight = 41;
 
     EventConnection mRackChangeConnection;
     EventConnection mRackPlaceChangeConnection;
