@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include <set>
+#include <utility>
 
 namespace zqbchwcx::reference {
 namespace {
@@ -34,6 +35,47 @@ void ExpectKnown(const json& definition, json station, const json::json_pointer&
         offered[object / name] = json::array({nullptr});
         const FileError error = ErrorOf([&] { ParseStation(offered.dump(), "s", ShippedCatalogue()); });
         EXPECT_THAT(error.reason, ::testing::Not(::testing::HasSubstr("unknown"))) << object / name;
+    }
+}
+
+/// Names, required members and fixed values; ranges are the reader's business.
+void ExpectFits(const json& root, const json& schema, const json& value, const std::string& at)
+{
+    if (schema.contains("$ref"))
+        return ExpectFits(root, root.at(json::json_pointer(schema["$ref"].get<std::string>().substr(1))), value, at);
+    if (schema.contains("const")) {
+        EXPECT_EQ(value, schema["const"]) << at;
+    }
+    if (schema.contains("enum")) {
+        EXPECT_THAT(schema["enum"], ::testing::Contains(value)) << at;
+    }
+    if (value.is_array() && schema.contains("items")) {
+        for (const json& element : value) ExpectFits(root, schema["items"], element, at + "/-");
+    }
+    if (!value.is_object() || schema.value("type", "") != "object") return;
+    for (const json& name : schema.value("required", json::array())) EXPECT_TRUE(value.contains(name)) << at << name;
+    const json properties = schema.value("properties", json::object());
+    const json others = schema.value("additionalProperties", json(true));
+    for (const auto& [name, member] : value.items()) {
+        if (properties.contains(name)) ExpectFits(root, properties[name], member, at + "/" + name);
+        else if (others.is_object()) ExpectFits(root, others, member, at + "/" + name);
+        else if (others == false) ADD_FAILURE() << at << "/" << name << " is unknown to the schema";
+    }
+}
+
+TEST(Schemas, FitTheFilesThatAreShipped)
+{
+    for (const auto& [schemaName, folder] :
+         {std::pair("catalogue-schema.json", "assets/catalogue"), std::pair("station-schema.json", "examples")}) {
+        const json schema = Schema(schemaName);
+        int count = 0;
+        for (const std::string& name : ListFiles(SystemFiles(), zqbchwcx::testing::SourceFile(folder))) {
+            if (!name.ends_with(".json")) continue;
+            const auto file = zqbchwcx::testing::SourceFile(std::string(folder) + "/" + name);
+            ExpectFits(schema, schema, json::parse(ReadFile(SystemFiles(), file, LargestStationFile)), name);
+            ++count;
+        }
+        EXPECT_GE(count, 4) << folder;
     }
 }
 
