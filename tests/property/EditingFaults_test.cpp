@@ -173,7 +173,7 @@ TEST_P(EditingFaults, LeaveTheStationUnchangedOrChanged)
         // A report that the error log itself refuses is lost. Without the host application there is no wait cursor,
         // which is nobody's error.
         const bool isLookup = result.thrown.starts_with("ObjectLookup.");
-        if (isLookup) editor.services.objects->application->waitBalance = 0;
+        if (isLookup) editor.services.host->waitBalance = 0;
         EXPECT_TRUE(isLookup || result.thrown.starts_with("LogError") || !editor.errors->reports.empty() ||
                     editor.refusals > 0);
         editor.errors->reports.clear();

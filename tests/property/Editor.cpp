@@ -25,7 +25,7 @@ reference::StationData ExampleStation(const std::string& name)
 Editor::Editor(reference::StationData data)
 {
     for (const auto* name : {"IDB_CRX_RACKNR_ACTIVE", "IDB_CRX_RACKNR_INACTIVE"})
-        services.texts->module->pictures[name] = std::make_shared<FakeImage>(name);
+        services.host->pictures[name] = std::make_shared<FakeImage>(name);
     const auto context =
         std::make_shared<reference::ModelContext>(reference::ModelContext{ShippedCatalogue(), nullptr});
     services.objects = std::make_shared<ExchangeObjects>(log, clipboard);
@@ -85,7 +85,7 @@ std::string Editor::WhatIsWrong()
     errors->reports.clear();
     for (const auto& refusal : reference::CheckStation(station->Data(), *ShippedCatalogue()))
         wrong += std::string(reference::RuleId(refusal.rule)) + ": " + refusal.text.en + "\n";
-    if (services.objects->application->waitBalance != 0) wrong += "the wait cursor stays\n";
+    if (services.host->waitBalance != 0) wrong += "the wait cursor stays\n";
     if (errors->openActions != 0) wrong += "a user action stays open\n";
     if (!station->IsDrawable()) wrong += "the station's drawing stays off\n";
     return wrong;

@@ -19,11 +19,11 @@ void PutPictured(FakeStation& station, std::int32_t lRack, std::int32_t lPlace, 
 } // namespace
 
 OverviewStage::OverviewStage(FakeStationPtr oStation)
-    : toolkit(std::make_shared<qt::QtToolkit>()), services(std::make_shared<CallLog>(), toolkit),
+    : toolkit(std::make_shared<qt::QtToolkit>()), services(toolkit),
       station(oStation ? std::move(oStation) : FullStation(services.log))
 {
     for (const auto& name : qt::PictureCatalog::Names())
-        services.texts->module->pictures[name] = toolkit->Pictures().Picture(name);
+        services.host->pictures[name] = toolkit->Pictures().Picture(name);
     widget = std::make_unique<qt::RackOverviewWidget>();
     other = std::make_unique<qt::RackOverviewWidget>();
     widget->resize(widget->sizeHint());

@@ -1,5 +1,4 @@
 #include "tests/support/services/TestServices.h"
-#include "tests/support/toolkit/RecordingToolkit.h"
 #include "views/config/HWCArrow.h"
 
 #include <gtest/gtest.h>
@@ -45,9 +44,9 @@ protected:
         return false;
     }
 
-    CallLogPtr log = std::make_shared<CallLog>();
-    std::shared_ptr<RecordingToolkit> toolkit = std::make_shared<RecordingToolkit>(log);
-    TestServices services{log, toolkit};
+    TestServices services;
+    CallLogPtr log = services.log;
+    std::shared_ptr<RecordingToolkit> toolkit = services.toolkit;
     RecordingControl site{log, MakeRect(0, 0, 260, 400)};
     HWCArrow arrow{site};
 };
@@ -109,17 +108,18 @@ TEST_F(HWCArrowTest, ReportsAFailureAndGoesOn)
 {
     log->faults.ThrowAt(3);
     arrow.Show(36, 213, 48);
-    EXPECT_TRUE(services.errors->HasReport("HWCArrow.P_PositionArrow"));
+    EXPECT_TRUE(services.host->TakeReports() == std::vector<std::string>{"zqbchwcx.HWCArrow.P_PositionArrow"});
     arrow.Show(36, 213, 48);
     EXPECT_EQ(VisibleCount(), 8);
     {
         log->faults.ThrowAt(4); // the second shape cannot be made
         HWCArrow broken(site);
-        EXPECT_TRUE(services.errors->HasReport("HWCArrow.UserControl_Initialize"));
+        EXPECT_TRUE(services.host->TakeReports() ==
+                    std::vector<std::string>{"zqbchwcx.HWCArrow.UserControl_Initialize"});
         broken.Show(36, 213, 48);
         broken.Hide();
     }
-    EXPECT_EQ(services.instances->live.size(), 1U);
+    EXPECT_EQ(services.host->live.size(), 1U);
 }
 
 } // namespace

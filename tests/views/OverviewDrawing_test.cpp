@@ -101,7 +101,7 @@ TEST_F(OverviewDrawingTest, RackNumbersShowWhetherTheRackIsPresent)
 
 TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoadedOnce)
 {
-    services.settings->values[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
+    services.host->settings[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
     auto& files = *toolkit->imageLists.files;
     files.existing = {"C:\\Data\\HWPics\\PUMP.bmp"};
     Put(0, 5, "Pump");

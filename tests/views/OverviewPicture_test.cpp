@@ -1,7 +1,6 @@
 #include "controllers/config/VxHWConfigCtrlDD.h"
 #include "controllers/config/VxHWConfigCtrlKey.h"
 #include "controllers/config/VxHWConfigCtrlMouse.h"
-#include "platform/Input.h"
 #include "tests/views/OverviewFixture.h"
 
 #include <random>
@@ -32,11 +31,11 @@ protected:
         view->Refresh();
     }
 
-    void Wire(VxHWRackOverview& overview)
+    void Wire(VxHWRackOverview& wired)
     {
-        overview.VxHWMouseInputController(mouse);
-        overview.VxHWKeyInputController(key);
-        overview.VxHWDragDropController(dragDrop);
+        wired.VxHWMouseInputController(mouse);
+        wired.VxHWKeyInputController(key);
+        wired.VxHWDragDropController(dragDrop);
     }
 
     Lines ShapesFrom(std::size_t set) const

@@ -1,7 +1,6 @@
 #include "tests/support/model/FakeStation.h"
 
 #include "foundation/mdl_Main.h"
-#include "tests/support/model/FakeConfigText.h"
 
 #include <algorithm>
 #include <utility>
@@ -9,111 +8,60 @@
 namespace zqbchwcx::testing {
 namespace {
 
-const std::vector<VxHWModulePtr>& ModulesOf(const VxHWModulesPtr& oModules)
+const FakeModuleList& ModulesOf(const VxHWModulesPtr& oModules)
 {
-    return dynamic_cast<const FakeModules&>(*oModules).modules;
+    return dynamic_cast<const FakeModules&>(*oModules).members;
 }
 
-const std::vector<FakeRackPlacePtr>& PlacesOf(const VxHWRackPlacesPtr& oPlaces)
+FakeRackPlaces& AsFake(const VxHWRackPlacesPtr& oPlaces)
 {
-    return dynamic_cast<const FakeRackPlaces&>(*oPlaces).places;
+    return dynamic_cast<FakeRackPlaces&>(*oPlaces);
 }
 
 std::string Names(const VxHWModulesPtr& oModules)
 {
     std::string names;
-    for (const auto& oModule : ModulesOf(oModules)) {
-        const auto& orderNumber = dynamic_cast<const FakeModule&>(*oModule).orderNumber;
-        names += (names.empty() ? "" : " ") + (orderNumber.empty() ? "-" : orderNumber);
-    }
+    for (const auto& module : ModulesOf(oModules))
+        names += (names.empty() ? "" : " ") + (module->orderNumber.empty() ? "-" : module->orderNumber);
     return "[" + names + "]";
 }
 
 std::string Keys(const VxHWRackPlacesPtr& oPlaces)
 {
-    return oPlaces ? "[" + dynamic_cast<const FakeRackPlaces&>(*oPlaces).Keys() + "]" : "nothing";
+    return oPlaces ? "[" + AsFake(oPlaces).Keys() + "]" : "nothing";
 }
 
-ByteArray BytesOf(std::string_view text)
+template <class Element>
+bool Contains(const std::vector<Element>& elements, const Element& element)
 {
-    const auto* first = reinterpret_cast<const std::byte*>(text.data());
-    return {first, first + text.size()};
-}
-
-std::string_view TextOf(const ByteArray& bytes)
-{
-    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
-
-bool Contains(const std::vector<FakeRackPlacePtr>& places, const FakeRackPlacePtr& place)
-{
-    return std::find(places.begin(), places.end(), place) != places.end();
+    return std::find(elements.begin(), elements.end(), element) != elements.end();
 }
 
 } // namespace
 
 FakeStation::FakeStation(CallLogPtr log, std::int32_t lRacks, std::int32_t lPlaces)
-    : racks(std::make_shared<FakeRacks>(log)), moLog(std::move(log))
+    : Logged(std::move(log)), racks(std::make_shared<FakeRacks>(moLog))
 {
     for (std::int32_t lRack = 0; lRack < lRacks; ++lRack) {
         auto rack = std::make_shared<FakeRack>(moLog, lRack);
         for (std::int32_t lPlace = 1; lPlace <= lPlaces; ++lPlace)
-            rack->places->places.push_back(std::make_shared<FakeRackPlace>(moLog, rack, lRack, lPlace));
-        racks->racks.push_back(std::move(rack));
+            rack->places->members.push_back(std::make_shared<FakeRackPlace>(moLog, rack, lRack, lPlace));
+        racks->members.push_back(std::move(rack));
     }
-}
-
-std::int32_t FakeStation::DisplayMode() const
-{
-    moLog->Call("VxHWStation.DisplayMode");
-    return displayMode;
-}
-
-std::int32_t FakeStation::StationKind() const
-{
-    moLog->Call("VxHWStation.StationKind");
-    return stationKind;
-}
-
-bool FakeStation::IsReadOnly() const
-{
-    moLog->Call("VxHWStation.IsReadOnly");
-    return readOnly;
-}
-
-VxHWRacksPtr FakeStation::Racks() const
-{
-    moLog->Call("VxHWStation.Racks");
-    return racks;
-}
-
-bool FakeStation::IsDrawable() const
-{
-    moLog->Call("VxHWStation.IsDrawable");
-    return drawable;
 }
 
 void FakeStation::IsDrawable(bool bDrawable)
 {
-    if (!bDrawable) {
-        moLog->Note("IsDrawable False");
-        drawable = false;
-        return;
-    }
-    drawable = true;
+    if (!bDrawable) moLog->Note("IsDrawable False");
+    drawable = bDrawable;
+    if (!bDrawable) return;
     for (const auto& place : std::exchange(mcolChanged, {})) RackPlaceChange.Raise(place);
     moLog->NoteEnd("IsDrawable True");
 }
 
-void FakeStation::StartConfiguration()
+void FakeStation::ShowModuleDiagnostics(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& /*oSubModule*/)
 {
-    moLog->Note("StartConfiguration");
-}
-
-void FakeStation::ShowModuleDiagnostics(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& oSubModule)
-{
-    moLog->Note("ShowModuleDiagnostics " + KeyOfPlace(oPlace) +
-                (oSubModule ? " " + dynamic_cast<const FakeModule&>(*oSubModule).orderNumber : ""));
+    moLog->Note("ShowModuleDiagnostics " + KeyOfPlace(oPlace));
 }
 
 bool FakeStation::PlaceModules(std::int32_t lPosition, const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces)
@@ -126,7 +74,7 @@ bool FakeStation::MoveModules(std::int32_t lPosition, const VxHWModulesPtr& oMod
                               const VxHWRackPlacesPtr& oSourcePlaces, const VxHWRackPlacesPtr& oPlaces)
 {
     moLog->Note("MoveModules " + std::to_string(lPosition) + " " + Names(oModules) + " from " + Keys(oSourcePlaces));
-    const Places sources = WithFellowMembers(PlacesOf(oSourcePlaces));
+    const Places sources = WithFellowMembers(AsFake(oSourcePlaces).members);
     if (Targets(lPosition, ModulesOf(oModules).size(), sources).empty()) return false;
     Clear(sources);
     return Fill(lPosition, ModulesOf(oModules), oPlaces);
@@ -135,7 +83,7 @@ bool FakeStation::MoveModules(std::int32_t lPosition, const VxHWModulesPtr& oMod
 void FakeStation::DeleteModules(const VxHWRackPlacesPtr& oPlaces)
 {
     moLog->Note("DeleteModules " + Keys(oPlaces));
-    Clear(WithFellowMembers(PlacesOf(oPlaces)));
+    Clear(WithFellowMembers(AsFake(oPlaces).members));
 }
 
 std::int32_t FakeStation::OpenModuleParamDialog(const VxHWRackPlacePtr& oPlace)
@@ -158,32 +106,30 @@ bool FakeStation::CanBePlaced(std::int32_t lPosition, const VxHWModulesPtr& oMod
 {
     moLog->Note("CanBePlaced " + std::to_string(lPosition) + " " + Names(oModules) +
                 (bMove ? " move from " : " copy ") + Keys(oSourcePlaces));
-    if (canBePlaced) return canBePlaced(lPosition);
-    const Places sources = bMove ? WithFellowMembers(PlacesOf(oSourcePlaces)) : Places{};
+    const Places sources = bMove ? WithFellowMembers(AsFake(oSourcePlaces).members) : Places{};
     return !Targets(lPosition, ModulesOf(oModules).size(), sources).empty();
 }
 
 Array2D<std::int32_t> FakeStation::GetPossibleDropPlaces(const VxHWModulePtr& oModule) const
 {
-    moLog->Call("VxHWStation.GetPossibleDropPlaces");
-    const auto& module = dynamic_cast<const FakeModule&>(*oModule);
-    const auto span = static_cast<std::size_t>(module.parent ? module.parent->placeCount : 1);
-    const auto placeCount = static_cast<std::int32_t>(Rack(0)->places->places.size());
-    Array2D<std::int32_t> possible(0, static_cast<std::int32_t>(racks->racks.size()) - 1, 1, placeCount);
-    for (const auto& rack : racks->racks)
-        for (const auto& place : rack->places->places) {
-            const auto lPosition = G_PlacePosition(rack->number, place->number);
-            const bool fits = canBePlaced ? canBePlaced(lPosition) : !Targets(lPosition, span, {}).empty();
-            possible.Set(rack->number, place->number, fits ? -1 : 0);
-        }
+    Call("VxHWStation.GetPossibleDropPlaces");
+    const auto& parent = AsFake(oModule).parent;
+    const auto span = static_cast<std::size_t>(parent ? parent->placeCount : 1);
+    Array2D<std::int32_t> possible(0, static_cast<std::int32_t>(racks->members.size()) - 1, 1,
+                                   static_cast<std::int32_t>(Rack(0)->places->members.size()));
+    for (const auto& rack : racks->members)
+        for (const auto& place : rack->places->members)
+            possible.Set(rack->number, place->number,
+                         Targets(G_PlacePosition(rack->number, place->number), span, {}).empty() ? 0 : -1);
     return possible;
 }
 
 VxHWModulesPtr FakeStation::ClipboardModules() const
 {
-    moLog->Call("VxHWStation.ClipboardModules");
-    return MakeModules(clipboard ? ReadFakeConfigText(TextOf(clipboard->content), moLog)
-                                 : std::vector<VxHWModulePtr>{});
+    Call("VxHWStation.ClipboardModules");
+    if (!clipboard) return MakeModules({});
+    return MakeModules(
+        ReadFakeConfigText({reinterpret_cast<const char*>(clipboard->data()), clipboard->size()}, moLog));
 }
 
 VxHWModulesPtr FakeStation::ModulesFromConfigText(std::string_view text, const ExchangeDataPtr& oExchange) const
@@ -195,64 +141,51 @@ VxHWModulesPtr FakeStation::ModulesFromConfigText(std::string_view text, const E
 void FakeStation::WriteModulesToExchange(const VxHWModulesPtr& oModules, const ExchangeDataPtr& oExchange) const
 {
     moLog->Note("WriteModulesToExchange " + Names(oModules));
-    oExchange->LoadData(BytesOf(WriteFakeConfigText(ModulesOf(oModules))));
+    const std::string text = WriteFakeConfigText(ModulesOf(oModules));
+    const auto* first = reinterpret_cast<const std::byte*>(text.data());
+    oExchange->LoadData({first, first + text.size()});
 }
 
 void FakeStation::PrepareModule(const VxHWModulePtr& oModule)
 {
-    moLog->Note("PrepareModule " + dynamic_cast<const FakeModule&>(*oModule).orderNumber);
+    moLog->Note("PrepareModule " + AsFake(oModule).orderNumber);
 }
 
 VxHWModulesPtr FakeStation::ExpandModule(const VxHWModulePtr& oModule)
 {
-    moLog->Note("ExpandModule " + dynamic_cast<const FakeModule&>(*oModule).orderNumber);
+    moLog->Note("ExpandModule " + AsFake(oModule).orderNumber);
     return MakeModules(MakeFakeMembers(std::dynamic_pointer_cast<FakeModule>(oModule), moLog));
 }
 
 void FakeStation::CreateSubModules(const VxHWModulePtr& oModule)
 {
-    auto& module = dynamic_cast<FakeModule&>(*oModule);
+    const auto& module = AsFake(oModule);
     moLog->Note("CreateSubModules " + module.orderNumber);
     for (std::int32_t i = 1; i <= module.subModuleCount; ++i)
-        module.subModules->modules.push_back(MakeModule(module.orderNumber + "." + std::to_string(i)));
+        module.subModules->members.push_back(MakeModule(module.orderNumber + "." + std::to_string(i)));
 }
 
 VxHWRackPlacesPtr FakeStation::ParentModulePlaces(const VxHWModulePtr& oParentModule) const
 {
-    moLog->Call("VxHWStation.ParentModulePlaces");
+    Call("VxHWStation.ParentModulePlaces");
     auto oPlaces = std::make_shared<FakeRackPlaces>(moLog);
-    for (const auto& rack : racks->racks)
-        for (const auto& place : rack->places->places)
-            if (place->module->parent && place->module->parent == oParentModule) oPlaces->places.push_back(place);
+    oPlaces->members = PlacesWith(oParentModule);
     return oPlaces;
 }
 
 bool FakeStation::HasGroupFrame(const VxHWRackPlacePtr& oPlace) const
 {
-    moLog->Call("VxHWStation.HasGroupFrame");
-    return dynamic_cast<const FakeRackPlace&>(*oPlace).module->parent != nullptr;
-}
-
-void FakeStation::RefreshDiagnostics()
-{
-    moLog->Note("RefreshDiagnostics");
-}
-
-void FakeStation::RefreshOnline()
-{
-    moLog->Note("RefreshOnline");
+    return Answer("VxHWStation.HasGroupFrame", dynamic_cast<const FakeRackPlace&>(*oPlace).module->parent != nullptr);
 }
 
 std::string FakeStation::EmptyPlaceTooltip(const VxHWRackPlacePtr& oPlace) const
 {
-    moLog->Call("VxHWStation.EmptyPlaceTooltip");
-    return "empty " + KeyOfPlace(oPlace);
+    return Answer("VxHWStation.EmptyPlaceTooltip", "empty " + KeyOfPlace(oPlace));
 }
 
 std::string FakeStation::ModuleTooltip(const VxHWModulePtr& oModule) const
 {
-    moLog->Call("VxHWStation.ModuleTooltip");
-    return "module " + dynamic_cast<const FakeModule&>(*oModule).orderNumber;
+    return Answer("VxHWStation.ModuleTooltip", "module " + AsFake(oModule).orderNumber);
 }
 
 FakeModulePtr FakeStation::MakeModule(std::string orderNumber) const
@@ -268,63 +201,68 @@ FakeModulePtr FakeStation::Put(std::int32_t lRack, std::int32_t lPlace, std::str
 {
     auto module = MakeModule(std::move(orderNumber));
     module->placeCount = lPlaceCount;
-    if (lPlaceCount < 1) {
-        Place(lRack, lPlace)->module = module;
-        return module;
-    }
-    for (const auto& oMember : MakeFakeMembers(module, moLog)) {
-        auto member = std::dynamic_pointer_cast<FakeModule>(oMember);
+    if (lPlaceCount < 1) Place(lRack, lPlace)->module = module;
+    for (const auto& member : MakeFakeMembers(module, moLog))
         Place(lRack, lPlace + member->indexInParent - 1)->module = member;
-    }
     return module;
 }
 
 std::string FakeStation::Content() const
 {
     std::string content;
-    for (const auto& rack : racks->racks)
-        for (const auto& place : rack->places->places)
-            if (!place->module->orderNumber.empty())
-                content += (content.empty() ? "" : " ") + place->key + "=" + place->module->orderNumber;
+    for (const auto& place : AllPlaces())
+        if (!place->module->orderNumber.empty())
+            content += (content.empty() ? "" : " ") + place->key + "=" + place->module->orderNumber;
     return content;
+}
+
+FakeStation::Places FakeStation::AllPlaces() const
+{
+    Places all;
+    for (const auto& rack : racks->members)
+        all.insert(all.end(), rack->places->members.begin(), rack->places->members.end());
+    return all;
 }
 
 FakeStation::Places FakeStation::Targets(std::int32_t lPosition, std::size_t count, const Places& sources) const
 {
     const PositionInfo info = G_PositionInfo(lPosition);
     if (count == 0 || (info.eType != vxPositionPlace && info.eType != vxPositionGap)) return {};
-    const auto& places = Rack(info.lRack)->places->places;
+    const auto& places = Rack(info.lRack)->places->members;
     const auto first = static_cast<std::size_t>(info.eType == vxPositionGap ? info.lNumber : info.lNumber - 1);
     if (first + count > places.size()) return {};
-    Places targets(places.begin() + static_cast<std::ptrdiff_t>(first),
-                   places.begin() + static_cast<std::ptrdiff_t>(first + count));
+    const auto begin = places.begin() + static_cast<std::ptrdiff_t>(first);
+    Places targets(begin, begin + static_cast<std::ptrdiff_t>(count));
     const bool allFree = std::all_of(targets.begin(), targets.end(), [&](const FakeRackPlacePtr& place) {
         return place->usability != vxPlaceNotUsable && (place->module->orderNumber.empty() || Contains(sources, place));
     });
     return allFree ? targets : Places{};
 }
 
-bool FakeStation::Fill(std::int32_t lPosition, const std::vector<VxHWModulePtr>& modules,
-                       const VxHWRackPlacesPtr& oPlaces)
+bool FakeStation::Fill(std::int32_t lPosition, const FakeModuleList& modules, const VxHWRackPlacesPtr& oPlaces)
 {
     const Places targets = Targets(lPosition, modules.size(), {});
     for (std::size_t i = 0; i < targets.size(); ++i) {
-        targets[i]->module = std::dynamic_pointer_cast<FakeModule>(modules[i]);
-        dynamic_cast<FakeRackPlaces&>(*oPlaces).places.push_back(targets[i]);
+        targets[i]->module = modules[i];
+        AsFake(oPlaces).members.push_back(targets[i]);
         Changed(targets[i]);
     }
     return !targets.empty();
 }
 
+FakeStation::Places FakeStation::PlacesWith(const VxHWModulePtr& oParentModule) const
+{
+    Places places = AllPlaces();
+    std::erase_if(places, [&](const auto& place) { return !oParentModule || place->module->parent != oParentModule; });
+    return places;
+}
+
 FakeStation::Places FakeStation::WithFellowMembers(const Places& places) const
 {
     Places all = places;
-    for (const auto& place : places) {
-        if (!place->module->parent) continue;
-        const auto oFellows = ParentModulePlaces(place->module->parent);
-        for (const auto& fellow : PlacesOf(oFellows))
+    for (const auto& place : places)
+        for (const auto& fellow : PlacesWith(place->module->parent))
             if (!Contains(all, fellow)) all.push_back(fellow);
-    }
     return all;
 }
 
@@ -343,10 +281,10 @@ void FakeStation::Changed(const FakeRackPlacePtr& place)
     else mcolChanged.push_back(place);
 }
 
-std::shared_ptr<FakeModules> FakeStation::MakeModules(std::vector<VxHWModulePtr> modules) const
+VxHWModulesPtr FakeStation::MakeModules(FakeModuleList modules) const
 {
     auto oModules = std::make_shared<FakeModules>(moLog);
-    oModules->modules = std::move(modules);
+    oModules->members = std::move(modules);
     return oModules;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/model/VxHWStation.h"
-#include "tests/support/model/FakeRacks.h"
-#include "tests/support/services/FakeClipboard.h"
+#include "platform/DataObject.h"
+#include "tests/support/model/FakeConfigText.h"
 
 #include <functional>
 #include <memory>
@@ -13,17 +13,17 @@ namespace zqbchwcx::testing {
 
 /// A station in memory with the simplest of rules: modules fill usable empty places from the position on (a gap stands
 /// for the place behind it). Place events wait while drawing is off and follow when it is switched on.
-class FakeStation : public VxHWStation {
+class FakeStation : public VxHWStation, public Logged {
 public:
     FakeStation(CallLogPtr log, std::int32_t lRacks, std::int32_t lPlaces);
 
-    std::int32_t DisplayMode() const override;
-    std::int32_t StationKind() const override;
-    bool IsReadOnly() const override;
-    VxHWRacksPtr Racks() const override;
-    bool IsDrawable() const override;
+    std::int32_t DisplayMode() const override { return Answer("VxHWStation.DisplayMode", displayMode); }
+    std::int32_t StationKind() const override { return Answer("VxHWStation.StationKind", stationKind); }
+    bool IsReadOnly() const override { return Answer("VxHWStation.IsReadOnly", readOnly); }
+    VxHWRacksPtr Racks() const override { return Answer("VxHWStation.Racks", racks); }
+    bool IsDrawable() const override { return Answer("VxHWStation.IsDrawable", drawable); }
     void IsDrawable(bool bDrawable) override;
-    void StartConfiguration() override;
+    void StartConfiguration() override { moLog->Note("StartConfiguration"); }
     void ShowModuleDiagnostics(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& oSubModule) override;
     bool PlaceModules(std::int32_t lPosition, const VxHWModulesPtr& oModules,
                       const VxHWRackPlacesPtr& oPlaces) override;
@@ -43,16 +43,16 @@ public:
     void CreateSubModules(const VxHWModulePtr& oModule) override;
     VxHWRackPlacesPtr ParentModulePlaces(const VxHWModulePtr& oParentModule) const override;
     bool HasGroupFrame(const VxHWRackPlacePtr& oPlace) const override;
-    void RefreshDiagnostics() override;
-    void RefreshOnline() override;
+    void RefreshDiagnostics() override { moLog->Note("RefreshDiagnostics"); }
+    void RefreshOnline() override { moLog->Note("RefreshOnline"); }
     std::string EmptyPlaceTooltip(const VxHWRackPlacePtr& oPlace) const override;
     std::string ModuleTooltip(const VxHWModulePtr& oModule) const override;
 
     /// The objects of the station; reaching them so is no fault point.
-    FakeRackPtr Rack(std::int32_t lRack) const { return racks->racks.at(static_cast<std::size_t>(lRack)); }
+    FakeRackPtr Rack(std::int32_t lRack) const { return racks->members.at(static_cast<std::size_t>(lRack)); }
     FakeRackPlacePtr Place(std::int32_t lRack, std::int32_t lPlace) const
     {
-        return Rack(lRack)->places->places.at(static_cast<std::size_t>(lPlace - 1));
+        return Rack(lRack)->places->members.at(static_cast<std::size_t>(lPlace - 1));
     }
     FakeModulePtr Module(std::int32_t lRack, std::int32_t lPlace) const { return Place(lRack, lPlace)->module; }
 
@@ -66,24 +66,23 @@ public:
     std::int32_t stationKind = vxStationKindCentral;
     bool readOnly = false;
     bool drawable = true;
-    /// Replaces the rule of `CanBePlaced` when set.
-    std::function<bool(std::int32_t lPosition)> canBePlaced;
-    /// What `ClipboardModules` reads; null is an empty clipboard.
-    std::shared_ptr<FakeClipboard> clipboard;
+    /// What `ClipboardModules` reads; null or without content is an empty clipboard.
+    std::shared_ptr<ByteArray> clipboard;
     std::shared_ptr<FakeRacks> racks;
 
 private:
     using Places = std::vector<FakeRackPlacePtr>;
 
+    Places AllPlaces() const;
     /// The places that the modules would fill, or none when they do not fit.
     Places Targets(std::int32_t lPosition, std::size_t count, const Places& sources) const;
-    bool Fill(std::int32_t lPosition, const std::vector<VxHWModulePtr>& modules, const VxHWRackPlacesPtr& oPlaces);
+    bool Fill(std::int32_t lPosition, const FakeModuleList& modules, const VxHWRackPlacesPtr& oPlaces);
+    Places PlacesWith(const VxHWModulePtr& oParentModule) const;
     Places WithFellowMembers(const Places& places) const;
     void Clear(const Places& places);
     void Changed(const FakeRackPlacePtr& place);
-    std::shared_ptr<FakeModules> MakeModules(std::vector<VxHWModulePtr> modules) const;
+    VxHWModulesPtr MakeModules(FakeModuleList modules) const;
 
-    CallLogPtr moLog;
     Places mcolChanged;
 };
 using FakeStationPtr = std::shared_ptr<FakeStation>;

@@ -32,21 +32,21 @@ std::string Styled(std::string_view key, Point at, DrawStyle style)
 
 } // namespace
 
-RecordingPictureBox::RecordingPictureBox(CallLogPtr log, const Rect& rect) : moLog(std::move(log)), mRect(rect)
+RecordingPictureBox::RecordingPictureBox(CallLogPtr log, const Rect& rect) : Logged(std::move(log)), mRect(rect)
 {
     raster.Resize(ScaleSize(), mBackColor);
 }
 
 void RecordingPictureBox::Move(const Rect& rect)
 {
-    moLog->Call("PictureBox.Move");
+    Call("PictureBox.Move");
     mRect = rect;
     if (ScaleSize() != raster.RasterSize()) raster.Resize(ScaleSize(), mBackColor);
 }
 
 void RecordingPictureBox::Visible(bool bVisible)
 {
-    moLog->Call("PictureBox.Visible");
+    Call("PictureBox.Visible");
     mbVisible = bVisible;
 }
 
@@ -59,7 +59,7 @@ void RecordingPictureBox::BackColor(OleColor color)
 
 void RecordingPictureBox::Refresh()
 {
-    moLog->Call("PictureBox.Refresh");
+    Call("PictureBox.Refresh");
     ++refreshCount;
 }
 
@@ -130,7 +130,7 @@ std::vector<std::string> RecordingPictureBox::TakeLines()
 
 void RecordingPictureBox::Line(std::string line)
 {
-    moLog->Call("PictureBox " + line);
+    Call("PictureBox " + line);
     lines.push_back(std::move(line));
 }
 

@@ -11,7 +11,7 @@
 namespace zqbchwcx::testing {
 
 /// A picture box that keeps every drawing call as a line, and the picture that they make. The test plays the user.
-class RecordingPictureBox : public PictureBox {
+class RecordingPictureBox : public PictureBox, public Logged {
 public:
     RecordingPictureBox(CallLogPtr log, const Rect& rect);
 
@@ -51,7 +51,6 @@ public:
 private:
     void Line(std::string line);
 
-    CallLogPtr moLog;
     Rect mRect;
     PictureBoxEvents* mpEvents = nullptr;
     bool mbVisible = true;

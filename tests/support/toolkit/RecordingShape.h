@@ -7,20 +7,16 @@
 
 namespace zqbchwcx::testing {
 
-class RecordingShape : public Frame {
+class RecordingShape : public Frame, public Logged {
 public:
-    RecordingShape(CallLogPtr log, const Rect& rect) : moLog(std::move(log)), mBounds(rect) {}
+    RecordingShape(CallLogPtr log, const Rect& rect) : Logged(std::move(log)), mBounds(rect) {}
 
     Rect Bounds() const override { return mBounds; }
-    void Move(const Rect& rect) override
-    {
-        moLog->Call("Shape.Move");
-        mBounds = rect;
-    }
+    void Move(const Rect& rect) override { Call("Shape.Move"), mBounds = rect; }
     bool Visible() const override { return mbVisible; }
     void Visible(bool bVisible) override
     {
-        moLog->Call("Shape.Visible");
+        Call("Shape.Visible");
         mbVisible = bVisible;
         ++visibleWrites;
     }
@@ -28,7 +24,6 @@ public:
     std::int32_t visibleWrites = 0;
 
 private:
-    CallLogPtr moLog;
     Rect mBounds;
     bool mbVisible = true;
 };

@@ -10,13 +10,13 @@
 namespace zqbchwcx::testing {
 
 /// Knows who answers for which window.
-class RecordingTooltips : public TooltipService {
+class RecordingTooltips : public TooltipService, public Logged {
 public:
-    explicit RecordingTooltips(CallLogPtr log) : moLog(std::move(log)) {}
+    using Logged::Logged;
 
     TooltipConnectionPtr Connect(std::intptr_t hWnd, TooltipCallback& callback) override
     {
-        moLog->Call("TooltipService.Connect");
+        Call("TooltipService.Connect");
         return std::make_unique<Connection>(mcolCallbacks, hWnd, callback);
     }
 
@@ -42,7 +42,6 @@ private:
         std::intptr_t mhWnd;
     };
 
-    CallLogPtr moLog;
     std::shared_ptr<Callbacks> mcolCallbacks = std::make_shared<Callbacks>();
 };
 

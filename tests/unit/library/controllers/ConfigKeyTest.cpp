@@ -1,8 +1,7 @@
 #include "controllers/config/VxHWConfigCtrlKey.h"
 #include "controllers/config/VxHWConfigROCtrlKey.h"
 #include "controllers/config/VxHWConfigROOfflineCtrlKey.h"
-#include "platform/Input.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -135,11 +134,10 @@ TEST_F(ConfigKey, CutKeepsModulesThatDidNotReachTheClipboard)
     key->Copy();
     const std::int32_t lCallsOfACopy = services.Faults().Count();
     for (std::int32_t lCall = 1; lCall <= lCallsOfACopy; ++lCall) {
-        services.objects->clipboard->content.clear();
+        services.host->clipboard->clear();
         services.Faults().ThrowAt(lCall);
         key->Cut();
-        EXPECT_TRUE(station->Content() == "0/2=A" || !services.objects->clipboard->content.empty())
-            << services.Faults().Thrown();
+        EXPECT_TRUE(station->Content() == "0/2=A" || !services.host->clipboard->empty()) << services.Faults().Thrown();
         services.Faults().Restart();
         station->Put(0, 2, "A");
     }

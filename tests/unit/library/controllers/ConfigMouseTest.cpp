@@ -1,6 +1,5 @@
 #include "controllers/config/VxHWConfigROCtrlMouse.h"
-#include "platform/Input.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {

@@ -1,9 +1,6 @@
 #include "managers/VxHWConfigManager.h"
 
-#include "platform/Input.h"
-#include "tests/support/controls/RecordingControl.h"
-#include "tests/support/services/FakeDataObject.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -21,16 +18,14 @@ protected:
         manager->Initialize(vxStationTypeDistributed2, overview, table, station);
         handler = manager->VxHWSelectionHandler();
     }
-    std::vector<std::string> Registered() const
+    Lines Registered() const
     {
-        std::vector<std::string> classes;
-        for (const auto& [lId, category] : services.instances->live) classes.push_back(category.second);
+        Lines classes;
+        for (const auto& [lId, category] : services.host->live) classes.push_back(category.second);
         return classes;
     }
 
     std::shared_ptr<VxHWConfigManager> manager = std::make_shared<VxHWConfigManager>();
-    std::shared_ptr<RecordingControl> overview = std::make_shared<RecordingControl>(services.log, "overview");
-    std::shared_ptr<RecordingControl> table = std::make_shared<RecordingControl>(services.log, "table");
 };
 
 TEST_F(ConfigManager, ConnectsViewsThenStartsConfiguration)
@@ -59,7 +54,7 @@ TEST_F(ConfigManager, FocusesAndSelectsTheFirstUsablePlaceOfRackZero)
 
 TEST_F(ConfigManager, ReportsARackWithoutUsablePlaces)
 {
-    for (const auto& place : station->Rack(0)->places->places) place->usability = vxPlaceNotUsable;
+    for (const auto& place : station->Rack(0)->places->members) place->usability = vxPlaceNotUsable;
     Initialize();
     EXPECT_EQ(Marks(), " | 0 | 0");
     EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigManager.P_InitSelection"));
@@ -120,7 +115,7 @@ TEST_F(ConfigManager, TerminateInTheMiddleOfADragTellsNobodyAboutItsEnd)
     oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragLeave);
     manager->Terminate();
     services.Lines().clear();
-    services.Minimal()->clock.Advance(20);
+    services.toolkit->clock.Advance(20);
     EXPECT_EQ(oDragDrop->State(), vxDragDropStateInactive);
     EXPECT_THAT(TakeLines(), IsEmpty());
 }
@@ -143,7 +138,7 @@ TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
     station->Put(0, 1, "A")->hasParamDialog = true;
     services.Lines().clear();
     const auto actions = [&] {
-        std::vector<std::string> begun;
+        Lines begun;
         for (const auto& line : TakeLines())
             if (line.starts_with("Begin") || line.starts_with("Open")) begun.push_back(line);
         return begun;
@@ -188,7 +183,7 @@ TEST_F(ConfigManager, PlacesAtTheFocusWhenNothingIsSelected)
     EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"CreateSubModules M", "PlaceModules 7 [M]"}));
     handler->FocusPosition(12);
     EXPECT_TRUE(manager->SetSingleModuleToCurPos(module));
-    EXPECT_EQ(module->subModules->modules.size(), 2U) << "created once";
+    EXPECT_EQ(module->subModules->members.size(), 2U) << "created once";
 }
 
 TEST_F(ConfigManager, PlacesAModuleOfSeveralPlacesWithItsMembers)

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "controllers/interfaces/IVxHWController.h"
+#include "platform/Input.h"
 #include "selection/VxHWSelectionHandler.h"
+#include "tests/support/controls/RecordingView.h"
 #include "tests/support/model/FakeStation.h"
 #include "tests/support/services/TestServices.h"
 
@@ -15,26 +16,20 @@
 
 namespace zqbchwcx::testing {
 
-/// A station of two racks with eleven places each, and a handler that keeps its selection. A test that provokes errors
-/// takes them with `TakeReports`; any other report fails it.
-class StationFixture : public ::testing::Test {
-protected:
-    StationFixture()
-    {
-        station->clipboard = services.objects->clipboard;
-        handler->VxHWStation(station);
-        services.Lines().clear();
-    }
-    void TearDown() override { EXPECT_EQ(TakeReports(), std::vector<std::string>{}); }
+using Lines = std::vector<std::string>;
 
-    /// The sources of the errors reported so far.
-    std::vector<std::string> TakeReports()
+/// A station with eleven places in each rack, a handler that keeps its selection, and what else takes part in a mode.
+class StationStage {
+public:
+    explicit StationStage(std::int32_t lRacks = 2) : station(std::make_shared<FakeStation>(services.log, lRacks, 11))
     {
-        std::vector<std::string> sources;
-        for (const auto& report : std::exchange(services.errors->reports, {})) sources.push_back(report.source);
-        return sources;
+        station->clipboard = services.host->clipboard;
+        handler->VxHWStation(station);
+        TakeLines();
     }
-    std::vector<std::string> TakeLines() { return std::exchange(services.Lines(), {}); }
+
+    Lines TakeLines() { return std::exchange(services.Lines(), {}); }
+    Lines TakeReports() { return services.host->TakeReports(); }
 
     template <class Controller>
     std::shared_ptr<Controller> MakeController()
@@ -51,8 +46,8 @@ protected:
     /// Selects the places (rack, place) and tells it.
     void Select(const std::vector<std::pair<std::int32_t, std::int32_t>>& places)
     {
-        SelPlaces().places.clear();
-        for (const auto& [lRack, lPlace] : places) SelPlaces().places.push_back(station->Place(lRack, lPlace));
+        SelPlaces().members.clear();
+        for (const auto& [lRack, lPlace] : places) SelPlaces().members.push_back(station->Place(lRack, lPlace));
         handler->SelChangeComplete();
     }
     void FocusAndAnchor(std::int32_t lFocus, std::int32_t lAnchor)
@@ -68,8 +63,19 @@ protected:
     }
 
     TestServices services;
-    FakeStationPtr station = std::make_shared<FakeStation>(services.log, 2, 11);
+    FakeStationPtr station;
     VxHWSelectionHandlerPtr handler = std::make_shared<VxHWSelectionHandler>();
+    std::shared_ptr<RecordingView> overview = std::make_shared<RecordingView>(services.log, "overview");
+    std::shared_ptr<RecordingView> table = std::make_shared<RecordingView>(services.log, "table");
+    std::shared_ptr<FakeDataObject> data = std::make_shared<FakeDataObject>(services.log);
+};
+
+/// A test that provokes errors takes them with `TakeReports`; any other report fails it.
+class StationFixture : public ::testing::Test, public StationStage {
+protected:
+    using StationStage::StationStage;
+
+    void TearDown() override { EXPECT_EQ(TakeReports(), Lines{}); }
 };
 
 } // namespace zqbchwcx::testing
