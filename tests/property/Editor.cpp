@@ -1,41 +1,36 @@
 #include "tests/property/Editor.h"
 
-#include "reference/catalogue/CatalogueReader.h"
-#include "reference/files/StationReader.h"
 #include "reference/files/StationWriter.h"
-#include "reference/model/contract/ModelFactory.h"
 #include "reference/model/rules/CheckStation.h"
-#include "tests/property/ExchangeObjects.h"
-#include "tests/support/SourceFile.h"
+#include "tests/support/Samples.h"
 
 namespace zqbchwcx::testing {
+namespace {
 
-std::shared_ptr<const reference::Catalogue> ShippedCatalogue()
+std::string LookOf(const RecordingToolkit::ShapesByName& shapesByName)
 {
-    static const auto catalogue =
-        std::make_shared<const reference::Catalogue>(reference::LoadCatalogueDirectory(SourceFile("assets/catalogue")));
-    return catalogue;
+    std::string look;
+    for (const auto& [name, shapes] : shapesByName)
+        for (const auto* shape : shapes) {
+            const Rect bounds = shape->Visible() ? shape->Bounds() : Rect{};
+            look += name + " " + std::to_string(bounds.left) + "," + std::to_string(bounds.top) + "\n";
+        }
+    return look;
 }
 
-reference::StationData ExampleStation(const std::string& name)
-{
-    return reference::LoadStation(SourceFile("examples/" + name + ".station.json"), *ShippedCatalogue()).data;
-}
+} // namespace
 
 Editor::Editor(reference::StationData data)
 {
-    for (const auto* name : {"IDB_CRX_RACKNR_ACTIVE", "IDB_CRX_RACKNR_INACTIVE"})
-        services.host->pictures[name] = std::make_shared<FakeImage>(name);
     const auto context =
-        std::make_shared<reference::ModelContext>(reference::ModelContext{ShippedCatalogue(), nullptr});
-    services.objects = std::make_shared<ExchangeObjects>(log, clipboard);
-    ServiceRoot& root = G_ServiceRoot();
-    root.errorService = errors;
-    root.objectFactory = services.objects;
-    root.modelFactory = std::make_shared<reference::ModelFactory>(context);
+        std::make_shared<reference::ModelContext>(reference::ModelContext{reference::SharedCatalogue(), nullptr});
+    host = std::make_shared<EditorHost>(log, context);
+    for (const auto* name : {"IDB_CRX_RACKNR_ACTIVE", "IDB_CRX_RACKNR_INACTIVE"})
+        host->pictures[name] = std::make_shared<FakeImage>(name);
+    G_ServiceRoot() = {toolkit, host, host, host, host, host, host, {}};
 
     reference::StationServices asked;
-    asked.clipboard = clipboard;
+    asked.clipboard = host->modelClipboard;
     asked.parameterDialog = [this](const reference::ModuleData& module, reference::PlaceRef) {
         log->Call("ParameterDialog");
         return parameters ? parameters(module) : std::nullopt;
@@ -43,14 +38,15 @@ Editor::Editor(reference::StationData data)
     station = std::make_shared<FaultyStation>(log, context, std::move(data), std::move(asked));
     mRefused = station->Refused.Connect([this](const reference::Refusal&) { ++refusals; });
     history = std::make_shared<reference::History>(station);
-    errors->history = history;
+    host->actions = history;
 
-    moOtherSite = std::make_unique<RecordingControl>(log);
-    moOtherView = std::make_shared<VxHWRackOverview>(*moOtherSite);
-    KeepPictures();
-    moSite = std::make_unique<RecordingControl>(log);
-    view = std::make_shared<VxHWRackOverview>(*moSite);
-    KeepPictures();
+    for (auto& [made, site] : {std::tie(moOtherView, moOtherSite), std::tie(view, moSite)}) {
+        toolkit->shapes.clear();
+        site = std::make_unique<RecordingControl>(log);
+        made = std::make_shared<VxHWRackOverview>(*site);
+        for (const auto* name : {"pic_Main", "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
+    }
+    mcolShapes = toolkit->shapes;
     moPicture = toolkit->pictureBoxes.at("pic_Main");
     moMenu = toolkit->menus.at("pmnu_Main");
     moManager = std::make_unique<VxHWConfigManager>();
@@ -68,11 +64,6 @@ Editor::~Editor()
     moOtherView.reset();
 }
 
-void Editor::KeepPictures()
-{
-    for (const auto* name : {"pic_Main", "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
-}
-
 std::string Editor::Text() const
 {
     return reference::WriteStation(station->Data());
@@ -81,12 +72,12 @@ std::string Editor::Text() const
 std::string Editor::WhatIsWrong()
 {
     std::string wrong;
-    for (const VxError& report : errors->reports) wrong += report.source + ": " + report.description + "\n";
-    errors->reports.clear();
-    for (const auto& refusal : reference::CheckStation(station->Data(), *ShippedCatalogue()))
+    for (const VxError& report : host->reports) wrong += report.source + ": " + report.description + "\n";
+    host->reports.clear();
+    for (const auto& refusal : reference::CheckStation(station->Data(), reference::ShippedCatalogue()))
         wrong += std::string(reference::RuleId(refusal.rule)) + ": " + refusal.text.en + "\n";
-    if (services.host->waitBalance != 0) wrong += "the wait cursor stays\n";
-    if (errors->openActions != 0) wrong += "a user action stays open\n";
+    if (host->waitBalance != 0) wrong += "the wait cursor stays\n";
+    if (host->openActions != 0) wrong += "a user action stays open\n";
     if (!station->IsDrawable()) wrong += "the station's drawing stays off\n";
     return wrong;
 }
@@ -95,6 +86,7 @@ std::shared_ptr<VxHWRackOverview> Editor::MakeView(RecordingControl& site) const
 {
     auto made = std::make_shared<VxHWRackOverview>(site);
     made->Style(view->Style());
+    made->Locked(view->Locked());
     made->VxHWStation(view->VxHWStation());
     made->VxHWSelectionHandler(view->VxHWSelectionHandler());
     made->VxHWMouseInputController(view->VxHWMouseInputController());
@@ -106,11 +98,14 @@ std::shared_ptr<VxHWRackOverview> Editor::MakeView(RecordingControl& site) const
 std::string Editor::DifferenceFromAFreshPicture() const
 {
     RecordingControl site(log);
+    toolkit->shapes.clear();
     const auto fresh = MakeView(site);
     RecordingPictureBox& picture = *toolkit->pictureBoxes.at("pic_Main");
     picture.Focus(moPicture->HasFocus());
     fresh->Refresh();
-    return Raster::FirstDifference(moPicture->raster, picture.raster);
+    const std::string difference = Raster::FirstDifference(moPicture->raster, picture.raster);
+    const std::string look = LookOf(mcolShapes);
+    return look == LookOf(toolkit->shapes) ? difference : difference + " shapes:\n" + look;
 }
 
 void Editor::ForgetLines()
@@ -118,7 +113,6 @@ void Editor::ForgetLines()
     log->lines.clear();
     for (auto* picture : mcolPictures) picture->lines.clear();
     moMenu->shown.clear();
-    toolkit->shapes.clear();
     toolkit->imageLists.created.clear();
     toolkit->imageLists.files->asked.clear();
 }

@@ -3,13 +3,9 @@
 #include "managers/VxHWConfigManager.h"
 #include "reference/history/History.h"
 #include "selection/VxHWSelectionHandler.h"
-#include "tests/property/DragData.h"
+#include "tests/property/EditorHost.h"
 #include "tests/property/FaultyStation.h"
-#include "tests/property/HistoryErrors.h"
-#include "tests/property/MemoryClipboard.h"
-#include "tests/support/services/FakeDataObject.h"
 #include "tests/support/services/TestServices.h"
-#include "tests/support/toolkit/RecordingToolkit.h"
 #include "views/config/VxHWRackOverview.h"
 
 #include <functional>
@@ -19,10 +15,6 @@
 #include <vector>
 
 namespace zqbchwcx::testing {
-
-/// The modules that Quillon Ed ships, read once.
-std::shared_ptr<const reference::Catalogue> ShippedCatalogue();
-reference::StationData ExampleStation(const std::string& name);
 
 /// A whole editor without a screen: the reference station with its history, and two overviews of it that
 /// `VxHWConfigManager` has connected. The test is the user.
@@ -51,11 +43,10 @@ public:
     /// Forgets what the doubles have recorded.
     void ForgetLines();
 
-    CallLogPtr log = std::make_shared<CallLog>();
-    std::shared_ptr<RecordingToolkit> toolkit = std::make_shared<RecordingToolkit>(log);
-    TestServices services{log, toolkit};
-    std::shared_ptr<MemoryClipboard> clipboard = std::make_shared<MemoryClipboard>(log);
-    std::shared_ptr<HistoryErrors> errors = std::make_shared<HistoryErrors>(log);
+    TestServices services;
+    CallLogPtr log = services.log;
+    std::shared_ptr<RecordingToolkit> toolkit = services.toolkit;
+    std::shared_ptr<EditorHost> host;
     /// What the parameter dialog answers.
     std::function<std::optional<reference::ModuleData>(const reference::ModuleData&)> parameters;
     std::shared_ptr<FaultyStation> station;
@@ -65,7 +56,6 @@ public:
     std::int32_t refusals = 0;
 
 private:
-    void KeepPictures();
     std::shared_ptr<VxHWRackOverview> MakeView(RecordingControl& site) const;
 
     std::unique_ptr<RecordingControl> moSite;
@@ -74,6 +64,7 @@ private:
     std::unique_ptr<VxHWConfigManager> moManager;
     EventConnection mRefused;
     std::vector<RecordingPictureBox*> mcolPictures; ///< of both views
+    RecordingToolkit::ShapesByName mcolShapes;
     RecordingPictureBox* moPicture = nullptr;
     RecordingPopupMenu* moMenu = nullptr;
 };

@@ -2,9 +2,9 @@
 
 #include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWRackPlace.h"
+#include "tests/support/Samples.h"
 
 #include <array>
-#include <iterator>
 
 namespace zqbchwcx::testing {
 
@@ -26,6 +26,8 @@ std::string RandomUser::DoSomething()
         Action{5, "catalogue", &RandomUser::TakeFromCatalogue},
         Action{3, "parameters", &RandomUser::Configure},
         Action{3, "attribute", &RandomUser::TypeAttribute},
+        Action{3, "batch", &RandomUser::ChangeInABatch},
+        Action{1, "locking", &RandomUser::Lock},
         Action{8, "undo or redo", &RandomUser::UndoOrRedo},
         Action{1, "keyboard focus", &RandomUser::ChangeKeyboardFocus},
     };
@@ -69,6 +71,7 @@ void RandomUser::Press()
     for (std::int32_t moves = Any(1, 6); moves > 0; --moves, ++mlEvents) {
         const auto [x2, y2] = AnyPoint();
         mouse.MouseMove(nButton, 0, x2, y2);
+        if (OneIn(8)) TypeAttribute();
     }
     const auto [x3, y3] = AnyPoint();
     mouse.MouseUp(nButton, AnyShift(), x3, y3);
@@ -206,6 +209,25 @@ void RandomUser::TypeAttribute()
     ++mlEvents;
 }
 
+void RandomUser::ChangeInABatch()
+{
+    auto& handler = *moEditor.view->VxHWSelectionHandler();
+    moEditor.station->IsDrawable(false);
+    TypeAttribute();
+    handler.SelPlaces()->Clear();
+    handler.SelPlaces()->Add(AnyPlace());
+    handler.SelChangeComplete();
+    handler.FocusPosition(G_PlacePosition(0, 0) + Any(0, 23));
+    moEditor.station->IsDrawable(true);
+    ++mlEvents;
+}
+
+void RandomUser::Lock()
+{
+    moEditor.view->Locked(!moEditor.view->Locked());
+    ++mlEvents;
+}
+
 void RandomUser::UndoOrRedo()
 {
     for (std::int32_t steps = Any(1, 4); steps > 0; --steps, ++mlEvents) {
@@ -248,7 +270,7 @@ VxHWRackPlacePtr RandomUser::AnyPlace()
 
 std::string RandomUser::AnyOrderNumber()
 {
-    const auto& types = ShippedCatalogue()->Types();
+    const auto& types = reference::ShippedCatalogue().Types();
     return types[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(types.size()) - 1))].orderNumber;
 }
 

@@ -31,6 +31,8 @@ private:
     void TakeFromCatalogue();
     void Configure();
     void TypeAttribute();
+    void ChangeInABatch();
+    void Lock();
     void UndoOrRedo();
     void ChangeKeyboardFocus();
 

@@ -22,6 +22,7 @@ namespace zqbchwcx::testing {
 class RecordingToolkit : public Toolkit, public Logged {
 public:
     using Logged::Logged;
+    using ShapesByName = std::map<std::string, std::vector<RecordingShape*>>;
 
     PictureBoxPtr CreatePictureBox(UserControl&, std::string_view name, const Rect& rect) override
     {
@@ -60,7 +61,7 @@ public:
     std::map<std::string, RecordingPictureBox*> pictureBoxes;
     std::map<std::string, RecordingControl*> controls;
     std::map<std::string, RecordingPopupMenu*> menus;
-    std::map<std::string, std::vector<RecordingShape*>> shapes;
+    ShapesByName shapes;
     std::function<void()> sysColorsChanged; ///< the test calls it
 
 private:

@@ -1,7 +1,7 @@
 #include "reference/catalogue/CatalogueReader.h"
 
+#include "tests/support/Samples.h"
 #include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
 
 #include <gmock/gmock.h>
 

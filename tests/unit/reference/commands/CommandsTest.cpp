@@ -1,8 +1,8 @@
 #include "reference/commands/CheckReport.h"
 #include "reference/commands/Convert.h"
 #include "reference/commands/ModuleListText.h"
+#include "tests/support/Samples.h"
 #include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
 #include "reference/files/AtomicWrite.h"
 
 #include "reference/files/StationWriter.h"
+#include "tests/support/Samples.h"
 #include "tests/unit/reference/files/FaultyFiles.h"
-#include "tests/unit/reference/files/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
 
 #include <gmock/gmock.h>

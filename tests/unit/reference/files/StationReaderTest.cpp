@@ -1,4 +1,4 @@
-#include "tests/unit/reference/files/Samples.h"
+#include "tests/support/Samples.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

@@ -6,6 +6,7 @@
 #include "reference/model/contract/Module.h"
 #include "reference/model/contract/RackPlaces.h"
 #include "reference/model/contract/TypeExchange.h"
+#include "tests/support/MemoryClipboard.h"
 #include "tests/unit/reference/model/SampleModel.h"
 
 #include <gmock/gmock.h>
@@ -17,18 +18,6 @@ namespace {
 using namespace reference;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class MemoryClipboard : public Clipboard {
-public:
-    std::optional<ByteArray> Read(std::string_view formatName) const override
-    {
-        return formatName == ConfigTextName ? moData : std::nullopt;
-    }
-    void Write(std::string_view /*formatName*/, const ByteArray& data) override { moData = data; }
-
-private:
-    std::optional<ByteArray> moData;
-};
 
 /// Rack 0: PS CPU IM DI AI2 + - DO; and what the station tells, as text.
 class ReferenceStation : public ::testing::Test {

@@ -1,8 +1,8 @@
 #include "reference/services/Texts.h"
 
 #include "foundation/VxError.h"
+#include "tests/support/Samples.h"
 #include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
 
 #include <gmock/gmock.h>
 
