@@ -1,12 +1,9 @@
 #include "ModelContract.h"
 
 #include "reference/model/contract/ModelFactory.h"
-#include "reference/model/contract/Station.h"
 #include "reference/model/contract/TypeExchange.h"
 #include "tests/support/MemoryClipboard.h"
 #include "tests/unit/reference/model/SampleModel.h"
-
-#include <memory>
 
 namespace zqbchwcx::testing {
 namespace {

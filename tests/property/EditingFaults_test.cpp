@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <string>
-
 namespace zqbchwcx::testing {
 namespace {
 

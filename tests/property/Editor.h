@@ -8,11 +8,7 @@
 #include "tests/support/services/TestServices.h"
 #include "views/config/VxHWRackOverview.h"
 
-#include <functional>
-#include <memory>
 #include <optional>
-#include <string>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

@@ -7,9 +7,6 @@
 #include "tests/support/MemoryClipboard.h"
 #include "tests/support/services/FakeHost.h"
 
-#include <memory>
-#include <utility>
-
 namespace zqbchwcx::testing {
 
 /// A host of the reference model: its exchange data and collections are the model's, its user actions the history's.

@@ -6,7 +6,6 @@
 #include <array>
 #include <cstdlib>
 #include <iostream>
-#include <random>
 
 namespace zqbchwcx::testing {
 namespace {

@@ -1,7 +1,5 @@
 #include "tests/property/RandomUser.h"
 
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWRackPlace.h"
 #include "tests/support/Samples.h"
 
 #include <array>

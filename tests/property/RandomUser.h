@@ -3,9 +3,7 @@
 #include "platform/Input.h"
 #include "tests/property/Editor.h"
 
-#include <cstdint>
 #include <random>
-#include <string>
 
 namespace zqbchwcx::testing {
 

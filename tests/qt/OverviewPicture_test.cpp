@@ -1,11 +1,8 @@
 #include "adapters/qt/ControlWidget.h"
 #include "foundation/PlacePosition.h"
-#include "foundation/model/VxHWRackPlaces.h"
 #include "tests/qt/OverviewStage.h"
 #include "tests/qt/Palettes.h"
 #include "tests/qt/ReferencePicture.h"
-
-#include <gtest/gtest.h>
 
 #include <random>
 

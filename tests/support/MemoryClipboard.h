@@ -3,9 +3,6 @@
 #include "reference/model/contract/StationServices.h"
 #include "tests/support/services/CallLog.h"
 
-#include <memory>
-#include <string>
-
 namespace zqbchwcx::testing {
 
 /// A clipboard in memory; its calls can be made to fail.

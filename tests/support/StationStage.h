@@ -7,12 +7,6 @@
 #include "tests/support/services/TestServices.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

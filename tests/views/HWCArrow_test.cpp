@@ -3,24 +3,23 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace zqbchwcx::testing {
 namespace {
 
-class MapPropertyBag : public PropertyBag {
+/// Holds the one property of the arrow.
+class IndentationBag : public PropertyBag {
 public:
     std::int32_t ReadProperty(std::string_view name, std::int32_t lDefault) const override
     {
-        const auto found = values.find(std::string(name));
-        return found == values.end() ? lDefault : found->second;
+        return name == "Indentation" ? mlValue.value_or(lDefault) : lDefault;
     }
     void WriteProperty(std::string_view name, std::int32_t lValue, std::int32_t /*lDefault*/) override
     {
-        values[std::string(name)] = lValue;
+        if (name == "Indentation") mlValue = lValue;
     }
 
-    std::map<std::string, std::int32_t> values;
+private:
+    std::optional<std::int32_t> mlValue;
 };
 
 class HWCArrowTest : public ::testing::Test {
@@ -54,7 +53,7 @@ protected:
 TEST_F(HWCArrowTest, KeepsItsIndentationInThePropertyBag)
 {
     EXPECT_EQ(arrow.Indentation(), 100);
-    MapPropertyBag bag;
+    IndentationBag bag;
     arrow.ReadProperties(bag);
     EXPECT_EQ(arrow.Indentation(), 100);
 

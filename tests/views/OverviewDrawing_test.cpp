@@ -3,13 +3,7 @@
 namespace zqbchwcx::testing {
 namespace {
 
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
-using ::testing::StartsWith;
+using namespace ::testing;
 
 class OverviewDrawingTest : public OverviewFixture {
 protected:

@@ -1,7 +1,5 @@
 #include "tests/views/OverviewFixture.h"
 
-#include <functional>
-
 namespace zqbchwcx::testing {
 namespace {
 

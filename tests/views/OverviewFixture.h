@@ -5,8 +5,6 @@
 #include "tests/views/RecordingController.h"
 #include "views/config/VxHWRackOverview.h"
 
-#include <algorithm>
-
 namespace zqbchwcx::testing {
 
 /// An overview with a station of four racks, wired as its manager would, its controllers recorded.

@@ -3,12 +3,7 @@
 namespace zqbchwcx::testing {
 namespace {
 
-using ::testing::AllOf;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
+using namespace ::testing;
 
 constexpr std::int16_t Left = vxButtonLeft;
 constexpr std::int16_t Right = vxButtonRight;

@@ -3,9 +3,6 @@
 #include "controllers/interfaces/IVxHWControl.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string>
-#include <utility>
-
 namespace zqbchwcx::testing {
 
 /// A view that keeps what a manager gives it, and leaves a line for each put: "overview.Style 1",

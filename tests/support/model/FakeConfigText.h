@@ -2,10 +2,6 @@
 
 #include "tests/support/model/FakeModelObjects.h"
 
-#include <string>
-#include <string_view>
-#include <vector>
-
 namespace zqbchwcx::testing {
 
 using FakeModuleList = std::vector<FakeModulePtr>;

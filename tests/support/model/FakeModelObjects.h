@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/VxError.h"
 #include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWModules.h"
 #include "foundation/model/VxHWRack.h"
@@ -11,10 +10,6 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 // The objects that a `FakeStation` is made of. A test sets and reads their fields; the library calls the rest, and
 // each of its calls is a fault point.

@@ -5,10 +5,7 @@
 #include "foundation/model/VxHWDiagService.h"
 #include "tests/support/model/FakeModelObjects.h"
 
-#include <map>
 #include <set>
-#include <string>
-#include <utility>
 
 namespace zqbchwcx::testing {
 

@@ -2,9 +2,6 @@
 
 #include "foundation/mdl_Main.h"
 
-#include <algorithm>
-#include <utility>
-
 namespace zqbchwcx::testing {
 namespace {
 

@@ -5,9 +5,6 @@
 #include "tests/support/model/FakeConfigText.h"
 
 #include <functional>
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

@@ -3,8 +3,6 @@
 #include "tests/support/services/FaultPoints.h"
 
 #include <memory>
-#include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 

@@ -5,9 +5,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <memory>
-#include <utility>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

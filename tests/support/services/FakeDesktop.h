@@ -4,8 +4,6 @@
 #include "tests/support/services/CallLog.h"
 
 #include <map>
-#include <string>
-#include <utility>
 
 namespace zqbchwcx::testing {
 

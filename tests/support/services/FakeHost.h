@@ -1,17 +1,9 @@
 #pragma once
 
-#include "foundation/VxError.h"
 #include "foundation/model/VxHWModelFactory.h"
 #include "platform/HostServices.h"
 #include "tests/support/model/FakeModelObjects.h"
 #include "tests/support/services/FakeDataObject.h"
-
-#include <algorithm>
-#include <map>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

@@ -4,8 +4,6 @@
 #include "tests/support/services/FakeHost.h"
 #include "tests/support/toolkit/RecordingToolkit.h"
 
-#include <memory>
-
 namespace zqbchwcx::testing {
 
 /// A recording host, installed as the library's service root for as long as the object lives. Create it before any

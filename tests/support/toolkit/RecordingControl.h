@@ -3,9 +3,6 @@
 #include "platform/UserControl.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string>
-#include <utility>
-
 namespace zqbchwcx::testing {
 
 /// A site for a view, or a control inside one. The test plays the user.

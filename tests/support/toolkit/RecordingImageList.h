@@ -1,16 +1,10 @@
 #pragma once
 
-#include "foundation/VxError.h"
-#include "platform/ImageList.h"
 #include "tests/support/services/CallLog.h"
 #include "tests/support/toolkit/FakeImage.h"
 
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

@@ -2,8 +2,6 @@
 
 #include "tests/support/toolkit/RecordingImageList.h"
 
-#include <utility>
-
 namespace zqbchwcx::testing {
 namespace {
 

@@ -5,8 +5,6 @@
 #include "tests/support/toolkit/Raster.h"
 
 #include <functional>
-#include <string>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

@@ -3,10 +3,6 @@
 #include "platform/PopupMenu.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace zqbchwcx::testing {
 
 /// A menu that is open only for the moment of its opening: then the test may look at it and choose an item.

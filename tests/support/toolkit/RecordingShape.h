@@ -3,8 +3,6 @@
 #include "platform/Shape.h"
 #include "tests/support/services/CallLog.h"
 
-#include <utility>
-
 namespace zqbchwcx::testing {
 
 class RecordingShape : public Frame, public Logged {

@@ -10,11 +10,6 @@
 #include "tests/support/toolkit/RecordingShape.h"
 #include "tests/support/toolkit/RecordingTooltips.h"
 
-#include <functional>
-#include <map>
-#include <string>
-#include <vector>
-
 namespace zqbchwcx::testing {
 
 /// A windowing system without windows: what views draw is recorded, what a user does is done by the test. The

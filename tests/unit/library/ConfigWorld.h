@@ -3,11 +3,6 @@
 #include "managers/VxHWConfigManager.h"
 #include "tests/support/StationStage.h"
 
-#include <algorithm>
-#include <cstddef>
-#include <memory>
-#include <string_view>
-
 namespace zqbchwcx::testing {
 
 /// Configuration mode as a host sets it up: a station with some modules, two views, and the manager between them.

@@ -1,7 +1,5 @@
 #include "tests/unit/library/ConfigWorld.h"
 
-#include <functional>
-
 // Every operation of the configuration mode is run again and again, and each time another one of the calls that it
 // makes to the model and the host fails.
 

@@ -259,12 +259,11 @@ TEST_F(ConfigDragDrop, HostileTextIsReportedAndRefused)
 
 TEST_F(ConfigDragDrop, TheInertOnesKeepNothingAndTakeNothing)
 {
-    const VxHWConfigROCtrlDD config;
     const VxHWDiagCtrlDD diag;
     const VxHWCompCtrlDD compare;
-    EXPECT_THAT(TakeLines(),
-                ElementsAre("Register VxHWConfigROCtrlDD", "Register VxHWDiagCtrlDD", "Register VxHWCompCtrlDD"));
     VxHWConfigROCtrlDD inert;
+    EXPECT_THAT(TakeLines(),
+                ElementsAre("Register VxHWDiagCtrlDD", "Register VxHWCompCtrlDD", "Register VxHWConfigROCtrlDD"));
     inert.VxHWStation(station);
     inert.VxHWSelectionHandler(handler);
     inert.AddSubscriber(overview);

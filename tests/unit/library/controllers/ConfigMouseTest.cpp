@@ -161,18 +161,5 @@ TEST_F(ConfigMouse, WhatTheStationDoesNotHaveTakesNoPart)
     EXPECT_THAT(TakeReports(), ElementsAre());
 }
 
-TEST_F(ConfigMouse, KeepsStationAndHandlerOnly)
-{
-    mouse->VxHWCompareService(nullptr);
-    mouse->AddSubscriber(nullptr);
-    EXPECT_EQ(mouse->VxHWStation(), station);
-    EXPECT_EQ(mouse->VxHWSelectionHandler(), handler);
-    EXPECT_EQ(mouse->VxHWCompareService(), nullptr);
-    EXPECT_EQ(mouse->VxHWDiagService(), nullptr);
-    mouse->VxHWSelectionHandler(nullptr);
-    mouse->MouseDown(-1, vxButtonLeft, 0);
-    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigCtrlMouse.IVxHWMouseInputController_MouseDown"));
-}
-
 } // namespace
 } // namespace zqbchwcx::testing

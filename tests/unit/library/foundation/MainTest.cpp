@@ -5,7 +5,6 @@
 #include "tests/support/services/TestServices.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 
@@ -113,18 +112,6 @@ TEST(ErrorReport, AFailingErrorLogLosesTheReportOnly)
     EXPECT_EQ(services.Faults().Thrown(), "LogError zqbchwcx.A.B");
     G_InstallServiceRoot(nullptr);
     EXPECT_FALSE(G_Trap("A", "B", [] { throw VxError(2, "without any host"); }));
-}
-
-TEST(Registration, TextsAreOpenedAfterAndReleasedBeforeIt)
-{
-    TestServices services;
-    {
-        const InstanceRegistration registration("ClassA");
-        const TextModuleUse texts("ClassA");
-        EXPECT_EQ(services.host->live.size(), 1U);
-    }
-    EXPECT_THAT(services.Lines(),
-                ElementsAre("Register ClassA", "Open zqhwuim", "Release zqhwuim", "Unregister ClassA"));
 }
 
 } // namespace

@@ -103,33 +103,21 @@ TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
     EXPECT_EQ(station.use_count(), 1);
 }
 
-TEST_F(ConfigManager, TerminateInTheMiddleOfADragTellsNobodyAboutItsEnd)
+TEST_F(ConfigManager, BothViewsAreToldOfADragUntilTheModeTerminates)
 {
     Initialize();
     station->Put(0, 1, "A");
-    auto oData = std::make_shared<FakeDataObject>(services.log);
     std::int32_t lEffect = 0;
     const auto oDragDrop = overview->dragDrop;
-    oDragDrop->OLEStartDrag(oData, lEffect);
-    oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragEnter);
-    oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragLeave);
+    oDragDrop->OLEStartDrag(data, lEffect);
+    oDragDrop->OLEDragOver(8, data, lEffect, vxButtonLeft, 0, vxDragEnter);
+    EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"overview.StateChange from 0", "table.StateChange from 0"}));
+    oDragDrop->OLEDragOver(8, data, lEffect, vxButtonLeft, 0, vxDragLeave);
     manager->Terminate();
     services.Lines().clear();
     services.toolkit->clock.Advance(20);
     EXPECT_EQ(oDragDrop->State(), vxDragDropStateInactive);
     EXPECT_THAT(TakeLines(), IsEmpty());
-}
-
-TEST_F(ConfigManager, SubscribesBothViewsToTheDragAndDropController)
-{
-    Initialize();
-    station->Put(0, 1, "A");
-    auto oData = std::make_shared<FakeDataObject>(services.log);
-    std::int32_t lEffect = 0;
-    overview->dragDrop->OLEStartDrag(oData, lEffect);
-    services.Lines().clear();
-    overview->dragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragEnter);
-    EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"overview.StateChange from 0", "table.StateChange from 0"}));
 }
 
 TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)

@@ -1,7 +1,5 @@
-#include "reference/catalogue/CatalogueReader.h"
 
 #include "tests/support/Samples.h"
-#include "tests/support/SourceFile.h"
 
 #include <gmock/gmock.h>
 

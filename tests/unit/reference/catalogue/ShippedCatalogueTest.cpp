@@ -9,9 +9,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
+using namespace ::testing;
 
 void CollectOrderNumbers(const std::vector<CatalogueGroup>& groups, std::multiset<std::string>& all)
 {

@@ -14,9 +14,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
+using namespace ::testing;
 
 const JournalOrigin Origin{"plants/wells.station.json", FileStamp{1234, -5, 0xFEDCBA9876543210U}};
 

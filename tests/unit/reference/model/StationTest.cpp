@@ -1,4 +1,3 @@
-#include "reference/model/contract/Station.h"
 
 #include "foundation/ConfigTextCodec.h"
 #include "foundation/model/VxHWRackPlace.h"
@@ -10,7 +9,6 @@
 #include "tests/unit/reference/model/SampleModel.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -48,7 +46,6 @@ protected:
         for (const std::int32_t place : places) collection->Add(station->PlaceAt({0, place}));
         return collection;
     }
-    std::string Row() const { return PlainStation(station->Data()).Row(0); }
 
     std::shared_ptr<MemoryClipboard> clipboard = std::make_shared<MemoryClipboard>();
     std::optional<ModuleData> dialogAnswer;
@@ -106,38 +103,13 @@ TEST_F(ReferenceStation, RefusalsAnswerFalseAndSayWhy)
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(ReferenceStation, ClipboardCarriesModulesAndDamagedContentCountsAsNone)
+TEST_F(ReferenceStation, DamagedContentOfTheClipboardCountsAsNone)
 {
     const auto exchange = std::make_shared<TypeExchange>(std::int16_t{77}, clipboard);
-    station->WriteModulesToExchange(ModulesIn({4, 5, 6, 7, 8}), exchange);
-    exchange->PutOnClipboard();
-    const VxHWModulesPtr modules = station->ClipboardModules();
-    EXPECT_EQ(modules->Count(), 5);
-    EXPECT_FALSE(station->CanBePlaced(G_PlacePosition(0, 8), modules, false, nullptr));
-    station->DeleteModules(Places({4, 5, 8}));
-    EXPECT_TRUE(station->PlaceModules(G_PlacePosition(0, 5), modules, Places({})));
-    EXPECT_EQ(Row(), "PS CPU IM - DI AI2 + - DO - -");
-
     clipboard->Write(ConfigTextName, G_EncodeConfigText("VxHWConfigText 1\n{\"modules\""));
     EXPECT_EQ(station->ClipboardModules()->Count(), 0);
     EXPECT_THAT(refused, ElementsAre(Rule::DamagedText));
     EXPECT_THROW(exchange->LoadData(G_EncodeConfigText("something else")), VxError);
-}
-
-TEST_F(ReferenceStation, CatalogueModuleIsInsertedWithSubModules)
-{
-    const VxHWModulePtr counter = station->CreateModule("CNT3");
-    EXPECT_EQ(counter->PlaceCount(), 3);
-    station->PrepareModule(counter);
-    const VxHWModulesPtr members = station->ExpandModule(counter);
-    ASSERT_EQ(members->Count(), 3);
-    EXPECT_EQ(members->Item(0)->SubModuleCount(), 2);
-    EXPECT_EQ(members->Item(0)->SubModules()->Count(), 0);
-    station->CreateSubModules(members->Item(0));
-    EXPECT_EQ(members->Item(0)->SubModules()->Count(), 2);
-    EXPECT_TRUE(station->PlaceModules(G_PlacePosition(0, 9), members, Places({})));
-    EXPECT_EQ(Row(), "PS CPU IM DI AI2 + - DO CNT3 + +");
-    EXPECT_EQ(ModuleIn(9)->SubModules()->Item(1)->InputAddressText(), "16..19");
     EXPECT_THROW(static_cast<void>(station->CreateModule("GHOST")), VxError);
 }
 

@@ -2,11 +2,8 @@
 
 #include "foundation/VxError.h"
 #include "tests/support/Samples.h"
-#include "tests/support/SourceFile.h"
 
 #include <gmock/gmock.h>
-
-#include <vector>
 
 namespace zqbchwcx::reference {
 namespace {
