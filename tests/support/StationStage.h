@@ -35,7 +35,7 @@ public:
         return controller;
     }
 
-    FakeRackPlaces& SelPlaces() const { return dynamic_cast<FakeRackPlaces&>(*handler->SelPlaces()); }
+    FakeRackPlaces& SelPlaces() const { return AsFake(handler->SelPlaces()); }
     std::string Selection() const { return SelPlaces().Keys(); }
     /// Selects the places (rack, place) and tells it.
     void Select(const std::vector<std::pair<std::int32_t, std::int32_t>>& places)

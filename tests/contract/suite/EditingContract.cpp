@@ -154,6 +154,7 @@ void ReadOnlyStationStaysAsItIs(const ContractHost& host)
     EXPECT_FALSE(host.station->CanBePlaced(position, modules, false, nullptr));
     EXPECT_FALSE(host.station->PlaceModules(position, modules, host.factory->CreateRackPlaces()));
     EXPECT_EQ(Content(*host.station), before);
+    EXPECT_NE(host.station->GetPossibleDropPlaces(host.singleModule()).Get(host.rack, host.firstPlace), -1);
 }
 
 void MembersKnowTheirParent(const ContractHost& host)

@@ -172,6 +172,11 @@ public:
     }
 };
 
+inline FakeRackPlaces& AsFake(const VxHWRackPlacesPtr& oPlaces)
+{
+    return dynamic_cast<FakeRackPlaces&>(*oPlaces);
+}
+
 class FakeRack : public VxHWRack, public Logged {
 public:
     FakeRack(CallLogPtr log, std::int32_t lNumber) : Logged(std::move(log)), number(lNumber) {}
