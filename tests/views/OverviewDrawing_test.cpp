@@ -40,6 +40,7 @@ TEST_F(OverviewDrawingTest, LockingChangesTheBackgroundAndDrawsAnew)
     Pic().TakeLines();
     view->Locked(true);
     const auto lines = Pic().TakeLines();
+    ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines.front(), "BackColor " + std::to_string(vxColorLight3D));
     EXPECT_THAT(lines, Contains("Image IDB_CRX_PLACE_ACTIVE 25,306 style 0"));
     view->Locked(true);

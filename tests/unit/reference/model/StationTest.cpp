@@ -1,4 +1,3 @@
-
 #include "foundation/ConfigTextCodec.h"
 #include "foundation/model/VxHWRackPlace.h"
 #include "reference/model/configtext/ConfigText.h"
