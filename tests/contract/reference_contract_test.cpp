@@ -1,24 +1,12 @@
 #include "ModelContract.h"
 
 #include "reference/model/contract/ModelFactory.h"
-#include "reference/model/contract/Station.h"
 #include "reference/model/contract/TypeExchange.h"
+#include "tests/support/MemoryClipboard.h"
 #include "tests/unit/reference/model/SampleModel.h"
-
-#include <memory>
-#include <optional>
 
 namespace zqbchwcx::testing {
 namespace {
-
-class LastWritten : public reference::Clipboard {
-public:
-    std::optional<ByteArray> Read(std::string_view /*formatName*/) const override { return moData; }
-    void Write(std::string_view /*formatName*/, const ByteArray& data) override { moData = data; }
-
-private:
-    std::optional<ByteArray> moData;
-};
 
 ContractHost ReferenceHost(std::int32_t kind, bool bReadOnly)
 {
@@ -29,7 +17,7 @@ ContractHost ReferenceHost(std::int32_t kind, bool bReadOnly)
     data.readOnly = bReadOnly;
 
     const reference::ModelContextPtr context = SampleContext();
-    const auto clipboard = std::make_shared<LastWritten>();
+    const auto clipboard = std::make_shared<MemoryClipboard>();
     reference::StationServices services;
     services.clipboard = clipboard;
     const auto station = std::make_shared<reference::Station>(context, data, services);

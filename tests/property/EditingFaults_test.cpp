@@ -1,10 +1,8 @@
 #include "platform/Input.h"
 #include "tests/property/Editor.h"
+#include "tests/support/Samples.h"
 
 #include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -153,7 +151,7 @@ protected:
 
 TEST_P(EditingFaults, LeaveTheStationUnchangedOrChanged)
 {
-    const auto data = ExampleStation("waterworks");
+    const auto data = reference::ExampleStation("waterworks");
     std::string before;
     Result good;
     {
@@ -173,10 +171,10 @@ TEST_P(EditingFaults, LeaveTheStationUnchangedOrChanged)
         // A report that the error log itself refuses is lost. Without the host application there is no wait cursor,
         // which is nobody's error.
         const bool isLookup = result.thrown.starts_with("ObjectLookup.");
-        if (isLookup) editor.services.objects->application->waitBalance = 0;
-        EXPECT_TRUE(isLookup || result.thrown.starts_with("LogError") || !editor.errors->reports.empty() ||
+        if (isLookup) editor.host->waitBalance = 0;
+        EXPECT_TRUE(isLookup || result.thrown.starts_with("LogError") || !editor.host->reports.empty() ||
                     editor.refusals > 0);
-        editor.errors->reports.clear();
+        editor.host->reports.clear();
         EXPECT_EQ(editor.WhatIsWrong(), "");
 
         // The next things that the user does work.

@@ -3,9 +3,7 @@
 #include "reference/model/contract/Station.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string_view>
 #include <type_traits>
-#include <utility>
 
 namespace zqbchwcx::testing {
 

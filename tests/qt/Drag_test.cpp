@@ -1,10 +1,8 @@
-#include "adapters/qt/ClipboardFormats.h"
 #include "adapters/qt/ControlWidget.h"
 #include "adapters/qt/PictureBoxWidget.h"
 #include "adapters/qt/QtClipboard.h"
-#include "adapters/qt/SourceDataObject.h"
 #include "foundation/VxError.h"
-#include "platform/Input.h"
+#include "tests/qt/EventRecorder.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -12,75 +10,12 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace zqbchwcx::testing {
 namespace {
 
-ByteArray Bytes(std::string_view text)
-{
-    return qt::ToByteArray(QByteArray(text.data(), static_cast<qsizetype>(text.size())));
-}
-
-/// Takes what the data object has in one format, with one effect.
-class DragRecorder : public PictureBoxEvents {
-public:
-    void MouseDown(std::int16_t, std::int16_t, float, float) noexcept override {}
-    void MouseMove(std::int16_t, std::int16_t, float, float) noexcept override {}
-    void MouseUp(std::int16_t, std::int16_t, float, float) noexcept override {}
-    void DblClick() noexcept override {}
-    void GotFocus() noexcept override {}
-    void LostFocus() noexcept override {}
-    void OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lAllowedEffects) noexcept override
-    {
-        lines.push_back("start");
-        if (onStart) onStart(*oData, lAllowedEffects);
-    }
-    void OLESetData(const DataObjectPtr& oData, std::int16_t nDataFormat) noexcept override
-    {
-        lines.push_back("set data");
-        oData->SetData(nDataFormat, Bytes("late"));
-    }
-    void OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
-                     float x, float y, std::int16_t nState) noexcept override
-    {
-        Note("over", oData, lEffect, nButton, nShift, x, y);
-        lines.back() += " state " + std::to_string(nState);
-    }
-    void OLEDragDrop(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
-                     float x, float y) noexcept override
-    {
-        Note("drop", oData, lEffect, nButton, nShift, x, y);
-    }
-    void OLECompleteDrag(std::int32_t& lEffect) noexcept override
-    {
-        lines.push_back("complete " + std::to_string(lEffect));
-    }
-
-    std::function<void(DataObject&, std::int32_t&)> onStart;
-    std::int16_t nFormat = 0;
-    std::int32_t lAnswer = vxDropEffectNone;
-    std::vector<std::string> lines;
-
-private:
-    void Note(const char* what, const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton,
-              std::int16_t nShift, float x, float y)
-    {
-        const QByteArray data = qt::ToQByteArray(oData->GetData(nFormat));
-        lines.push_back(std::string(what) + " '" + data.toStdString() + "' allowed " + std::to_string(lEffect) +
-                        " button " + std::to_string(nButton) + " shift " + std::to_string(nShift) + " at " +
-                        std::to_string(static_cast<int>(x)) + "," + std::to_string(static_cast<int>(y)));
-        lEffect = lAnswer;
-    }
-};
-
 class Drag : public ::testing::Test {
 protected:
-    Drag()
-    {
-        mEvents.nFormat = mFormat;
-        mBox.Receiver(&mEvents);
-    }
+    Drag() { mBox.Receiver(&mEvents); }
     ~Drag() override { mBox.Receiver(nullptr); }
 
     template <class Event>
@@ -90,17 +25,11 @@ protected:
         QApplication::sendEvent(&mBox, &event);
         return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
     }
-    Qt::DropAction SendDrop(QPoint at)
-    {
-        QDropEvent event(at, Qt::CopyAction | Qt::MoveAction, &mForeign, Qt::LeftButton, {});
-        QApplication::sendEvent(&mBox, &event);
-        return event.isAccepted() ? event.dropAction() : Qt::IgnoreAction;
-    }
 
     const std::int16_t mFormat = qt::ClipboardFormatNumber("VxHWConfigText");
     qt::ControlWidget mControl{nullptr, qt::ControlWidget::Backdrop::Own};
     qt::PictureBoxWidget mBox{mControl, "pic_Main", MakeRect(0, 0, 100, 100)};
-    DragRecorder mEvents;
+    EventRecorder mEvents;
     QMimeData mForeign;
 };
 
@@ -119,12 +48,9 @@ TEST_F(Drag, overAWindowIsEnterThenOverThenLeaveOrDrop)
     Send<QDragEnterEvent>({9, 9});
     mEvents.lines.pop_back();
     mEvents.lAnswer = vxDropEffectMove;
-    EXPECT_EQ(SendDrop({9, 9}), Qt::MoveAction);
-    EXPECT_EQ(mEvents.lines, (std::vector<std::string>{"over 'text' allowed 3 button 1 shift 1 at 3,4 state 0",
-                                                       "over 'text' allowed 3 button 1 shift 2 at 5,6 state 2",
-                                                       "over 'text' allowed 3 button 1 shift 0 at 7,8 state 2",
-                                                       "over 'text' allowed 3 button 1 shift 0 at 7,8 state 1",
-                                                       "drop 'text' allowed 3 button 1 shift 0 at 9,9"}));
+    EXPECT_EQ(Send<QDropEvent>({9, 9}), Qt::MoveAction);
+    EXPECT_EQ(mEvents.lines, (Lines{"over text 3 1 1 3 4 0", "over text 3 1 2 5 6 2", "over text 3 1 0 7 8 2",
+                                    "over text 3 1 0 7 8 1", "drop text 3 1 0 9 9"}));
 }
 
 TEST_F(Drag, aRefusedPositionDoesNotEndTheDrag)
@@ -168,8 +94,7 @@ TEST_F(Drag, withoutDataOrEffectsIsCompleteAtOnce)
     mBox.Drag();
     mEvents.onStart = [&](DataObject& data, std::int32_t& /*lAllowed*/) { data.SetData(mFormat, Bytes("x")); };
     mBox.Drag();
-    EXPECT_EQ(mEvents.lines,
-              (std::vector<std::string>{"start", "complete 0", "start", "complete 0", "start", "complete 0"}));
+    EXPECT_EQ(mEvents.lines, (Lines{"start", "complete 0", "start", "complete 0", "start", "complete 0"}));
 }
 
 TEST(Clipboard, carriesFormatsByNumber)

@@ -6,8 +6,6 @@
 #include "tests/qt/Palettes.h"
 #include "tests/qt/ReferencePicture.h"
 
-#include <gtest/gtest.h>
-
 #include <set>
 
 namespace zqbchwcx::testing {

@@ -3,6 +3,7 @@
 #include "adapters/qt/PictureBoxWidget.h"
 #include "adapters/qt/QtToolkit.h"
 #include "adapters/qt/QtUserControl.h"
+#include "tests/qt/EventRecorder.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -13,77 +14,8 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace zqbchwcx::testing {
 namespace {
-
-using Lines = std::vector<std::string>;
-
-std::string Numbers(std::initializer_list<int> numbers)
-{
-    std::string text;
-    for (const int number : numbers) text += " " + std::to_string(number);
-    return text;
-}
-
-class BoxRecorder : public PictureBoxEvents {
-public:
-    void MouseDown(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override
-    {
-        lines.push_back("down" + Numbers({nButton, nShift, static_cast<int>(x), static_cast<int>(y)}));
-    }
-    void MouseMove(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override
-    {
-        lines.push_back("move" + Numbers({nButton, nShift, static_cast<int>(x), static_cast<int>(y)}));
-    }
-    void MouseUp(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override
-    {
-        lines.push_back("up" + Numbers({nButton, nShift, static_cast<int>(x), static_cast<int>(y)}));
-    }
-    void DblClick() noexcept override { lines.push_back("double"); }
-    void GotFocus() noexcept override { lines.push_back("focus"); }
-    void LostFocus() noexcept override { lines.push_back("no focus"); }
-    void OLEStartDrag(const DataObjectPtr& /*oData*/, std::int32_t& /*lAllowedEffects*/) noexcept override {}
-    void OLESetData(const DataObjectPtr& /*oData*/, std::int16_t /*nDataFormat*/) noexcept override {}
-    void OLEDragOver(const DataObjectPtr& /*oData*/, std::int32_t& /*lEffect*/, std::int16_t /*nButton*/,
-                     std::int16_t /*nShift*/, float /*x*/, float /*y*/, std::int16_t /*nState*/) noexcept override
-    {
-    }
-    void OLEDragDrop(const DataObjectPtr& /*oData*/, std::int32_t& /*lEffect*/, std::int16_t /*nButton*/,
-                     std::int16_t /*nShift*/, float /*x*/, float /*y*/) noexcept override
-    {
-    }
-    void OLECompleteDrag(std::int32_t& /*lEffect*/) noexcept override {}
-
-    Lines Take() { return std::exchange(lines, {}); }
-
-    Lines lines;
-};
-
-class ControlRecorder : public UserControlEvents {
-public:
-    void KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept override
-    {
-        if (nKeyCode != ShiftKey) lines.push_back("key" + Numbers({nKeyCode, nShift}));
-    }
-    void KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept override
-    {
-        if (nKeyCode != ShiftKey) lines.push_back("release" + Numbers({nKeyCode, nShift}));
-    }
-    void Resize() noexcept override { lines.push_back("resize"); }
-    void OLEDragOver(const DataObjectPtr& /*oData*/, std::int32_t& /*lEffect*/, std::int16_t /*nButton*/,
-                     std::int16_t /*nShift*/, float /*x*/, float /*y*/, std::int16_t /*nState*/) noexcept override
-    {
-    }
-
-    Lines lines;
-
-private:
-    /// The test library presses it before a key with a modifier.
-    static constexpr std::int16_t ShiftKey = 16;
-};
 
 /// A control with one picture box, under the other one a shape, in a window with another focusable child.
 class Input : public ::testing::Test {
@@ -114,8 +46,8 @@ protected:
     QWidget* Box() { return mControl.findChild<qt::PictureBoxWidget*>("pic_Main"); }
 
     qt::QtToolkit mToolkit;
-    BoxRecorder mBoxEvents;
-    ControlRecorder mControlEvents;
+    EventRecorder mBoxEvents;
+    EventRecorder mControlEvents;
     QWidget mWindow;
     qt::ControlWidget mControl{&mWindow, qt::ControlWidget::Backdrop::Own};
     QWidget mNeighbour{&mWindow};

@@ -1,11 +1,8 @@
 #include "adapters/qt/ControlWidget.h"
 #include "foundation/PlacePosition.h"
-#include "foundation/model/VxHWRackPlaces.h"
 #include "tests/qt/OverviewStage.h"
 #include "tests/qt/Palettes.h"
 #include "tests/qt/ReferencePicture.h"
-
-#include <gtest/gtest.h>
 
 #include <random>
 
@@ -24,7 +21,7 @@ TEST(OverviewPicture, looksAsStoredAtRatios1And2InLightAndDark)
     stage.View().VxHWStation(stage.station);
     stage.View().Refresh();
     EXPECT_TRUE(LooksLikeReference(stage.widget->RenderToImage(2), "online-dark-2x"));
-    EXPECT_TRUE(stage.services.errors->reports.empty());
+    EXPECT_TRUE(stage.services.host->reports.empty());
 }
 
 /// Random changes of everything that the overview shows.

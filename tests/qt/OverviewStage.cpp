@@ -3,7 +3,6 @@
 #include "foundation/PlacePosition.h"
 
 #include <array>
-#include <string_view>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -16,27 +15,8 @@ void PutPictured(FakeStation& station, std::int32_t lRack, std::int32_t lPlace, 
         station.Module(lRack, lPlace + i)->pictureName = "IDB_CRX_MODULE_" + std::string(picture);
 }
 
-} // namespace
-
-OverviewStage::OverviewStage(FakeStationPtr oStation)
-    : toolkit(std::make_shared<qt::QtToolkit>()), services(std::make_shared<CallLog>(), toolkit),
-      station(oStation ? std::move(oStation) : FullStation(services.log))
-{
-    for (const auto& name : qt::PictureCatalog::Names())
-        services.texts->module->pictures[name] = toolkit->Pictures().Picture(name);
-    widget = std::make_unique<qt::RackOverviewWidget>();
-    other = std::make_unique<qt::RackOverviewWidget>();
-    widget->resize(widget->sizeHint());
-    manager.Initialize(vxStationTypeCentral, widget->Control(), other->Control(), station);
-    View().Refresh();
-}
-
-OverviewStage::~OverviewStage()
-{
-    manager.Terminate();
-}
-
-FakeStationPtr OverviewStage::FullStation(const CallLogPtr& log)
+/// Four racks with something of everything.
+FakeStationPtr FullStation(const CallLogPtr& log)
 {
     auto station = std::make_shared<FakeStation>(log, 4, 11);
     for (std::int32_t lRack = 0; lRack < 3; ++lRack) PutPictured(*station, lRack, 3, "IM");
@@ -55,6 +35,25 @@ FakeStationPtr OverviewStage::FullStation(const CallLogPtr& log)
     station->Rack(3)->state = 0;
     for (std::int32_t lPlace = 1; lPlace <= 11; ++lPlace) station->Place(3, lPlace)->usability = 0;
     return station;
+}
+
+} // namespace
+
+OverviewStage::OverviewStage()
+    : toolkit(std::make_shared<qt::QtToolkit>()), services(toolkit), station(FullStation(services.log))
+{
+    for (const auto& name : qt::PictureCatalog::Names())
+        services.host->pictures[name] = toolkit->Pictures().Picture(name);
+    widget = std::make_unique<qt::RackOverviewWidget>();
+    other = std::make_unique<qt::RackOverviewWidget>();
+    widget->resize(widget->sizeHint());
+    manager.Initialize(vxStationTypeCentral, widget->Control(), other->Control(), station);
+    View().Refresh();
+}
+
+OverviewStage::~OverviewStage()
+{
+    manager.Terminate();
 }
 
 void OverviewStage::SelectPlace(std::int32_t lRack, std::int32_t lPlace)

@@ -10,21 +10,16 @@
 #include "tests/support/services/TestServices.h"
 #include "views/config/VxHWRackOverview.h"
 
-#include <memory>
-
 namespace zqbchwcx::testing {
 
 /// A station in two real overviews of configuration mode, not shown yet. The second one stands where the rack table
 /// would.
 class OverviewStage {
 public:
-    explicit OverviewStage(FakeStationPtr oStation = nullptr);
+    OverviewStage();
     ~OverviewStage();
     OverviewStage(const OverviewStage&) = delete;
     OverviewStage& operator=(const OverviewStage&) = delete;
-
-    /// Four racks with something of everything.
-    static FakeStationPtr FullStation(const CallLogPtr& log);
 
     VxHWRackOverview& View() { return *widget->Control(); }
     VxHWSelectionHandler& Selection() { return *manager.VxHWSelectionHandler(); }

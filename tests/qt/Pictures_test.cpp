@@ -25,24 +25,23 @@ protected:
     PictureCatalog mCatalog;
 };
 
+/// Whether all pixels of the area are as opaque as that.
+bool IsAll(int alpha, const QImage& image, const QRect& area)
+{
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (qAlpha(image.pixel(x, y)) != alpha) return false;
+    return true;
+}
+
 bool IsOpen(const QImage& image, const QRect& area)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            if (qAlpha(image.pixel(x, y)) != 0) return false;
-        }
-    }
-    return true;
+    return IsAll(0, image, area);
 }
 
 bool IsSolid(const QImage& image, const QRect& area)
 {
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        for (int x = area.left(); x <= area.right(); ++x) {
-            if (qAlpha(image.pixel(x, y)) != 255) return false;
-        }
-    }
-    return true;
+    return IsAll(255, image, area);
 }
 
 TEST_F(Pictures, everyPictureOfTheStripsIsThereAndNoTwoModulesLookAlike)

@@ -1,6 +1,5 @@
 #include "tests/qt/Palettes.h"
 
-#include <QApplication>
 #include <QStyleFactory>
 
 #include <gtest/gtest.h>

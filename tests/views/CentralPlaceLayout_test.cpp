@@ -2,7 +2,6 @@
 #include "views/parts/CentralPlaceLayout.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace zqbchwcx::testing {
 namespace {

@@ -1,27 +1,25 @@
 #include "tests/support/services/TestServices.h"
-#include "tests/support/toolkit/RecordingToolkit.h"
 #include "views/config/HWCArrow.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace zqbchwcx::testing {
 namespace {
 
-class MapPropertyBag : public PropertyBag {
+/// Holds the one property of the arrow.
+class IndentationBag : public PropertyBag {
 public:
     std::int32_t ReadProperty(std::string_view name, std::int32_t lDefault) const override
     {
-        const auto found = values.find(std::string(name));
-        return found == values.end() ? lDefault : found->second;
+        return name == "Indentation" ? mlValue.value_or(lDefault) : lDefault;
     }
     void WriteProperty(std::string_view name, std::int32_t lValue, std::int32_t /*lDefault*/) override
     {
-        values[std::string(name)] = lValue;
+        if (name == "Indentation") mlValue = lValue;
     }
 
-    std::map<std::string, std::int32_t> values;
+private:
+    std::optional<std::int32_t> mlValue;
 };
 
 class HWCArrowTest : public ::testing::Test {
@@ -45,9 +43,9 @@ protected:
         return false;
     }
 
-    CallLogPtr log = std::make_shared<CallLog>();
-    std::shared_ptr<RecordingToolkit> toolkit = std::make_shared<RecordingToolkit>(log);
-    TestServices services{log, toolkit};
+    TestServices services;
+    CallLogPtr log = services.log;
+    std::shared_ptr<RecordingToolkit> toolkit = services.toolkit;
     RecordingControl site{log, MakeRect(0, 0, 260, 400)};
     HWCArrow arrow{site};
 };
@@ -55,7 +53,7 @@ protected:
 TEST_F(HWCArrowTest, KeepsItsIndentationInThePropertyBag)
 {
     EXPECT_EQ(arrow.Indentation(), 100);
-    MapPropertyBag bag;
+    IndentationBag bag;
     arrow.ReadProperties(bag);
     EXPECT_EQ(arrow.Indentation(), 100);
 
@@ -109,17 +107,18 @@ TEST_F(HWCArrowTest, ReportsAFailureAndGoesOn)
 {
     log->faults.ThrowAt(3);
     arrow.Show(36, 213, 48);
-    EXPECT_TRUE(services.errors->HasReport("HWCArrow.P_PositionArrow"));
+    EXPECT_TRUE(services.host->TakeReports() == std::vector<std::string>{"zqbchwcx.HWCArrow.P_PositionArrow"});
     arrow.Show(36, 213, 48);
     EXPECT_EQ(VisibleCount(), 8);
     {
         log->faults.ThrowAt(4); // the second shape cannot be made
         HWCArrow broken(site);
-        EXPECT_TRUE(services.errors->HasReport("HWCArrow.UserControl_Initialize"));
+        EXPECT_TRUE(services.host->TakeReports() ==
+                    std::vector<std::string>{"zqbchwcx.HWCArrow.UserControl_Initialize"});
         broken.Show(36, 213, 48);
         broken.Hide();
     }
-    EXPECT_EQ(services.instances->live.size(), 1U);
+    EXPECT_EQ(services.host->live.size(), 1U);
 }
 
 } // namespace

@@ -3,13 +3,7 @@
 namespace zqbchwcx::testing {
 namespace {
 
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
-using ::testing::StartsWith;
+using namespace ::testing;
 
 class OverviewDrawingTest : public OverviewFixture {
 protected:
@@ -46,6 +40,7 @@ TEST_F(OverviewDrawingTest, LockingChangesTheBackgroundAndDrawsAnew)
     Pic().TakeLines();
     view->Locked(true);
     const auto lines = Pic().TakeLines();
+    ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines.front(), "BackColor " + std::to_string(vxColorLight3D));
     EXPECT_THAT(lines, Contains("Image IDB_CRX_PLACE_ACTIVE 25,306 style 0"));
     view->Locked(true);
@@ -101,7 +96,7 @@ TEST_F(OverviewDrawingTest, RackNumbersShowWhetherTheRackIsPresent)
 
 TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoadedOnce)
 {
-    services.settings->values[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
+    services.host->settings[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
     auto& files = *toolkit->imageLists.files;
     files.existing = {"C:\\Data\\HWPics\\PUMP.bmp"};
     Put(0, 5, "Pump");

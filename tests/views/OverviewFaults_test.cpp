@@ -1,7 +1,4 @@
-#include "platform/Input.h"
 #include "tests/views/OverviewFixture.h"
-
-#include <functional>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -33,7 +30,7 @@ protected:
         diag->cpuStates = {{"0/2", 10}};
         compare->results = {{"0/2", 4}};
         auto modules = std::make_shared<FakeModules>(log);
-        modules->modules = {station->Module(0, 4), station->Module(0, 2)};
+        modules->members = {station->Module(0, 4), station->Module(0, 2)};
         controller->dragModules = modules;
     }
 
@@ -172,7 +169,7 @@ TEST_F(OverviewFaultsTest, AViewWhoseChildrenCannotBeMadeReportsInsteadOfFailing
         ASSERT_FALSE(control.IsConnected());
         ASSERT_FALSE(TakeReports().empty()) << n;
     }
-    EXPECT_EQ(services.texts->openCount, 1) << "only the fixture's own view";
+    EXPECT_EQ(services.host->openTexts, 1) << "only the fixture's own view";
 }
 
 } // namespace

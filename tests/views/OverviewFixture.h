@@ -1,45 +1,26 @@
 #pragma once
 
-#include "selection/VxHWSelectionHandler.h"
-#include "tests/support/model/FakeCompareService.h"
-#include "tests/support/model/FakeDiagService.h"
-#include "tests/support/model/FakeStation.h"
-#include "tests/support/services/FakeDataObject.h"
-#include "tests/support/services/TestServices.h"
-#include "tests/support/toolkit/RecordingToolkit.h"
+#include "tests/support/StationStage.h"
+#include "tests/support/model/FakeModelServices.h"
 #include "tests/views/RecordingController.h"
 #include "views/config/VxHWRackOverview.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace zqbchwcx::testing {
 
-using Lines = std::vector<std::string>;
-
-/// An overview with a station of four racks, wired as its manager would, its controllers recorded. A test that
-/// provokes errors takes them with `TakeReports`; any other report fails it.
-class OverviewFixture : public ::testing::Test {
+/// An overview with a station of four racks, wired as its manager would, its controllers recorded.
+class OverviewFixture : public StationFixture {
 protected:
-    OverviewFixture()
+    OverviewFixture() : StationFixture(4)
     {
         for (const auto* name : {"IDB_CRX_RACKNR_ACTIVE", "IDB_CRX_RACKNR_INACTIVE", "IDB_DIAG_CPU_RUN",
                                  "IDB_DIAG_CPU_STOP", "IDB_DIAG_CPU_HOLD", "IDB_DIAG_FAILURE", "IDB_COMP_EQUAL",
                                  "IDB_COMP_POTEQUAL", "IDB_COMP_NOMODULE", "IDB_COMP_MODULEDIFF", "IDB_COMP_PARAMDIFF"})
-            services.texts->module->pictures[name] = std::make_shared<FakeImage>(name);
-        station->clipboard = services.objects->clipboard;
+            services.host->pictures[name] = std::make_shared<FakeImage>(name);
         view = MakeView(site);
-        handler->VxHWStation(station);
     }
     void TearDown() override
     {
-        EXPECT_EQ(TakeReports(), Lines{});
+        StationFixture::TearDown();
         view.reset();
         EXPECT_FALSE(site.IsConnected());
     }
@@ -74,14 +55,6 @@ protected:
         site.User().KeyDown(nKeyCode, nShift);
         site.User().KeyUp(nKeyCode, nShift);
     }
-    void Select(const std::vector<std::pair<std::int32_t, std::int32_t>>& places)
-    {
-        auto& selected = dynamic_cast<FakeRackPlaces&>(*handler->SelPlaces());
-        selected.places.clear();
-        for (const auto& [lRack, lPlace] : places) selected.places.push_back(station->Place(lRack, lPlace));
-        handler->SelChangeComplete();
-    }
-    std::string Selection() const { return dynamic_cast<FakeRackPlaces&>(*handler->SelPlaces()).Keys(); }
     FakeModulePtr Put(std::int32_t lRack, std::int32_t lPlace, const std::string& picture, std::int32_t lPlaceCount = 0)
     {
         auto module = station->Put(lRack, lPlace, "HQ " + picture, lPlaceCount);
@@ -97,22 +70,11 @@ protected:
         return Pic().TakeLines();
     }
 
-    Lines TakeReports()
-    {
-        Lines sources;
-        for (const auto& report : std::exchange(services.errors->reports, {})) sources.push_back(report.source);
-        return sources;
-    }
-
-    CallLogPtr log = std::make_shared<CallLog>();
-    std::shared_ptr<RecordingToolkit> toolkit = std::make_shared<RecordingToolkit>(log);
-    TestServices services{log, toolkit};
-    FakeStationPtr station = std::make_shared<FakeStation>(log, 4, 11);
-    VxHWSelectionHandlerPtr handler = std::make_shared<VxHWSelectionHandler>();
+    CallLogPtr log = services.log;
+    std::shared_ptr<RecordingToolkit> toolkit = services.toolkit;
     std::shared_ptr<RecordingController> controller = std::make_shared<RecordingController>();
     std::shared_ptr<FakeCompareService> compare = std::make_shared<FakeCompareService>(log);
     std::shared_ptr<FakeDiagService> diag = std::make_shared<FakeDiagService>(log);
-    std::shared_ptr<FakeDataObject> data = std::make_shared<FakeDataObject>(log);
     RecordingControl site{log};
     std::shared_ptr<VxHWRackOverview> view;
 };

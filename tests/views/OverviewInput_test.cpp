@@ -1,15 +1,9 @@
-#include "platform/Input.h"
 #include "tests/views/OverviewFixture.h"
 
 namespace zqbchwcx::testing {
 namespace {
 
-using ::testing::AllOf;
-using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::Not;
+using namespace ::testing;
 
 constexpr std::int16_t Left = vxButtonLeft;
 constexpr std::int16_t Right = vxButtonRight;
@@ -55,8 +49,8 @@ TEST_F(OverviewInputTest, MouseEventsBecomePositions)
 
 TEST_F(OverviewInputTest, ADragStartsAtTheThresholdOfTheDesktop)
 {
-    services.settings->values = {{{"Control Panel\\Desktop", "DragWidth"}, "6"},
-                                 {{"Control Panel\\Desktop", "DragHeight"}, "3"}};
+    services.host->settings = {{{"Control Panel\\Desktop", "DragWidth"}, "6"},
+                               {{"Control Panel\\Desktop", "DragHeight"}, "3"}};
     RecordingControl otherSite(log);
     view = MakeView(otherSite);
     controller->dragPosition = 2;
@@ -85,11 +79,11 @@ TEST_F(OverviewInputTest, ADragStartsAtTheThresholdOfTheDesktop)
     Move(90, 330);
     EXPECT_EQ(DragCount(), 0) << "wrong button, then a position without drag";
 
-    services.settings->values[{"Control Panel\\Desktop", "DragWidth"}] = "wide";
+    services.host->settings[{"Control Panel\\Desktop", "DragWidth"}] = "wide";
     RecordingControl thirdSite(log);
     view = MakeView(thirdSite);
-    ASSERT_EQ(services.errors->reports.size(), 1U);
-    EXPECT_THAT(services.errors->reports[0].description, AllOf(HasSubstr("DragWidth"), HasSubstr("wide")));
+    ASSERT_EQ(services.host->reports.size(), 1U);
+    EXPECT_THAT(services.host->reports[0].description, AllOf(HasSubstr("DragWidth"), HasSubstr("wide")));
     EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWRackOverview.P_ReadDragDelayFromRegistry"));
     Press(33, 330);
     Move(37, 330);
@@ -202,7 +196,7 @@ TEST_F(OverviewInputTest, TheDragPointerShowsTheModulesUnderTheMouse)
 {
     Put(1, 4, "IDB_CRX_MODULE_IO_DIGITAL", 2);
     auto modules = std::make_shared<FakeModules>(log);
-    modules->modules = {station->Module(1, 4), station->Module(1, 5), station->Module(0, 1)};
+    modules->members = {station->Module(1, 4), station->Module(1, 5), station->Module(0, 1)};
     controller->dragModules = modules;
     std::int32_t lEffect = 3;
     const auto over = [&](float x, std::int16_t nState) { Mouse().OLEDragOver(data, lEffect, 0, 0, x, 330, nState); };
@@ -230,7 +224,7 @@ TEST_F(OverviewInputTest, TheDragPointerShowsTheModulesUnderTheMouse)
     Mouse().OLECompleteDrag(lEffect);
     EXPECT_FALSE(DragPic().Visible());
     over(60, vxDragEnter);
-    modules->modules.clear();
+    modules->members.clear();
     over(60, vxDragLeave);
     over(60, vxDragEnter);
     EXPECT_FALSE(DragPic().Visible());
@@ -369,7 +363,7 @@ TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)
     EXPECT_THAT(controller->Take(), ElementsAre("KeyReturn", "Cut", "Copy", "Paste", "Delete"));
 
     Lines captions;
-    services.texts->module->texts = {{57635, "Ausschneiden"}};
+    services.host->texts = {{57635, "Ausschneiden"}};
     Key(vxKeyApps);
     for (const auto& item : Menu().items) captions.push_back(item.caption);
     EXPECT_THAT(captions, ElementsAre("T41001", "-", "Ausschneiden", "T57634", "T57637", "-", "T57632"));

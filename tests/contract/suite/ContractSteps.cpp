@@ -1,13 +1,5 @@
 #include "ContractSteps.h"
 
-#include "foundation/PlacePosition.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRack.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "foundation/model/VxHWRacks.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -3,6 +3,14 @@
 #include "ModelContract.h"
 
 #include "foundation/Event.h"
+#include "foundation/PlacePosition.h"
+#include "foundation/VxError.h"
+#include "foundation/model/VxHWModule.h"
+#include "foundation/model/VxHWModules.h"
+#include "foundation/model/VxHWRack.h"
+#include "foundation/model/VxHWRackPlace.h"
+#include "foundation/model/VxHWRackPlaces.h"
+#include "foundation/model/VxHWRacks.h"
 
 #include <string>
 #include <vector>

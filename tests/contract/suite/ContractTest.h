@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ModelContract.h"
+#include "ContractSteps.h"
 
 #include <span>
 
@@ -9,13 +9,12 @@ namespace zqbchwcx::testing {
 /// One rule of the contract and the test of it.
 struct ContractTest {
     const char* name;
-    bool readOnly; ///< which kind of station it wants
     void (*body)(const ContractHost& host);
+    bool readOnly = false; ///< which kind of station it wants
 };
 
 std::span<const ContractTest> ObjectContractTests();
 std::span<const ContractTest> EditingContractTests();
-std::span<const ContractTest> SpanningContractTests();
 std::span<const ContractTest> ExchangeContractTests();
 
 } // namespace zqbchwcx::testing

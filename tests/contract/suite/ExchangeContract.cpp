@@ -1,11 +1,4 @@
-#include "ContractSteps.h"
 #include "ContractTest.h"
-
-#include "foundation/VxError.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
 
 #include <gtest/gtest.h>
 
@@ -94,10 +87,10 @@ void ClipboardCarriesModules(const ContractHost& host)
 std::span<const ContractTest> ExchangeContractTests()
 {
     static constexpr std::array tests = {
-        ContractTest{"ConfigTextCarriesModulesAndShape", false, ConfigTextCarriesModulesAndShape},
-        ContractTest{"DamagedConfigTextGivesNoModules", false, DamagedConfigTextGivesNoModules},
-        ContractTest{"ExchangeObjectCarriesModules", false, ExchangeObjectCarriesModules},
-        ContractTest{"ClipboardCarriesModules", false, ClipboardCarriesModules},
+        ContractTest{"ConfigTextCarriesModulesAndShape", ConfigTextCarriesModulesAndShape},
+        ContractTest{"DamagedConfigTextGivesNoModules", DamagedConfigTextGivesNoModules},
+        ContractTest{"ExchangeObjectCarriesModules", ExchangeObjectCarriesModules},
+        ContractTest{"ClipboardCarriesModules", ClipboardCarriesModules},
     };
     return tests;
 }

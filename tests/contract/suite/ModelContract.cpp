@@ -1,5 +1,3 @@
-#include "ModelContract.h"
-
 #include "ContractTest.h"
 
 #include <gtest/gtest.h>
@@ -28,8 +26,7 @@ private:
 
 void RegisterModelContract(const std::string& hostName, const ContractHostFactory& factory)
 {
-    for (const auto& group :
-         {ObjectContractTests(), EditingContractTests(), SpanningContractTests(), ExchangeContractTests()})
+    for (const auto& group : {ObjectContractTests(), EditingContractTests(), ExchangeContractTests()})
         for (const ContractTest& test : group)
             ::testing::RegisterTest(hostName.c_str(), test.name, nullptr, nullptr, __FILE__, __LINE__,
                                     [test, factory]() -> ::testing::Test* { return new ContractCase(test, factory); });

@@ -1,12 +1,4 @@
-#include "ContractSteps.h"
 #include "ContractTest.h"
-
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRack.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "foundation/model/VxHWRacks.h"
 
 #include <gtest/gtest.h>
 
@@ -101,11 +93,11 @@ void FactoryMakesNewEmptyObjects(const ContractHost& host)
 std::span<const ContractTest> ObjectContractTests()
 {
     static constexpr std::array tests = {
-        ContractTest{"RacksAndPlacesAreNumbered", false, RacksAndPlacesAreNumbered},
-        ContractTest{"EveryPlaceHasAModule", false, EveryPlaceHasAModule},
-        ContractTest{"PlacesKeepTheirIdentity", false, PlacesKeepTheirIdentity},
-        ContractTest{"ModulesKeepTheirIdentity", false, ModulesKeepTheirIdentity},
-        ContractTest{"FactoryMakesNewEmptyObjects", false, FactoryMakesNewEmptyObjects},
+        ContractTest{"RacksAndPlacesAreNumbered", RacksAndPlacesAreNumbered},
+        ContractTest{"EveryPlaceHasAModule", EveryPlaceHasAModule},
+        ContractTest{"PlacesKeepTheirIdentity", PlacesKeepTheirIdentity},
+        ContractTest{"ModulesKeepTheirIdentity", ModulesKeepTheirIdentity},
+        ContractTest{"FactoryMakesNewEmptyObjects", FactoryMakesNewEmptyObjects},
     };
     return tests;
 }

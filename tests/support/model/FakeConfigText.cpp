@@ -4,29 +4,34 @@
 
 namespace zqbchwcx::testing {
 
-std::string FakeModules::ConfigText() const
+FakeModule::FakeModule(CallLogPtr log) : Logged(std::move(log)), subModules(std::make_shared<FakeModules>(moLog)) {}
+
+VxHWModulesPtr FakeModule::SubModules() const
 {
-    moLog->Call("VxHWModules.ConfigText");
-    return WriteFakeConfigText(modules);
+    return Answer("VxHWModule.SubModules", subModules);
 }
 
-std::string WriteFakeConfigText(const std::vector<VxHWModulePtr>& modules)
+std::string FakeModules::ConfigText() const
+{
+    return Answer("VxHWModules.ConfigText", WriteFakeConfigText(members));
+}
+
+std::string WriteFakeConfigText(const FakeModuleList& modules)
 {
     std::string text;
-    for (const auto& oModule : modules) {
-        const auto& module = dynamic_cast<const FakeModule&>(*oModule);
-        const auto places = module.parent ? module.parent->placeCount : 0;
-        if (module.orderNumber.empty()) text += "-\n";
+    for (const auto& module : modules) {
+        const auto places = module->parent ? module->parent->placeCount : 0;
+        if (module->orderNumber.empty()) text += "-\n";
         else
-            text += module.orderNumber + ";" + module.name + ";" + std::to_string(module.indexInParent) + ";" +
+            text += module->orderNumber + ";" + module->name + ";" + std::to_string(module->indexInParent) + ";" +
                     std::to_string(places) + "\n";
     }
     return text;
 }
 
-std::vector<VxHWModulePtr> ReadFakeConfigText(std::string_view text, const CallLogPtr& log)
+FakeModuleList ReadFakeConfigText(std::string_view text, const CallLogPtr& log)
 {
-    std::vector<VxHWModulePtr> modules;
+    FakeModuleList modules;
     FakeModulePtr parent;
     std::istringstream lines{std::string(text)};
     for (std::string line; std::getline(lines, line);) {
@@ -34,42 +39,32 @@ std::vector<VxHWModulePtr> ReadFakeConfigText(std::string_view text, const CallL
         modules.push_back(module);
         if (line == "-") continue;
         std::istringstream fields(line);
-        std::string index;
-        std::string places;
+        std::int32_t places = 0;
+        char semicolon = 0;
         std::getline(fields, module->orderNumber, ';');
         std::getline(fields, module->name, ';');
-        std::getline(fields, index, ';');
-        std::getline(fields, places, ';');
-        if (places.empty()) throw VxError(vxErrorInvalidArgument, "Not a configuration text: " + line);
-        module->indexInParent = std::stoi(index);
+        if (!(fields >> module->indexInParent >> semicolon >> places))
+            throw VxError(vxErrorInvalidArgument, "Not a configuration text: " + line);
         if (module->indexInParent == 0) continue;
         if (module->indexInParent == 1 || !parent) {
-            parent = CopyFakeModule(*module, log);
+            parent = std::make_shared<FakeModule>(*module);
             parent->indexInParent = 0;
-            parent->placeCount = std::stoi(places);
+            parent->placeCount = places;
         }
         module->parent = parent;
     }
     return modules;
 }
 
-FakeModulePtr CopyFakeModule(const FakeModule& module, const CallLogPtr& log)
+FakeModuleList MakeFakeMembers(const FakeModulePtr& parent, const CallLogPtr& log)
 {
-    auto copy = std::make_shared<FakeModule>(module);
-    copy->subModules = std::make_shared<FakeModules>(log);
-    for (const auto& oSub : module.subModules->modules)
-        copy->subModules->modules.push_back(CopyFakeModule(dynamic_cast<const FakeModule&>(*oSub), log));
-    return copy;
-}
-
-std::vector<VxHWModulePtr> MakeFakeMembers(const FakeModulePtr& parent, const CallLogPtr& log)
-{
-    std::vector<VxHWModulePtr> members;
+    FakeModuleList members;
     for (std::int32_t index = 1; index <= parent->placeCount; ++index) {
-        auto member = CopyFakeModule(*parent, log);
+        auto member = std::make_shared<FakeModule>(*parent);
         member->placeCount = 0;
         member->indexInParent = index;
         member->parent = parent;
+        member->subModules = std::make_shared<FakeModules>(log);
         members.push_back(member);
     }
     return members;

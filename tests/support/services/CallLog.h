@@ -3,8 +3,7 @@
 #include "tests/support/services/FaultPoints.h"
 
 #include <memory>
-#include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zqbchwcx::testing {
@@ -32,5 +31,23 @@ public:
     }
 };
 using CallLogPtr = std::shared_ptr<CallLog>;
+
+/// What all test doubles have in common.
+class Logged {
+public:
+    explicit Logged(CallLogPtr log) : moLog(std::move(log)) {}
+
+protected:
+    void Call(std::string_view call) const { moLog->Call(call); }
+    /// A call that only answers.
+    template <class Value>
+    Value Answer(std::string_view call, Value value) const
+    {
+        moLog->Call(call);
+        return value;
+    }
+
+    CallLogPtr moLog;
+};
 
 } // namespace zqbchwcx::testing

@@ -1,22 +1,22 @@
 #pragma once
 
-#include "tests/support/services/FakeTimer.h"
+#include "platform/Timer.h"
+#include "tests/support/services/CallLog.h"
 
-#include <memory>
-#include <utility>
-#include <vector>
+#include <algorithm>
+#include <functional>
 
 namespace zqbchwcx::testing {
 
 /// Makes timers and lets their time pass.
-class FakeClock {
+class FakeClock : public Logged {
 public:
-    explicit FakeClock(CallLogPtr log) : moLog(std::move(log)) {}
+    using Logged::Logged;
 
     TimerPtr CreateTimer()
     {
-        moLog->Call("Toolkit.CreateTimer");
-        auto state = std::make_shared<FakeTimerState>();
+        Call("Toolkit.CreateTimer");
+        auto state = std::make_shared<State>();
         mcolTimers.push_back(state);
         return std::make_unique<FakeTimer>(moLog, std::move(state));
     }
@@ -27,15 +27,48 @@ public:
         for (std::int32_t i = 0; i < lMilliseconds; ++i) Tick();
     }
 
-    std::size_t EnabledCount() const
+    std::ptrdiff_t EnabledCount() const
     {
-        std::size_t count = 0;
-        for (const auto& weak : mcolTimers)
-            if (const auto timer = weak.lock(); timer && timer->enabled) ++count;
-        return count;
+        return std::count_if(mcolTimers.begin(), mcolTimers.end(), [](const auto& weak) {
+            const auto timer = weak.lock();
+            return timer && timer->enabled;
+        });
     }
 
 private:
+    struct State {
+        std::int32_t interval = 0;
+        std::int32_t elapsed = 0;
+        bool enabled = false;
+        std::function<void()> handler;
+    };
+
+    class FakeTimer : public Timer, public Logged {
+    public:
+        FakeTimer(CallLogPtr log, std::shared_ptr<State> state) : Logged(std::move(log)), moState(std::move(state)) {}
+
+        void Interval(std::int32_t lMilliseconds) override
+        {
+            Call("Timer.Interval");
+            moState->interval = lMilliseconds;
+        }
+        bool Enabled() const override { return moState->enabled; }
+        void Enabled(bool bEnabled) override
+        {
+            Call("Timer.Enabled");
+            moState->enabled = bEnabled;
+            moState->elapsed = 0;
+        }
+        void OnTimer(std::function<void()> handler) override
+        {
+            Call("Timer.OnTimer");
+            moState->handler = std::move(handler);
+        }
+
+    private:
+        std::shared_ptr<State> moState;
+    };
+
     void Tick()
     {
         const auto timers = mcolTimers;
@@ -43,13 +76,11 @@ private:
             const auto timer = weak.lock();
             if (!timer || !timer->enabled || ++timer->elapsed < timer->interval) continue;
             timer->elapsed = 0;
-            const auto handler = timer->handler;
-            if (handler) handler();
+            if (const auto handler = timer->handler) handler();
         }
     }
 
-    CallLogPtr moLog;
-    std::vector<std::weak_ptr<FakeTimerState>> mcolTimers;
+    std::vector<std::weak_ptr<State>> mcolTimers;
 };
 
 } // namespace zqbchwcx::testing

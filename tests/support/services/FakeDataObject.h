@@ -4,41 +4,56 @@
 #include "tests/support/services/CallLog.h"
 
 #include <map>
-#include <utility>
 
 namespace zqbchwcx::testing {
 
 /// A data object in memory. An announced format is offered, but holds no data.
-class FakeDataObject : public DataObject {
+class FakeDataObject : public DataObject, public Logged {
 public:
-    explicit FakeDataObject(CallLogPtr log) : moLog(std::move(log)) {}
+    using Logged::Logged;
 
     void SetData(std::int16_t nFormat, const ByteArray& data) override
     {
-        moLog->Call("DataObject.SetData");
+        Call("DataObject.SetData");
         formats[nFormat] = data;
     }
     void AnnounceFormat(std::int16_t nFormat) override
     {
-        moLog->Call("DataObject.AnnounceFormat");
+        Call("DataObject.AnnounceFormat");
         formats[nFormat];
     }
     bool GetFormat(std::int16_t nFormat) const override
     {
-        moLog->Call("DataObject.GetFormat");
-        return formats.contains(nFormat);
+        return Answer("DataObject.GetFormat", formats.contains(nFormat));
     }
     ByteArray GetData(std::int16_t nFormat) const override
     {
-        moLog->Call("DataObject.GetData");
         const auto found = formats.find(nFormat);
-        return found == formats.end() ? ByteArray{} : found->second;
+        return Answer("DataObject.GetData", found == formats.end() ? ByteArray{} : found->second);
     }
 
     std::map<std::int16_t, ByteArray> formats;
+};
+
+/// An exchange data object that takes any bytes.
+class FakeExchangeData : public ExchangeData, public Logged {
+public:
+    static constexpr std::int16_t Format = 0x1234;
+
+    FakeExchangeData(CallLogPtr log, std::shared_ptr<ByteArray> clipboard)
+        : Logged(std::move(log)), moClipboard(std::move(clipboard))
+    {
+    }
+
+    std::int16_t FormatId() const override { return Answer("ExchangeData.FormatId", Format); }
+    void StartEmpty() override { Call("ExchangeData.StartEmpty"), mContent.clear(); }
+    ByteArray Data() const override { return Answer("ExchangeData.Data", mContent); }
+    void LoadData(const ByteArray& data) override { Call("ExchangeData.LoadData"), mContent = data; }
+    void PutOnClipboard() override { moLog->Note("PutOnClipboard"), *moClipboard = mContent; }
 
 private:
-    CallLogPtr moLog;
+    std::shared_ptr<ByteArray> moClipboard;
+    ByteArray mContent;
 };
 
 } // namespace zqbchwcx::testing

@@ -4,19 +4,17 @@
 #include "tests/support/services/CallLog.h"
 
 #include <map>
-#include <string>
-#include <utility>
 
 namespace zqbchwcx::testing {
 
 /// A desktop whose system colours and pointer a test sets and reads.
-class FakeDesktop : public Desktop {
+class FakeDesktop : public Desktop, public Logged {
 public:
-    explicit FakeDesktop(CallLogPtr log) : moLog(std::move(log)) {}
+    using Logged::Logged;
 
     std::optional<OleColor> TranslateColor(OleColor color, std::intptr_t /*hPalette*/) const override
     {
-        moLog->Call("Desktop.TranslateColor");
+        Call("Desktop.TranslateColor");
         if (color >= 0) return color;
         const auto found = systemColors.find(color);
         return found == systemColors.end() ? std::nullopt : std::optional(found->second);
@@ -28,7 +26,7 @@ public:
     }
     std::int16_t RegisterClipboardFormat(std::string_view name) override
     {
-        moLog->Call("Desktop.RegisterClipboardFormat");
+        Call("Desktop.RegisterClipboardFormat");
         return Format(name);
     }
 
@@ -49,7 +47,6 @@ public:
     MousePointer pointer = MousePointer::Default;
 
 private:
-    CallLogPtr moLog;
     std::map<std::string, std::int16_t> mcolFormats;
 };
 

@@ -4,9 +4,7 @@
 #include "tests/support/toolkit/FakeImage.h"
 
 #include <cstdint>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace zqbchwcx::testing {
 

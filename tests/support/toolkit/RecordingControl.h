@@ -3,16 +3,13 @@
 #include "platform/UserControl.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string>
-#include <utility>
-
 namespace zqbchwcx::testing {
 
 /// A site for a view, or a control inside one. The test plays the user.
-class RecordingControl : public ChildControl {
+class RecordingControl : public ChildControl, public Logged {
 public:
     explicit RecordingControl(CallLogPtr log, const Rect& rect = MakeRect(0, 0, 260, 400))
-        : bounds(rect), moLog(std::move(log))
+        : Logged(std::move(log)), bounds(rect)
     {
     }
 
@@ -22,19 +19,15 @@ public:
     std::int32_t Height() const override { return bounds.height() * vxTwipsPerPixel; }
     void Size(std::int32_t lWidth, std::int32_t lHeight) override
     {
-        moLog->Call("UserControl.Size");
+        Call("UserControl.Size");
         Resize(lWidth, lHeight);
     }
     void Font(std::string_view family, double points) override
     {
-        moLog->Call("UserControl.Font");
+        Call("UserControl.Font");
         font = std::string(family) + " " + std::to_string(points).substr(0, 4);
     }
-    void Move(const Rect& rect) override
-    {
-        moLog->Call("ChildControl.Move");
-        bounds = rect;
-    }
+    void Move(const Rect& rect) override { Call("ChildControl.Move"), bounds = rect; }
 
     bool IsConnected() const { return mpEvents != nullptr; }
     UserControlEvents& User() const { return *mpEvents; }
@@ -50,7 +43,6 @@ public:
     std::string font;
 
 private:
-    CallLogPtr moLog;
     UserControlEvents* mpEvents = nullptr;
 };
 

@@ -1,16 +1,10 @@
 #pragma once
 
-#include "foundation/VxError.h"
-#include "platform/ImageList.h"
 #include "tests/support/services/CallLog.h"
 #include "tests/support/toolkit/FakeImage.h"
 
 #include <map>
-#include <memory>
 #include <set>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace zqbchwcx::testing {
 
@@ -20,28 +14,23 @@ struct FakePictureFiles {
     std::vector<std::string> asked;
 };
 
-class RecordingImageList : public ImageList {
+class RecordingImageList : public ImageList, public Logged {
 public:
     RecordingImageList(CallLogPtr log, std::shared_ptr<FakePictureFiles> files)
-        : moLog(std::move(log)), moFiles(std::move(files))
+        : Logged(std::move(log)), moFiles(std::move(files))
     {
     }
 
     std::int32_t Count() const override { return static_cast<std::int32_t>(mcolImages.size()); }
-    void Key(std::int32_t /*lIndex*/, std::string_view key) override
-    {
-        moLog->Call("ImageList.Key");
-        Add(key);
-    }
+    void Key(std::int32_t /*lIndex*/, std::string_view key) override { Call("ImageList.Key"), Add(key); }
     bool Contains(std::string_view key) const override
     {
-        moLog->Call("ImageList.Contains");
-        return mcolImages.contains(std::string(key));
+        return Answer("ImageList.Contains", mcolImages.contains(std::string(key)));
     }
     bool AddFile(std::string_view path, std::string_view key) override
     {
         moFiles->asked.emplace_back(path);
-        moLog->Call("ImageList.AddFile");
+        Call("ImageList.AddFile");
         if (!moFiles->existing.contains(std::string(path))) return false;
         Add(key);
         return true;
@@ -57,9 +46,24 @@ public:
 private:
     void Add(std::string_view key) { mcolImages.emplace(key, FakeImage(std::string(key))); }
 
-    CallLogPtr moLog;
     std::shared_ptr<FakePictureFiles> moFiles;
     std::map<std::string, FakeImage> mcolImages;
+};
+
+class RecordingImageListFactory : public ImageListFactory, public Logged {
+public:
+    using Logged::Logged;
+
+    ImageListPtr Create(std::intptr_t /*hInstance*/, std::string_view stripName, std::int32_t lCellWidth,
+                        std::int32_t /*lReserved*/, OleColor /*maskColor*/, std::int32_t /*lFlags*/) override
+    {
+        Call("ImageListFactory.Create");
+        created.push_back(std::string(stripName) + " " + std::to_string(lCellWidth));
+        return std::make_shared<RecordingImageList>(moLog, files);
+    }
+
+    std::vector<std::string> created;
+    std::shared_ptr<FakePictureFiles> files = std::make_shared<FakePictureFiles>();
 };
 
 } // namespace zqbchwcx::testing

@@ -3,14 +3,10 @@
 #include "platform/PopupMenu.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string>
-#include <utility>
-#include <vector>
-
 namespace zqbchwcx::testing {
 
 /// A menu that is open only for the moment of its opening: then the test may look at it and choose an item.
-class RecordingPopupMenu : public PopupMenu {
+class RecordingPopupMenu : public PopupMenu, public Logged {
 public:
     struct Item {
         std::string name;
@@ -18,29 +14,29 @@ public:
         bool enabled = true;
     };
 
-    explicit RecordingPopupMenu(CallLogPtr log) : moLog(std::move(log)) {}
+    using Logged::Logged;
 
     std::int32_t Add(std::string_view name, std::string_view caption) override
     {
-        moLog->Call("PopupMenu.Add");
+        Call("PopupMenu.Add");
         items.push_back({std::string(name), std::string(caption)});
         return static_cast<std::int32_t>(items.size()) - 1;
     }
     void Caption(std::int32_t lItem, std::string_view caption) override
     {
-        moLog->Call("PopupMenu.Caption");
+        Call("PopupMenu.Caption");
         At(lItem).caption = caption;
     }
     bool Enabled(std::int32_t lItem) const override { return items.at(static_cast<std::size_t>(lItem)).enabled; }
     void Enabled(std::int32_t lItem, bool bEnabled) override
     {
-        moLog->Call("PopupMenu.Enabled");
+        Call("PopupMenu.Enabled");
         At(lItem).enabled = bEnabled;
     }
     void OnClick(std::function<void(std::int32_t lItem)> handler) override { mHandler = std::move(handler); }
     void Show(std::optional<Point> at, std::optional<std::int32_t> lDefaultItem) override
     {
-        moLog->Call("PopupMenu.Show");
+        Call("PopupMenu.Show");
         std::string line = at ? "at " + std::to_string(at->x) + "," + std::to_string(at->y) : "at mouse";
         for (std::size_t i = 0; i < items.size(); ++i) {
             if (!items[i].enabled || items[i].caption == "-") continue;
@@ -65,7 +61,6 @@ public:
 private:
     Item& At(std::int32_t lItem) { return items.at(static_cast<std::size_t>(lItem)); }
 
-    CallLogPtr moLog;
     std::function<void(std::int32_t)> mHandler;
 };
 

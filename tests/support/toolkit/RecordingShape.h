@@ -3,24 +3,18 @@
 #include "platform/Shape.h"
 #include "tests/support/services/CallLog.h"
 
-#include <utility>
-
 namespace zqbchwcx::testing {
 
-class RecordingShape : public Frame {
+class RecordingShape : public Frame, public Logged {
 public:
-    RecordingShape(CallLogPtr log, const Rect& rect) : moLog(std::move(log)), mBounds(rect) {}
+    RecordingShape(CallLogPtr log, const Rect& rect) : Logged(std::move(log)), mBounds(rect) {}
 
     Rect Bounds() const override { return mBounds; }
-    void Move(const Rect& rect) override
-    {
-        moLog->Call("Shape.Move");
-        mBounds = rect;
-    }
+    void Move(const Rect& rect) override { Call("Shape.Move"), mBounds = rect; }
     bool Visible() const override { return mbVisible; }
     void Visible(bool bVisible) override
     {
-        moLog->Call("Shape.Visible");
+        Call("Shape.Visible");
         mbVisible = bVisible;
         ++visibleWrites;
     }
@@ -28,7 +22,6 @@ public:
     std::int32_t visibleWrites = 0;
 
 private:
-    CallLogPtr moLog;
     Rect mBounds;
     bool mbVisible = true;
 };

@@ -4,27 +4,20 @@
 #include "tests/support/services/FakeClock.h"
 #include "tests/support/services/FakeDesktop.h"
 #include "tests/support/toolkit/RecordingControl.h"
-#include "tests/support/toolkit/RecordingImageListFactory.h"
+#include "tests/support/toolkit/RecordingImageList.h"
 #include "tests/support/toolkit/RecordingPictureBox.h"
 #include "tests/support/toolkit/RecordingPopupMenu.h"
 #include "tests/support/toolkit/RecordingShape.h"
 #include "tests/support/toolkit/RecordingTooltips.h"
 
-#include <functional>
-#include <map>
-#include <string>
-#include <vector>
-
 namespace zqbchwcx::testing {
 
 /// A windowing system without windows: what views draw is recorded, what a user does is done by the test. The
 /// children that it made are found by name while their view lives.
-class RecordingToolkit : public Toolkit {
+class RecordingToolkit : public Toolkit, public Logged {
 public:
-    explicit RecordingToolkit(const CallLogPtr& log)
-        : clock(log), desktop(log), imageLists(log), tooltips(log), moLog(log)
-    {
-    }
+    using Logged::Logged;
+    using ShapesByName = std::map<std::string, std::vector<RecordingShape*>>;
 
     PictureBoxPtr CreatePictureBox(UserControl&, std::string_view name, const Rect& rect) override
     {
@@ -48,7 +41,7 @@ public:
     }
     SysInfoPtr CreateSysInfo(UserControl&) override
     {
-        moLog->Call("Toolkit.CreateSysInfo");
+        Call("Toolkit.CreateSysInfo");
         return std::make_unique<ForwardingSysInfo>(sysColorsChanged);
     }
     TimerPtr CreateTimer() override { return clock.CreateTimer(); }
@@ -56,14 +49,14 @@ public:
     TooltipService& GetTooltipService() override { return tooltips; }
     ImageListFactory& GetImageListFactory() override { return imageLists; }
 
-    FakeClock clock;
-    FakeDesktop desktop;
-    RecordingImageListFactory imageLists;
-    RecordingTooltips tooltips;
+    FakeClock clock{moLog};
+    FakeDesktop desktop{moLog};
+    RecordingImageListFactory imageLists{moLog};
+    RecordingTooltips tooltips{moLog};
     std::map<std::string, RecordingPictureBox*> pictureBoxes;
     std::map<std::string, RecordingControl*> controls;
     std::map<std::string, RecordingPopupMenu*> menus;
-    std::map<std::string, std::vector<RecordingShape*>> shapes;
+    ShapesByName shapes;
     std::function<void()> sysColorsChanged; ///< the test calls it
 
 private:
@@ -79,13 +72,11 @@ private:
     template <class Child, class... Args>
     std::unique_ptr<Child> Made(Child*& found, Args&&... args)
     {
-        moLog->Call("Toolkit.Create");
+        Call("Toolkit.Create");
         auto child = std::make_unique<Child>(moLog, std::forward<Args>(args)...);
         found = child.get();
         return child;
     }
-
-    CallLogPtr moLog;
 };
 
 } // namespace zqbchwcx::testing

@@ -4,19 +4,17 @@
 #include "tests/support/services/CallLog.h"
 
 #include <map>
-#include <memory>
-#include <utility>
 
 namespace zqbchwcx::testing {
 
 /// Knows who answers for which window.
-class RecordingTooltips : public TooltipService {
+class RecordingTooltips : public TooltipService, public Logged {
 public:
-    explicit RecordingTooltips(CallLogPtr log) : moLog(std::move(log)) {}
+    using Logged::Logged;
 
     TooltipConnectionPtr Connect(std::intptr_t hWnd, TooltipCallback& callback) override
     {
-        moLog->Call("TooltipService.Connect");
+        Call("TooltipService.Connect");
         return std::make_unique<Connection>(mcolCallbacks, hWnd, callback);
     }
 
@@ -42,7 +40,6 @@ private:
         std::intptr_t mhWnd;
     };
 
-    CallLogPtr moLog;
     std::shared_ptr<Callbacks> mcolCallbacks = std::make_shared<Callbacks>();
 };
 

@@ -1,12 +1,5 @@
 #include "tests/unit/library/ConfigWorld.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <ostream>
-#include <string>
-#include <vector>
-
 // Every operation of the configuration mode is run again and again, and each time another one of the calls that it
 // makes to the model and the host fails.
 
@@ -81,24 +74,18 @@ void DragOverPlaceNine(ConfigWorld& world)
     world.StartDrag(18);
 }
 
-void InsertModule(ConfigWorld& world)
+std::function<void(ConfigWorld&)> Insert(std::int32_t lPlaceCount)
 {
-    auto module = world.station->MakeModule("M");
-    module->subModuleCount = 1;
-    world.manager->SetSingleModuleToCurPos(module);
+    return [=](ConfigWorld& world) {
+        auto module = world.station->MakeModule("M");
+        module->subModuleCount = 1;
+        module->placeCount = lPlaceCount;
+        world.manager->SetSingleModuleToCurPos(module);
+    };
 }
 
-void InsertModuleOfTwoPlaces(ConfigWorld& world)
+void Initialize(ConfigWorld& world)
 {
-    auto module = world.station->MakeModule("M");
-    module->subModuleCount = 1;
-    module->placeCount = 2;
-    world.manager->SetSingleModuleToCurPos(module);
-}
-
-void InitializeAnew(ConfigWorld& world)
-{
-    world.manager = std::make_shared<VxHWConfigManager>();
     world.Initialize();
 }
 
@@ -139,35 +126,29 @@ std::vector<Scenario> Scenarios()
         {"DragOutOfView", DragOverPlaceNine,
          [](ConfigWorld& world) {
              world.Over(18, vxDragLeave);
-             world.services.Minimal()->clock.Advance(20);
+             world.services.toolkit->clock.Advance(20);
          }},
         {"DropMove", DragOverPlaceNine, [](ConfigWorld& world) { world.Drop(18, 0); }},
         {"DropCopy", DragOverPlaceNine, [](ConfigWorld& world) { world.Drop(1008, vxCtrlMask); }},
         {"DropOnRack", DragOverPlaceNine, [](ConfigWorld& world) { world.Drop(1000, 0); }},
-        {"CompleteMove", DragOverPlaceNine,
-         [](ConfigWorld& world) {
-             std::int32_t lEffect = vxDropEffectMove;
-             world.DragDrop().OLECompleteDrag(lEffect);
-         }},
+        {"CompleteMove", DragOverPlaceNine, [](ConfigWorld& world) { world.Complete(); }},
         {"DragAndDrop", TwoModules,
          [](ConfigWorld& world) {
              world.StartDrag(18);
              world.Drop(18, 0);
-             std::int32_t lEffect = vxDropEffectMove;
-             world.DragDrop().OLECompleteDrag(lEffect);
+             world.Complete();
          },
          Mode::Editable, false, false, true},
-        {"SelectRack", Nothing, [](ConfigWorld& world) { world.Handler().SelectRack(world.station->Rack(1)); }},
+        {"SelectRack", Nothing, [](ConfigWorld& world) { world.handler->SelectRack(world.station->Rack(1)); }},
         {"IsParentModuleSelected", Member,
-         [](ConfigWorld& world) { world.Handler().IsParentModuleSelected(world.station->Module(0, 6)->parent); }},
-        {"IsModuleInFocus", TwoModules, [](ConfigWorld& world) { world.Handler().IsModuleInFocus(); }},
-        {"InsertModule", [](ConfigWorld& world) { world.Key().CursorKeyDown(8, 0); }, InsertModule, Mode::Editable,
+         [](ConfigWorld& world) { world.handler->IsParentModuleSelected(world.station->Module(0, 6)->parent); }},
+        {"IsModuleInFocus", TwoModules, [](ConfigWorld& world) { world.handler->IsModuleInFocus(); }},
+        {"InsertModule", [](ConfigWorld& world) { world.Key().CursorKeyDown(8, 0); }, Insert(0), Mode::Editable, true},
+        {"InsertModuleAtGap", [](ConfigWorld& world) { world.Key().CursorKeyDown(17, 0); }, Insert(2), Mode::Editable,
          true},
-        {"InsertModuleAtGap", [](ConfigWorld& world) { world.Key().CursorKeyDown(17, 0); }, InsertModuleOfTwoPlaces,
-         Mode::Editable, true},
-        {"Initialize", Nothing, InitializeAnew, Mode::Editable, false, true},
-        {"InitializeOnline", Nothing, InitializeAnew, Mode::ReadOnlyOnline, false, true},
-        {"InitializeOffline", Nothing, InitializeAnew, Mode::ReadOnlyOffline, false, true},
+        {"Initialize", Nothing, Initialize, Mode::Editable, false, true},
+        {"InitializeOnline", Nothing, Initialize, Mode::ReadOnlyOnline, false, true},
+        {"InitializeOffline", Nothing, Initialize, Mode::ReadOnlyOffline, false, true},
         {"Terminate", Nothing, [](ConfigWorld& world) { world.manager->Terminate(); }, Mode::Editable, false, true},
     };
 }
@@ -179,7 +160,7 @@ std::unique_ptr<ConfigWorld> MakeWorld(const Scenario& scenario)
                                                                                     : vxDisplayModeOffline);
     world->Initialize();
     scenario.prepare(*world);
-    EXPECT_TRUE(world->services.errors->reports.empty());
+    EXPECT_TRUE(world->services.host->reports.empty());
     world->services.Lines().clear();
     world->services.Faults().Restart();
     return world;
@@ -195,7 +176,7 @@ void ExpectBracketsClosed(const ConfigWorld& world, const Scenario& scenario)
 {
     EXPECT_EQ(world.LineCount("DoWaitCursor 1") + world.LineCount("Pointer hourglass"),
               world.LineCount("DoWaitCursor -1") + world.LineCount("Pointer default"));
-    EXPECT_EQ(world.services.errors->openActions, 0);
+    EXPECT_EQ(world.services.host->openActions, 0);
     EXPECT_TRUE(world.station->drawable || scenario.mayLeaveDrawingOff);
     const bool bDragEnded = std::string_view(scenario.name).starts_with("Drop");
     EXPECT_TRUE(!bDragEnded || world.DragDrop().State() == vxDragDropStateInactive);
@@ -203,7 +184,7 @@ void ExpectBracketsClosed(const ConfigWorld& world, const Scenario& scenario)
 
 void ExpectReport(const ConfigWorld& world)
 {
-    const auto& reports = world.services.errors->reports;
+    const auto& reports = world.services.host->reports;
     ASSERT_FALSE(reports.empty());
     EXPECT_EQ(reports.front().number, FaultPoints::InjectedNumber);
     const std::string& source = reports.front().source;
@@ -215,19 +196,19 @@ void ExpectReport(const ConfigWorld& world)
 void ExpectNoModuleLost(const ConfigWorld& world)
 {
     const std::string content = world.station->Content();
-    const bool bOnClipboard = !world.services.objects->clipboard->content.empty();
+    const bool bOnClipboard = !world.services.host->clipboard->empty();
     for (const char* order : {"=A", "=B", "=W"}) EXPECT_TRUE(content.find(order) != std::string::npos || bOnClipboard);
 }
 
 void ExpectNextEventWorks(ConfigWorld& world, const Scenario& scenario)
 {
     world.services.Faults().Restart();
-    world.services.errors->reports.clear();
-    if (scenario.isConnection) InitializeAnew(world);
+    world.services.host->reports.clear();
+    if (scenario.isConnection) Initialize(world);
     world.Key().CursorKeyDown(1010, 0);
     EXPECT_EQ(world.SelPlaces().Keys(), "1/5");
-    EXPECT_EQ(world.Handler().FocusPosition(), 1010);
-    EXPECT_TRUE(world.services.errors->reports.empty()) << world.services.errors->reports.front().source;
+    EXPECT_EQ(world.handler->FocusPosition(), 1010);
+    EXPECT_TRUE(world.services.host->reports.empty()) << world.services.host->reports.front().source;
 }
 
 class EveryCall : public ::testing::TestWithParam<Scenario> {};
@@ -238,7 +219,7 @@ TEST_P(EveryCall, MayFail)
     const auto undisturbed = MakeWorld(scenario);
     scenario.operate(*undisturbed);
     const std::int32_t lCalls = undisturbed->services.Faults().Count();
-    EXPECT_TRUE(undisturbed->services.errors->reports.empty());
+    EXPECT_TRUE(undisturbed->services.host->reports.empty());
     ASSERT_GT(lCalls, 0);
     for (std::int32_t lCall = 1; lCall <= lCalls; ++lCall) {
         const auto world = MakeWorld(scenario);

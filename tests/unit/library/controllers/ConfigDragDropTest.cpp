@@ -4,10 +4,7 @@
 #include "controllers/diag/VxHWDiagCtrlDD.h"
 #include "foundation/ConfigTextCodec.h"
 #include "foundation/mdl_VarConst.h"
-#include "platform/Input.h"
-#include "tests/support/controls/RecordingControl.h"
-#include "tests/support/services/FakeDataObject.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -24,7 +21,7 @@ protected:
         dragDrop->AddSubscriber(table);
     }
 
-    std::int16_t TextFormat() { return services.Minimal()->desktop.Format(G_ConfigTextFormatName); }
+    std::int16_t TextFormat() { return services.toolkit->desktop.Format(G_ConfigTextFormatName); }
     std::shared_ptr<FakeDataObject> ForeignData(std::string_view text)
     {
         auto oData = std::make_shared<FakeDataObject>(services.log);
@@ -57,9 +54,6 @@ protected:
     void Complete(std::int32_t lEffect) { dragDrop->OLECompleteDrag(lEffect); }
 
     std::shared_ptr<VxHWConfigCtrlDD> dragDrop = MakeController<VxHWConfigCtrlDD>();
-    std::shared_ptr<RecordingControl> overview = std::make_shared<RecordingControl>(services.log, "overview");
-    std::shared_ptr<RecordingControl> table = std::make_shared<RecordingControl>(services.log, "table");
-    std::shared_ptr<FakeDataObject> data = std::make_shared<FakeDataObject>(services.log);
 };
 
 TEST_F(ConfigDragDrop, ADragMayStartWhereASelectedModuleIs)
@@ -103,19 +97,19 @@ TEST_F(ConfigDragDrop, TheStateFollowsTheDragIntoOutOfAndBetweenViews)
     EXPECT_EQ(dragDrop->DropPosition(), -1);
     EXPECT_TRUE(dragDrop->PossibleDropPlaces().IsEmpty());
     EXPECT_FALSE(dragDrop->IsDropPlace(station->Place(0, 3)));
-    services.Minimal()->clock.Advance(9);
+    services.toolkit->clock.Advance(9);
     Over(8, vxDragEnter);
-    services.Minimal()->clock.Advance(100);
+    services.toolkit->clock.Advance(100);
     EXPECT_EQ(dragDrop->State(), vxDragDropStateActive) << "the next view was entered in time";
     TakeLines();
 
     Over(8, vxDragLeave);
-    services.Minimal()->clock.Advance(9);
+    services.toolkit->clock.Advance(9);
     EXPECT_THAT(TakeLines(), IsEmpty());
-    services.Minimal()->clock.Advance(1);
+    services.toolkit->clock.Advance(1);
     EXPECT_THAT(TakeLines(), ElementsAre("overview.StateChange from 1", "table.StateChange from 1"));
     EXPECT_EQ(dragDrop->State(), vxDragDropStateInactive);
-    EXPECT_EQ(services.Minimal()->clock.EnabledCount(), 0U);
+    EXPECT_EQ(services.toolkit->clock.EnabledCount(), 0);
 }
 
 TEST_F(ConfigDragDrop, TheStationIsAskedOncePerPositionAndDrag)
@@ -265,12 +259,11 @@ TEST_F(ConfigDragDrop, HostileTextIsReportedAndRefused)
 
 TEST_F(ConfigDragDrop, TheInertOnesKeepNothingAndTakeNothing)
 {
-    const VxHWConfigROCtrlDD config;
     const VxHWDiagCtrlDD diag;
     const VxHWCompCtrlDD compare;
-    EXPECT_THAT(TakeLines(),
-                ElementsAre("Register VxHWConfigROCtrlDD", "Register VxHWDiagCtrlDD", "Register VxHWCompCtrlDD"));
     VxHWConfigROCtrlDD inert;
+    EXPECT_THAT(TakeLines(),
+                ElementsAre("Register VxHWDiagCtrlDD", "Register VxHWCompCtrlDD", "Register VxHWConfigROCtrlDD"));
     inert.VxHWStation(station);
     inert.VxHWSelectionHandler(handler);
     inert.AddSubscriber(overview);

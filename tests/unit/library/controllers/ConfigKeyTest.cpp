@@ -1,8 +1,7 @@
 #include "controllers/config/VxHWConfigCtrlKey.h"
 #include "controllers/config/VxHWConfigROCtrlKey.h"
 #include "controllers/config/VxHWConfigROOfflineCtrlKey.h"
-#include "platform/Input.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -127,25 +126,6 @@ TEST_F(ConfigKey, PasteChangesNothingWithoutModulesOrRoom)
     EXPECT_EQ(station->Content(), "0/2=A");
 }
 
-TEST_F(ConfigKey, CutKeepsModulesThatDidNotReachTheClipboard)
-{
-    station->Put(0, 2, "A");
-    Select({{0, 2}});
-    services.Faults().Restart();
-    key->Copy();
-    const std::int32_t lCallsOfACopy = services.Faults().Count();
-    for (std::int32_t lCall = 1; lCall <= lCallsOfACopy; ++lCall) {
-        services.objects->clipboard->content.clear();
-        services.Faults().ThrowAt(lCall);
-        key->Cut();
-        EXPECT_TRUE(station->Content() == "0/2=A" || !services.objects->clipboard->content.empty())
-            << services.Faults().Thrown();
-        services.Faults().Restart();
-        station->Put(0, 2, "A");
-    }
-    TakeReports();
-}
-
 TEST_F(ConfigKey, ReturnOpensTheFirstParameterDialogOfTheSelection)
 {
     station->Put(0, 2, "A");
@@ -196,15 +176,6 @@ TEST_F(ConfigKey, AnErrorIsReportedBeforeTheActionIsClosed)
                 ElementsAre("BeginUserAction T4006",
                             "LogError zqbchwcx.VxHWConfigCtrlKey.IVxHWKeyInputController_KeyReturn", "EndUserAction"));
     TakeReports();
-}
-
-TEST_F(ConfigKey, OpensTheTextsAfterItsRegistrationAndReleasesThemBefore)
-{
-    {
-        const VxHWConfigROCtrlKey other;
-    }
-    EXPECT_THAT(TakeLines(), ElementsAre("Register VxHWConfigROCtrlKey", "Open zqhwuim", "Release zqhwuim",
-                                         "Unregister VxHWConfigROCtrlKey"));
 }
 
 } // namespace

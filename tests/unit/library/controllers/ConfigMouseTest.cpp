@@ -1,6 +1,5 @@
 #include "controllers/config/VxHWConfigROCtrlMouse.h"
-#include "platform/Input.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -160,19 +159,6 @@ TEST_F(ConfigMouse, WhatTheStationDoesNotHaveTakesNoPart)
         mouse->DblClick(lPosition);
     }
     EXPECT_THAT(TakeReports(), ElementsAre());
-}
-
-TEST_F(ConfigMouse, KeepsStationAndHandlerOnly)
-{
-    mouse->VxHWCompareService(nullptr);
-    mouse->AddSubscriber(nullptr);
-    EXPECT_EQ(mouse->VxHWStation(), station);
-    EXPECT_EQ(mouse->VxHWSelectionHandler(), handler);
-    EXPECT_EQ(mouse->VxHWCompareService(), nullptr);
-    EXPECT_EQ(mouse->VxHWDiagService(), nullptr);
-    mouse->VxHWSelectionHandler(nullptr);
-    mouse->MouseDown(-1, vxButtonLeft, 0);
-    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigCtrlMouse.IVxHWMouseInputController_MouseDown"));
 }
 
 } // namespace

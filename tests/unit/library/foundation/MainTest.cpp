@@ -5,7 +5,6 @@
 #include "tests/support/services/TestServices.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 
@@ -48,12 +47,12 @@ TEST(PlacePosition, ANegativeOneLeavesTheSubPositionAsItWas)
 TEST(Main, PictureDirectoryEndsInOneBackslash)
 {
     const TestServices services;
-    auto& stored = services.settings->values[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}];
+    auto& stored = services.host->settings[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}];
     stored = "C:\\Data";
     EXPECT_EQ(G_HWPicDir(), "C:\\Data\\HWPics\\");
     stored = "C:\\Data\\";
     EXPECT_EQ(G_HWPicDir(), "C:\\Data\\HWPics\\");
-    services.settings->values.clear();
+    services.host->settings.clear();
     EXPECT_EQ(G_HWPicDir(), "C:\\Library\\HWPics\\");
 }
 
@@ -67,7 +66,7 @@ TEST(Main, MiddleColorRoundsTowardsTheLargerChannel)
 TEST(Main, DisabledBackgroundFallsBackToAMixWhenTheLightColorIsTheButtonFace)
 {
     const TestServices services;
-    auto& colors = services.Minimal()->desktop.systemColors;
+    auto& colors = services.toolkit->desktop.systemColors;
     EXPECT_EQ(G_ColorDisabledBackground(), vxColorLight3D);
     colors[vxColorLight3D] = colors[vxColorButtonFace] = G_Rgb(200, 200, 200);
     colors[vxColorButtonHighlight] = G_Rgb(255, 255, 255);
@@ -81,7 +80,7 @@ TEST(Main, WaitCursorGoesToTheApplicationOrElseToTheScreen)
     for (const std::int32_t lCode : {1, 0, -1, 2}) G_DoWaitCursor(lCode);
     EXPECT_THAT(services.Lines(), ElementsAre("DoWaitCursor 1", "DoWaitCursor 0", "DoWaitCursor -1", "DoWaitCursor 2"));
     services.Lines().clear();
-    services.objects->application = nullptr;
+    services.host->isRunning = false;
     for (const std::int32_t lCode : {1, 0, -1, 2}) G_DoWaitCursor(lCode);
     EXPECT_THAT(services.Lines(), ElementsAre("Pointer hourglass", "Pointer hourglass", "Pointer default"));
 }
@@ -93,7 +92,7 @@ TEST(ErrorReport, NamesLibraryModuleAndProcedureAndKeepsTheRest)
     EXPECT_FALSE(G_Trap("A", "B", [] { throw std::runtime_error("other"); }));
     EXPECT_FALSE(G_Trap("A", "C", [] { throw 5; }));
     EXPECT_FALSE(G_IgnoreErrors([] { throw std::bad_alloc(); }));
-    const auto& reports = services.errors->reports;
+    const auto& reports = services.host->reports;
     ASSERT_EQ(reports.size(), 3U);
     EXPECT_EQ(reports[0].source, "zqbchwcx.mdl_Main.G_PositionInfo");
     EXPECT_EQ(reports[0].number, 12);
@@ -113,18 +112,6 @@ TEST(ErrorReport, AFailingErrorLogLosesTheReportOnly)
     EXPECT_EQ(services.Faults().Thrown(), "LogError zqbchwcx.A.B");
     G_InstallServiceRoot(nullptr);
     EXPECT_FALSE(G_Trap("A", "B", [] { throw VxError(2, "without any host"); }));
-}
-
-TEST(Registration, TextsAreOpenedAfterAndReleasedBeforeIt)
-{
-    TestServices services;
-    {
-        const InstanceRegistration registration("ClassA");
-        const TextModuleUse texts("ClassA");
-        EXPECT_EQ(services.instances->live.size(), 1U);
-    }
-    EXPECT_THAT(services.Lines(),
-                ElementsAre("Register ClassA", "Open zqhwuim", "Release zqhwuim", "Unregister ClassA"));
 }
 
 } // namespace

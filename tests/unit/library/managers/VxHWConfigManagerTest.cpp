@@ -1,9 +1,6 @@
 #include "managers/VxHWConfigManager.h"
 
-#include "platform/Input.h"
-#include "tests/support/controls/RecordingControl.h"
-#include "tests/support/services/FakeDataObject.h"
-#include "tests/unit/library/StationFixture.h"
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -21,16 +18,14 @@ protected:
         manager->Initialize(vxStationTypeDistributed2, overview, table, station);
         handler = manager->VxHWSelectionHandler();
     }
-    std::vector<std::string> Registered() const
+    Lines Registered() const
     {
-        std::vector<std::string> classes;
-        for (const auto& [lId, category] : services.instances->live) classes.push_back(category.second);
+        Lines classes;
+        for (const auto& [lId, category] : services.host->live) classes.push_back(category.second);
         return classes;
     }
 
     std::shared_ptr<VxHWConfigManager> manager = std::make_shared<VxHWConfigManager>();
-    std::shared_ptr<RecordingControl> overview = std::make_shared<RecordingControl>(services.log, "overview");
-    std::shared_ptr<RecordingControl> table = std::make_shared<RecordingControl>(services.log, "table");
 };
 
 TEST_F(ConfigManager, ConnectsViewsThenStartsConfiguration)
@@ -59,7 +54,7 @@ TEST_F(ConfigManager, FocusesAndSelectsTheFirstUsablePlaceOfRackZero)
 
 TEST_F(ConfigManager, ReportsARackWithoutUsablePlaces)
 {
-    for (const auto& place : station->Rack(0)->places->places) place->usability = vxPlaceNotUsable;
+    for (const auto& place : station->Rack(0)->places->members) place->usability = vxPlaceNotUsable;
     Initialize();
     EXPECT_EQ(Marks(), " | 0 | 0");
     EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigManager.P_InitSelection"));
@@ -108,33 +103,21 @@ TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
     EXPECT_EQ(station.use_count(), 1);
 }
 
-TEST_F(ConfigManager, TerminateInTheMiddleOfADragTellsNobodyAboutItsEnd)
+TEST_F(ConfigManager, BothViewsAreToldOfADragUntilTheModeTerminates)
 {
     Initialize();
     station->Put(0, 1, "A");
-    auto oData = std::make_shared<FakeDataObject>(services.log);
     std::int32_t lEffect = 0;
     const auto oDragDrop = overview->dragDrop;
-    oDragDrop->OLEStartDrag(oData, lEffect);
-    oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragEnter);
-    oDragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragLeave);
+    oDragDrop->OLEStartDrag(data, lEffect);
+    oDragDrop->OLEDragOver(8, data, lEffect, vxButtonLeft, 0, vxDragEnter);
+    EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"overview.StateChange from 0", "table.StateChange from 0"}));
+    oDragDrop->OLEDragOver(8, data, lEffect, vxButtonLeft, 0, vxDragLeave);
     manager->Terminate();
     services.Lines().clear();
-    services.Minimal()->clock.Advance(20);
+    services.toolkit->clock.Advance(20);
     EXPECT_EQ(oDragDrop->State(), vxDragDropStateInactive);
     EXPECT_THAT(TakeLines(), IsEmpty());
-}
-
-TEST_F(ConfigManager, SubscribesBothViewsToTheDragAndDropController)
-{
-    Initialize();
-    station->Put(0, 1, "A");
-    auto oData = std::make_shared<FakeDataObject>(services.log);
-    std::int32_t lEffect = 0;
-    overview->dragDrop->OLEStartDrag(oData, lEffect);
-    services.Lines().clear();
-    overview->dragDrop->OLEDragOver(8, oData, lEffect, vxButtonLeft, 0, vxDragEnter);
-    EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"overview.StateChange from 0", "table.StateChange from 0"}));
 }
 
 TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
@@ -143,7 +126,7 @@ TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
     station->Put(0, 1, "A")->hasParamDialog = true;
     services.Lines().clear();
     const auto actions = [&] {
-        std::vector<std::string> begun;
+        Lines begun;
         for (const auto& line : TakeLines())
             if (line.starts_with("Begin") || line.starts_with("Open")) begun.push_back(line);
         return begun;
@@ -188,7 +171,7 @@ TEST_F(ConfigManager, PlacesAtTheFocusWhenNothingIsSelected)
     EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"CreateSubModules M", "PlaceModules 7 [M]"}));
     handler->FocusPosition(12);
     EXPECT_TRUE(manager->SetSingleModuleToCurPos(module));
-    EXPECT_EQ(module->subModules->modules.size(), 2U) << "created once";
+    EXPECT_EQ(module->subModules->members.size(), 2U) << "created once";
 }
 
 TEST_F(ConfigManager, PlacesAModuleOfSeveralPlacesWithItsMembers)

@@ -1,6 +1,4 @@
-#include "tests/unit/library/StationFixture.h"
-
-#include <optional>
+#include "tests/support/StationStage.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -16,7 +14,7 @@ protected:
         mFocusChange = handler->FocusChange.Connect(
             [this](std::int32_t lPrevious) { mcolEvents.push_back("FocusChange " + std::to_string(lPrevious)); });
     }
-    std::vector<std::string> TakeEvents() { return std::exchange(mcolEvents, {}); }
+    Lines TakeEvents() { return std::exchange(mcolEvents, {}); }
     std::string SelectedOrderNumbers() const
     {
         std::string text;
@@ -26,7 +24,7 @@ protected:
     }
 
 private:
-    std::vector<std::string> mcolEvents;
+    Lines mcolEvents;
     EventConnection mSelChange;
     EventConnection mFocusChange;
 };
@@ -106,7 +104,7 @@ TEST_F(SelectionHandler, UnusablePlacesAreSkippedInDistributedStationsOnly)
         handler->SelectRange(2, 6);
         EXPECT_EQ(Selection(), bCentral ? "0/1 0/2 0/3" : "0/1 0/3");
         handler->SelectRack(station->Rack(0));
-        EXPECT_EQ(SelPlaces().places.size(), bCentral ? 11U : 10U);
+        EXPECT_EQ(SelPlaces().members.size(), bCentral ? 11U : 10U);
     }
 }
 

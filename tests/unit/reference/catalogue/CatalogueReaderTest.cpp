@@ -1,9 +1,4 @@
-#include "reference/catalogue/CatalogueReader.h"
-
-#include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
-
-#include <gmock/gmock.h>
+#include "tests/unit/reference/files/Damage.h"
 
 namespace zqbchwcx::reference {
 namespace {
@@ -29,16 +24,16 @@ ordered_json ValidCatalogue()
         "groups": [{"name": "All", "types": ["DI"]}]})");
 }
 
-Catalogue Read(const ordered_json& json)
+Catalogue ReadText(const std::string& text)
 {
     std::vector<JsonDocument> documents;
-    documents.push_back(ParseStrictJson(json.dump(), "types.json"));
+    documents.push_back(ParseStrictJson(text, "types.json"));
     return ReadCatalogue(documents);
 }
 
 TEST(CatalogueReader, ReadsTypes)
 {
-    const Catalogue catalogue = Read(ValidCatalogue());
+    const Catalogue catalogue = ReadText(ValidCatalogue().dump());
     EXPECT_EQ(catalogue.Maker(), "Maker");
     const ModuleType* type = catalogue.Find("DI");
     ASSERT_TRUE(type);
@@ -55,12 +50,6 @@ TEST(CatalogueReader, ReadsTypes)
 
 TEST(CatalogueReader, RefusesWhatDoesNotFitTogether)
 {
-    struct Damage {
-        const char* where;
-        const char* value; ///< JSON text; empty to remove the member
-        const char* pointer;
-        const char* reason;
-    };
     const Damage damages[] = {
         {"/maker", "", "", "\"maker\" is missing"},
         {"/types/0/family", R"("lamp")", "/types/0/family", "must be one of"},
@@ -86,17 +75,7 @@ TEST(CatalogueReader, RefusesWhatDoesNotFitTogether)
         {"/types/1/picture", R"("IDB_X")", "/types/1/picture", "do not have this"},
         {"/groups/0/types/0", R"("NONE")", "/groups/0/types/0", "no module type"},
     };
-    for (const Damage& damage : damages) {
-        SCOPED_TRACE(damage.where);
-        ordered_json json = ValidCatalogue();
-        const ordered_json::json_pointer where(damage.where);
-        if (*damage.value) json[where] = ordered_json::parse(damage.value);
-        else json[where.parent_pointer()].erase(where.back());
-        const FileError error = ErrorOf([&] { Read(json); });
-        EXPECT_EQ(error.fileName, "types.json");
-        EXPECT_EQ(error.pointer, damage.pointer);
-        EXPECT_THAT(error.reason, HasSubstr(damage.reason));
-    }
+    ExpectEachRefused(ValidCatalogue(), damages, "types.json", [](const std::string& text) { ReadText(text); });
 }
 
 TEST(CatalogueReader, JoinsFiles)

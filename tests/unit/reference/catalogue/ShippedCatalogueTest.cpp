@@ -1,6 +1,6 @@
 #include "reference/model/rules/CheckStation.h"
 #include "reference/model/rules/ModuleRules.h"
-#include "tests/unit/reference/files/Samples.h"
+#include "tests/support/Samples.h"
 
 #include <gmock/gmock.h>
 
@@ -9,9 +9,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
+using namespace ::testing;
 
 void CollectOrderNumbers(const std::vector<CatalogueGroup>& groups, std::multiset<std::string>& all)
 {

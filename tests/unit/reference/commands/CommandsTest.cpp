@@ -1,9 +1,6 @@
 #include "reference/commands/CheckReport.h"
-#include "reference/commands/Convert.h"
 #include "reference/commands/ModuleListText.h"
-#include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
-#include "tests/unit/reference/files/TemporaryDirectory.h"
+#include "tests/support/Samples.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -59,28 +56,6 @@ TEST(CheckReport, SaysFilePlaceRuleAndReason)
     EXPECT_EQ(WriteCheckReport(found, "a.json", Language::English),
               "a.json: place 4 of rack 1: wrong-place: No.\na.json: read-only: R\n");
     EXPECT_EQ(WriteCheckReport({}, "a.json", Language::German), "");
-}
-
-TEST(Convert, WritesWhatTheNameSays)
-{
-    const TemporaryDirectory directory;
-    const std::string source = zqbchwcx::testing::SourceFile("examples/waterworks.station.json");
-    const auto convert = [&](const std::string& name) {
-        return ErrorOf([&] { ConvertStation(source, directory.File(name), ShippedCatalogue(), Language::English); });
-    };
-    EXPECT_EQ(convert("a.json").reason, "no error");
-    EXPECT_EQ(directory.Read("a.json"), ReadFile(SystemFiles(), source, LargestStationFile));
-    EXPECT_EQ(convert("a.csv").reason, "no error");
-    EXPECT_THAT(directory.Read("a.csv"), HasSubstr("Q3-CP10-A"));
-    EXPECT_EQ(convert("a.md").reason, "no error");
-    EXPECT_THAT(directory.Read("a.md"), StartsWith("| Rack |"));
-    EXPECT_THAT(convert("a.xml").reason, HasSubstr(".json, .csv or .md"));
-
-    directory.Write("damaged.json", "{");
-    EXPECT_THROW(
-        ConvertStation(directory.File("damaged.json"), directory.File("a.csv"), ShippedCatalogue(), Language::English),
-        FileError);
-    EXPECT_THAT(directory.Read("a.csv"), HasSubstr("Q3-CP10-A"));
 }
 
 } // namespace

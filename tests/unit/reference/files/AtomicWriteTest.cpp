@@ -1,8 +1,8 @@
 #include "reference/files/AtomicWrite.h"
 
 #include "reference/files/StationWriter.h"
+#include "tests/support/Samples.h"
 #include "tests/unit/reference/files/FaultyFiles.h"
-#include "tests/unit/reference/files/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
 
 #include <gmock/gmock.h>
@@ -71,35 +71,12 @@ TEST(AtomicWrite, LeavesOldOrNewContentWhereverTheProgramDies)
     }
 }
 
-/// Notes the order of what a power failure could tear apart.
-class OrderedFiles : public PosixFiles {
-public:
-    std::size_t Write(Handle handle, std::string_view bytes) override
-    {
-        msOrder += "write ";
-        return PosixFiles::Write(handle, bytes);
-    }
-    void Flush(Handle handle) override
-    {
-        msOrder += "flush ";
-        PosixFiles::Flush(handle);
-    }
-    void Rename(const std::string& from, const std::string& to) override
-    {
-        msOrder += "rename ";
-        EXPECT_EQ(DirectoryOf(from), DirectoryOf(to)) << "only within a directory is it one step";
-        PosixFiles::Rename(from, to);
-    }
-
-    std::string msOrder;
-};
-
 TEST(AtomicWrite, FlushesTheContentBeforeTheNameAndTheNameAfterwards)
 {
     const TemporaryDirectory directory;
-    OrderedFiles files;
+    FaultyFiles files;
     AtomicWrite(files, directory.File("plant.json"), NewContent);
-    EXPECT_EQ(files.msOrder, "write flush rename flush ");
+    EXPECT_EQ(files.Steps(), "write write write write flush rename flush ");
 }
 
 TEST(AtomicWrite, KeepsPermissionsAndFollowsLinks)

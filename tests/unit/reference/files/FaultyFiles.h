@@ -2,6 +2,8 @@
 
 #include "reference/files/PosixFiles.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <limits>
 #include <system_error>
@@ -23,6 +25,8 @@ public:
     }
 
     int Calls() const { return mnCalls; }
+    /// The order of what a power failure could tear apart.
+    const std::string& Steps() const { return msSteps; }
 
     std::optional<FileStatus> Status(const std::string& path) override { return Count(), PosixFiles::Status(path); }
     bool MayWrite(const std::string& path) override { return Count(), PosixFiles::MayWrite(path); }
@@ -36,20 +40,26 @@ public:
     }
     std::size_t Write(Handle handle, std::string_view bytes) override
     {
-        return Count(), PosixFiles::Write(handle, bytes.substr(0, PieceSize));
+        Count("write ");
+        return PosixFiles::Write(handle, bytes.substr(0, PieceSize));
     }
     void TakePermissions(Handle handle, const FileStatus& from) override
     {
         Count(), PosixFiles::TakePermissions(handle, from);
     }
-    void Flush(Handle handle) override { Count(), PosixFiles::Flush(handle); }
+    void Flush(Handle handle) override { Count("flush "), PosixFiles::Flush(handle); }
     void Close(Handle handle) override
     {
         // The system closes the handle even when it reports an error.
         PosixFiles::Close(handle);
         Count();
     }
-    void Rename(const std::string& from, const std::string& to) override { Count(), PosixFiles::Rename(from, to); }
+    void Rename(const std::string& from, const std::string& to) override
+    {
+        Count("rename ");
+        EXPECT_EQ(DirectoryOf(from), DirectoryOf(to)) << "only within a directory is it one step";
+        PosixFiles::Rename(from, to);
+    }
     void Remove(const std::string& path) override { Count(), PosixFiles::Remove(path); }
     void CreateDirectories(const std::string& path) override { Count(), PosixFiles::CreateDirectories(path); }
     std::vector<std::string> List(const std::string& directory) override
@@ -59,8 +69,9 @@ public:
     std::optional<Handle> TryLock(const std::string& path) override { return Count(), PosixFiles::TryLock(path); }
 
 private:
-    void Count()
+    void Count(std::string_view step = {})
     {
+        msSteps += step;
         const bool fails = mFault == Fault::Dead ? ++mnCalls >= mnFailingCall : ++mnCalls == mnFailingCall;
         if (fails) throw std::system_error(std::make_error_code(mReason));
     }
@@ -69,6 +80,7 @@ private:
     Fault mFault;
     std::errc mReason;
     int mnCalls = 0;
+    std::string msSteps;
 };
 
 } // namespace zqbchwcx::reference

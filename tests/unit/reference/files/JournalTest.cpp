@@ -2,8 +2,8 @@
 
 #include "reference/files/Recovery.h"
 #include "reference/files/StationWriter.h"
+#include "tests/support/Samples.h"
 #include "tests/unit/reference/files/FaultyFiles.h"
-#include "tests/unit/reference/files/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
 
 #include <gmock/gmock.h>
@@ -14,9 +14,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
+using namespace ::testing;
 
 const JournalOrigin Origin{"plants/wells.station.json", FileStamp{1234, -5, 0xFEDCBA9876543210U}};
 

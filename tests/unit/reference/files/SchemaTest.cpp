@@ -1,6 +1,5 @@
 #include "reference/json/StationNames.h"
-#include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
+#include "tests/support/Samples.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

@@ -1,7 +1,4 @@
-#include "tests/unit/reference/files/Samples.h"
-
-#include <gmock/gmock.h>
-#include <nlohmann/json.hpp>
+#include "tests/unit/reference/files/Damage.h"
 
 namespace zqbchwcx::reference {
 namespace {
@@ -26,72 +23,46 @@ ordered_json ValidStation()
             {"place": 7, "module": {"orderNumber": "Q3-AI08-A", "inputAddress": 8, "name": "Levels"}}]}]})");
 }
 
-struct Damage {
-    const char* what;
-    const char* where; ///< the member that is replaced or added
-    const char* value; ///< its JSON text; empty to remove it
-    const char* pointer;
-    const char* reason;
-};
-
 TEST(StationReader, RefusesWhatIsNotExactlyAStation)
 {
     const Damage damages[] = {
-        {"no format", "/format", "", "", "\"format\" is missing"},
-        {"another format", "/format", R"("quillon-texts")", "/format", "must be \"quillon-station\""},
-        {"version from the future", "/version", "2", "/version", "reads versions up to 1"},
-        {"version 0", "/version", "0", "/version", "must be an integer from 1"},
-        {"unknown member", "/colour", R"("red")", "/colour", "unknown"},
-        {"name of a wrong type", "/name", "7", "/name", "must be a string"},
-        {"unknown kind", "/kind", R"("remote")", "/kind", "\"central\", \"distributedA\", \"distributedB\""},
-        {"display mode out of range", "/displayMode", "3", "/displayMode", "from 0 to 2"},
-        {"display mode with fraction", "/displayMode", "1.0", "/displayMode", "must be an integer"},
-        {"read-only as a number", "/readOnly", "1", "/readOnly", "must be true or false"},
-        {"racks as an object", "/racks", "{}", "/racks", "must be an array"},
-        {"no racks", "/racks", "[]", "/racks", "at least one rack"},
-        {"rack as a number", "/racks/0", "5", "/racks/0", "must be an object"},
-        {"rack as nothing", "/racks/0", "null", "/racks/0", "must be an object"},
-        {"no places", "/racks/0/placeCount", "0", "/racks/0/placeCount", "from 1 to 499"},
-        {"too many places", "/racks/0/placeCount", "500", "/racks/0/placeCount", "from 1 to 499"},
-        {"place out of range", "/racks/0/places/2/place", "12", "/racks/0/places/2/place", "from 1 to 11"},
-        {"place beyond 64 bits", "/racks/0/places/2/place", "18446744073709551615", "/racks/0/places/2/place",
-         "from 1 to 11"},
-        {"place twice", "/racks/0/places/1/place", "4", "/racks/0/places/1/place", "stands twice"},
-        {"places out of order", "/racks/0/places/1/place", "2", "/racks/0/places/1/place", "rising order"},
-        {"unknown usability", "/racks/0/places/1/usability", R"("off")", "/racks/0/places/1/usability", "\"inactive\""},
-        {"no order number", "/racks/0/places/2/module/orderNumber", "", "/racks/0/places/2/module",
-         "\"orderNumber\" is missing"},
-        {"empty order number", "/racks/0/places/2/module/orderNumber", R"("")", "/racks/0/places/2/module/orderNumber",
-         "must not be empty"},
-        {"negative address", "/racks/0/places/2/module/inputAddress", "-1", "/racks/0/places/2/module/inputAddress",
-         "from 0 to"},
-        {"address as text", "/racks/0/places/2/module/inputAddress", R"("8")", "/racks/0/places/2/module/inputAddress",
+        {"/format", "", "", "\"format\" is missing"},
+        {"/format", R"("quillon-texts")", "/format", "must be \"quillon-station\""},
+        {"/version", "2", "/version", "reads versions up to 1"},
+        {"/version", "0", "/version", "must be an integer from 1"},
+        {"/colour", R"("red")", "/colour", "unknown"},
+        {"/name", "7", "/name", "must be a string"},
+        {"/kind", R"("remote")", "/kind", "\"central\", \"distributedA\", \"distributedB\""},
+        {"/displayMode", "3", "/displayMode", "from 0 to 2"},
+        {"/displayMode", "1.0", "/displayMode", "must be an integer"},
+        {"/readOnly", "1", "/readOnly", "must be true or false"},
+        {"/racks", "{}", "/racks", "must be an array"},
+        {"/racks", "[]", "/racks", "at least one rack"},
+        {"/racks/0", "5", "/racks/0", "must be an object"},
+        {"/racks/0", "null", "/racks/0", "must be an object"},
+        {"/racks/0/placeCount", "0", "/racks/0/placeCount", "from 1 to 499"},
+        {"/racks/0/placeCount", "500", "/racks/0/placeCount", "from 1 to 499"},
+        {"/racks/0/places/2/place", "12", "/racks/0/places/2/place", "from 1 to 11"},
+        {"/racks/0/places/2/place", "18446744073709551615", "/racks/0/places/2/place", "from 1 to 11"},
+        {"/racks/0/places/1/place", "4", "/racks/0/places/1/place", "stands twice"},
+        {"/racks/0/places/1/place", "2", "/racks/0/places/1/place", "rising order"},
+        {"/racks/0/places/1/usability", R"("off")", "/racks/0/places/1/usability", "\"inactive\""},
+        {"/racks/0/places/2/module/orderNumber", "", "/racks/0/places/2/module", "\"orderNumber\" is missing"},
+        {"/racks/0/places/2/module/orderNumber", R"("")", "/racks/0/places/2/module/orderNumber", "must not be empty"},
+        {"/racks/0/places/2/module/inputAddress", "-1", "/racks/0/places/2/module/inputAddress", "from 0 to"},
+        {"/racks/0/places/2/module/inputAddress", R"("8")", "/racks/0/places/2/module/inputAddress",
          "must be an integer"},
-        {"parameter as a list", "/racks/0/places/0/module/parameters/protocol", "[]",
-         "/racks/0/places/0/module/parameters/protocol", "must be true, false, a number or a string"},
-        {"sub-module of a sub-module", "/racks/0/places/0/module/subModules/0/subModules", "[]",
-         "/racks/0/places/0/module/subModules/0/subModules", "no sub-modules of their own"},
-        {"name with a slash and a tilde", "/racks/0/places/0/module/parameters/a~1b~0c", "null",
-         "/racks/0/places/0/module/parameters/a~1b~0c", "must be true, false"},
-        {"module beyond the last place", "/racks/0/places/2",
-         R"({"place": 10, "module": {"orderNumber": "Q3-PO03-W"}})", "/racks/0/places/2/module",
+        {"/racks/0/places/0/module/parameters/protocol", "[]", "/racks/0/places/0/module/parameters/protocol",
+         "must be true, false, a number or a string"},
+        {"/racks/0/places/0/module/subModules/0/subModules", "[]", "/racks/0/places/0/module/subModules/0/subModules",
+         "no sub-modules of their own"},
+        {"/racks/0/places/0/module/parameters/a~1b~0c", "null", "/racks/0/places/0/module/parameters/a~1b~0c",
+         "must be true, false"},
+        {"/racks/0/places/2", R"({"place": 10, "module": {"orderNumber": "Q3-PO03-W"}})", "/racks/0/places/2/module",
          "spans 3 places and reaches beyond place 11"},
     };
-    ASSERT_EQ(ErrorOf([] { ParseStation(ValidStation().dump(), "plant.json", ShippedCatalogue()); }).reason,
-              "no error");
-    for (const Damage& damage : damages) {
-        SCOPED_TRACE(damage.what);
-        ordered_json station = ValidStation();
-        const ordered_json::json_pointer where(damage.where);
-        if (*damage.value) station[where] = ordered_json::parse(damage.value);
-        else station[where.parent_pointer()].erase(where.back());
-        const FileError error = ParseError(station.dump());
-        EXPECT_EQ(error.fileName, "plant.json");
-        EXPECT_EQ(error.pointer, damage.pointer);
-        EXPECT_THAT(error.reason, HasSubstr(damage.reason));
-        EXPECT_NE(error.Reason(Language::German), error.reason);
-        EXPECT_THAT(error.what(), HasSubstr(std::string("plant.json: ") + damage.pointer));
-    }
+    ExpectEachRefused(ValidStation(), damages, "plant.json",
+                      [](const std::string& text) { ParseStation(text, "plant.json", ShippedCatalogue()); });
 }
 
 TEST(StationReader, RefusesDamagedAndHostileJson)
@@ -107,6 +78,7 @@ TEST(StationReader, RefusesDamagedAndHostileJson)
     const FileError repeated = ParseError(R"({"racks": [{"places": [], "places": []}]})");
     EXPECT_EQ(repeated.pointer, "/racks/0/places");
     EXPECT_THAT(repeated.reason, HasSubstr("stands twice"));
+    EXPECT_NE(repeated.Reason(Language::German), repeated.reason);
 
     EXPECT_THAT(ParseError(std::string(5'000'000, '[')).reason, HasSubstr("nested deeper"));
     ordered_json manyRacks = ValidStation();

@@ -1,6 +1,6 @@
 #include "reference/files/StationWriter.h"
 
-#include "tests/unit/reference/files/Samples.h"
+#include "tests/support/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
 
 #include <gmock/gmock.h>

@@ -3,7 +3,6 @@
 #include "tests/unit/reference/model/SampleModel.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace zqbchwcx::testing {
 namespace {

@@ -101,17 +101,6 @@ TEST(PlaceAtGap, SkipsPlacesThatAreNotActiveAndTurnsLeftWhenTheRightIsFull)
     EXPECT_EQ(station.Row(0), "PS CPU IM DO - DI DI DI DI CP DM");
 }
 
-TEST(MoveBlock, FreesTheSourceFirstAndKeepsAddresses)
-{
-    PlainStation station = CentralStation(Block({"DI", "DI", "AI2"}));
-    const ModuleDataPtr second = std::make_shared<ModuleData>(station.At({0, 5}));
-    const ModuleDataPtr wide = std::make_shared<ModuleData>(station.At({0, 6}));
-    EXPECT_EQ(station.Move(G_PlacePosition(0, 6), {second, wide}, {{0, 5}, {0, 7}}), Done);
-    EXPECT_EQ(station.Row(0), "PS CPU IM DI - DI AI2 + - - -") << "it may land where it stood";
-    EXPECT_EQ(station.At({0, 6}), *second);
-    EXPECT_EQ(station.At({0, 7}), *wide);
-}
-
 TEST(MoveBlock, LosesNothing)
 {
     PlainStation station = CentralStation(Block({"DI", "DO"}));

@@ -110,20 +110,12 @@ std::map<std::string, std::string> Picture(const Station& station)
     return picture;
 }
 
-std::uint32_t Seed()
-{
-    const char* wanted = std::getenv("QUILLON_SEED");
-    const std::uint32_t seed =
-        wanted ? static_cast<std::uint32_t>(std::strtoul(wanted, nullptr, 10)) : std::random_device{}();
-    std::printf("QUILLON_SEED=%u\n", seed);
-    return seed;
-}
-
 class RandomEdits : public ::testing::TestWithParam<int> {};
 
 TEST_P(RandomEdits, KeepTheRulesAndCanAllBeUndone)
 {
-    const std::uint32_t seed = Seed();
+    const char* wanted = std::getenv("QUILLON_SEED");
+    const auto seed = static_cast<std::uint32_t>(wanted ? std::strtoul(wanted, nullptr, 10) : 24071);
     StationData first = EmptyStation(GetParam(), GetParam() == 0 ? 3 : 1);
     PlainStation plain(first);
     plain.Usability({0, 7}, 0);

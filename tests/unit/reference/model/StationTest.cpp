@@ -1,15 +1,13 @@
-#include "reference/model/contract/Station.h"
-
 #include "foundation/ConfigTextCodec.h"
 #include "foundation/model/VxHWRackPlace.h"
 #include "reference/model/configtext/ConfigText.h"
 #include "reference/model/contract/Module.h"
 #include "reference/model/contract/RackPlaces.h"
 #include "reference/model/contract/TypeExchange.h"
+#include "tests/support/MemoryClipboard.h"
 #include "tests/unit/reference/model/SampleModel.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -17,18 +15,6 @@ namespace {
 using namespace reference;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-class MemoryClipboard : public Clipboard {
-public:
-    std::optional<ByteArray> Read(std::string_view formatName) const override
-    {
-        return formatName == ConfigTextName ? moData : std::nullopt;
-    }
-    void Write(std::string_view /*formatName*/, const ByteArray& data) override { moData = data; }
-
-private:
-    std::optional<ByteArray> moData;
-};
 
 /// Rack 0: PS CPU IM DI AI2 + - DO; and what the station tells, as text.
 class ReferenceStation : public ::testing::Test {
@@ -59,7 +45,6 @@ protected:
         for (const std::int32_t place : places) collection->Add(station->PlaceAt({0, place}));
         return collection;
     }
-    std::string Row() const { return PlainStation(station->Data()).Row(0); }
 
     std::shared_ptr<MemoryClipboard> clipboard = std::make_shared<MemoryClipboard>();
     std::optional<ModuleData> dialogAnswer;
@@ -117,38 +102,13 @@ TEST_F(ReferenceStation, RefusalsAnswerFalseAndSayWhy)
     EXPECT_THAT(events, IsEmpty());
 }
 
-TEST_F(ReferenceStation, ClipboardCarriesModulesAndDamagedContentCountsAsNone)
+TEST_F(ReferenceStation, DamagedContentOfTheClipboardCountsAsNone)
 {
     const auto exchange = std::make_shared<TypeExchange>(std::int16_t{77}, clipboard);
-    station->WriteModulesToExchange(ModulesIn({4, 5, 6, 7, 8}), exchange);
-    exchange->PutOnClipboard();
-    const VxHWModulesPtr modules = station->ClipboardModules();
-    EXPECT_EQ(modules->Count(), 5);
-    EXPECT_FALSE(station->CanBePlaced(G_PlacePosition(0, 8), modules, false, nullptr));
-    station->DeleteModules(Places({4, 5, 8}));
-    EXPECT_TRUE(station->PlaceModules(G_PlacePosition(0, 5), modules, Places({})));
-    EXPECT_EQ(Row(), "PS CPU IM - DI AI2 + - DO - -");
-
     clipboard->Write(ConfigTextName, G_EncodeConfigText("VxHWConfigText 1\n{\"modules\""));
     EXPECT_EQ(station->ClipboardModules()->Count(), 0);
     EXPECT_THAT(refused, ElementsAre(Rule::DamagedText));
     EXPECT_THROW(exchange->LoadData(G_EncodeConfigText("something else")), VxError);
-}
-
-TEST_F(ReferenceStation, CatalogueModuleIsInsertedWithSubModules)
-{
-    const VxHWModulePtr counter = station->CreateModule("CNT3");
-    EXPECT_EQ(counter->PlaceCount(), 3);
-    station->PrepareModule(counter);
-    const VxHWModulesPtr members = station->ExpandModule(counter);
-    ASSERT_EQ(members->Count(), 3);
-    EXPECT_EQ(members->Item(0)->SubModuleCount(), 2);
-    EXPECT_EQ(members->Item(0)->SubModules()->Count(), 0);
-    station->CreateSubModules(members->Item(0));
-    EXPECT_EQ(members->Item(0)->SubModules()->Count(), 2);
-    EXPECT_TRUE(station->PlaceModules(G_PlacePosition(0, 9), members, Places({})));
-    EXPECT_EQ(Row(), "PS CPU IM DI AI2 + - DO CNT3 + +");
-    EXPECT_EQ(ModuleIn(9)->SubModules()->Item(1)->InputAddressText(), "16..19");
     EXPECT_THROW(static_cast<void>(station->CreateModule("GHOST")), VxError);
 }
 

@@ -1,12 +1,9 @@
 #include "reference/services/Texts.h"
 
 #include "foundation/VxError.h"
-#include "tests/support/SourceFile.h"
-#include "tests/unit/reference/files/Samples.h"
+#include "tests/support/Samples.h"
 
 #include <gmock/gmock.h>
-
-#include <vector>
 
 namespace zqbchwcx::reference {
 namespace {

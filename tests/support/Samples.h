@@ -7,15 +7,21 @@
 
 #include <filesystem>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace zqbchwcx::reference {
 
+/// The modules that Quillon Ed ships, read once.
+inline const std::shared_ptr<const Catalogue>& SharedCatalogue()
+{
+    static const auto catalogue =
+        std::make_shared<const Catalogue>(LoadCatalogueDirectory(zqbchwcx::testing::SourceFile("assets/catalogue")));
+    return catalogue;
+}
+
 inline const Catalogue& ShippedCatalogue()
 {
-    static const Catalogue catalogue = LoadCatalogueDirectory(zqbchwcx::testing::SourceFile("assets/catalogue"));
-    return catalogue;
+    return *SharedCatalogue();
 }
 
 /// The paths of the stations that are shipped.

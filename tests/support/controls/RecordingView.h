@@ -3,16 +3,13 @@
 #include "controllers/interfaces/IVxHWControl.h"
 #include "tests/support/services/CallLog.h"
 
-#include <string>
-#include <utility>
-
 namespace zqbchwcx::testing {
 
 /// A view that keeps what a manager gives it, and leaves a line for each put: "overview.Style 1",
 /// "overview.VxHWStation nothing".
-class RecordingControl : public IVxHWControl, public IVxHWDragDropCtrlEvents {
+class RecordingView : public IVxHWControl, public IVxHWDragDropCtrlEvents, public Logged {
 public:
-    RecordingControl(CallLogPtr log, std::string name) : moLog(std::move(log)), msName(std::move(name)) {}
+    RecordingView(CallLogPtr log, std::string name) : Logged(std::move(log)), msName(std::move(name)) {}
 
     bool Locked() const noexcept override { return locked; }
     void Locked(bool bLocked) noexcept override { PutNumber("Locked", locked, bLocked); }
@@ -82,7 +79,6 @@ private:
         Line(property + (field ? " set" : " nothing"));
     }
 
-    CallLogPtr moLog;
     std::string msName;
 };
 
