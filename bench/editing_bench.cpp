@@ -196,7 +196,7 @@ int main(int argc, char** argv)
     bKept = times.Check("MoveAndUndo", "Refresh", 0.7) && bKept;
     bKept = times.Check("UndoAndRedo", "Refresh", 0.5) && bKept;
     // A hundred times the modules may take a hundred times as long, and something for memory that is further away.
-    bKept = times.Check("SaveLargest", "SaveHundredth", 120) && bKept;
-    bKept = times.Check("OpenLargest", "OpenHundredth", 120) && bKept;
+    bKept = times.Check("SaveLargest", "SaveHundredth", 150) && bKept;
+    bKept = times.Check("OpenLargest", "OpenHundredth", 150) && bKept;
     return bKept ? 0 : 1;
 }
