@@ -109,8 +109,9 @@ TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoaded
     }
     EXPECT_THAT(files.asked, ElementsAre("C:\\Data\\HWPics\\PUMP.bmp", "C:\\Data\\HWPics\\NOSUCHFILE.bmp"));
 
-    Put(0, 8, "IDB_NO_SUCH_KEY");
-    EXPECT_THAT(DrawingOf(0, 8), Contains(HasSubstr("Image IDB_CRX_MODULE_DEFAULT ")));
+    Put(0, 8, "idb_of_another_list");
+    EXPECT_THAT(DrawingOf(0, 8), Not(Contains(HasSubstr("Image "))));
+    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWRackOverview.moHWStation_RackPlaceChange"));
     EXPECT_EQ(files.asked.size(), 2U) << "a built-in picture was looked for among the files";
 }
 

@@ -11,8 +11,6 @@
 namespace zqbchwcx::reference {
 namespace {
 
-constexpr std::string_view DefaultPicture = "IDB_CRX_MODULE_DEFAULT";
-
 bool HasParameters(const ModuleData& module, const Catalogue& catalogue)
 {
     const ModuleType* type = catalogue.Find(module.orderNumber);
@@ -76,9 +74,9 @@ std::string Module::Name() const
 
 std::string Module::PictureName() const
 {
-    if (!moBody->data) return {};
     const ModuleType* type = Type();
-    return type && !type->picture.empty() ? type->picture : std::string(DefaultPicture);
+    const bool bFits = type && (!moBody->stationKind || type->FitsStation(*moBody->stationKind));
+    return bFits ? type->picture : std::string();
 }
 
 std::int32_t Module::PlaceCount() const

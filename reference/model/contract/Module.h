@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,7 @@ struct ModuleBody {
     const void* station = nullptr;
     PlaceRef firstPlace;
     std::int32_t subModule = 0; ///< 1-based slot when it is a sub-module of the module there
+    std::optional<std::int32_t> stationKind; ///< of that station; a module that stands nowhere fits everywhere
 };
 using ModuleBodyPtr = std::shared_ptr<ModuleBody>;
 
@@ -43,6 +45,8 @@ public:
     std::string OrderNumber() const override;
     std::string DetailText() const override;
     std::string Name() const override;
+    /// Empty, for the default picture, when the station's pictures have none: for a module of an unknown type, and for
+    /// one of another kind of station.
     std::string PictureName() const override;
     std::int32_t PlaceCount() const override;
     std::int32_t SubModuleCount() const override;

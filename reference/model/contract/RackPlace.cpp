@@ -29,6 +29,7 @@ VxHWModulePtr RackPlace::Module() const
     auto body = std::make_shared<ModuleBody>();
     body->context = moState->Context();
     body->station = moState.get();
+    body->stationKind = moState->Data().kind;
     body->firstPlace = moPlace;
     const std::int32_t firstPlace = moState->OccupancyOf(moPlace.rack).FirstPlace(moPlace.place);
     if (firstPlace == 0) return std::make_shared<reference::Module>(std::move(body));

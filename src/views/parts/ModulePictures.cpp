@@ -33,8 +33,7 @@ std::string ModulePictures::KeyOf(const VxHWModule& oModule, std::string_view de
     std::string key(defaultKey);
     G_Trap(msClassName, "P_GetModulePicName", [&] {
         std::string name = ToUpper(oModule.PictureName());
-        // A built-in picture is never a file; one that the list lacks belongs to a module of another kind of station.
-        if (List().Contains(name) || (!name.starts_with("IDB_") && AddFile(name))) key = std::move(name);
+        if (name.starts_with("IDB_") || List().Contains(name) || AddFile(name)) key = std::move(name);
     });
     return key;
 }

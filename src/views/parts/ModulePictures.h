@@ -20,7 +20,7 @@ public:
     /// Throws VxError before `Load`.
     const ImageList& List() const;
 
-    /// The key of the module's picture; the default key when neither the list nor a file has it.
+    /// The key of the module's picture; the default key when the module's picture file yields none.
     std::string KeyOf(const VxHWModule& oModule, std::string_view defaultKey) noexcept;
 
 private:

@@ -58,6 +58,7 @@ std::vector<ModuleType> SampleTypes()
     central.fitsDistributed = false;
     ModuleType head = Type("HEAD", ModuleFamily::Interface);
     head.fitsCentral = false;
+    head.picture = "HEAD";
     ModuleType head2 = Type("HEAD2", ModuleFamily::Interface, 2);
     head2.fitsCentral = false;
     return {Type("PS", ModuleFamily::PowerSupply),

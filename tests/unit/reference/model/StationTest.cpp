@@ -79,6 +79,20 @@ TEST_F(ReferenceStation, MembersShowTheirPartOfTheModule)
     EXPECT_THAT(events, ElementsAre("0/5", "0/6"));
 }
 
+TEST(ReferenceModules, HaveAPictureWhereTheirKindOfStationShowsThem)
+{
+    const auto pictureIn = [](std::int32_t kind, const std::string& orderNumber) {
+        StationData data = EmptyStation(kind, 1);
+        RackData rack = *data.racks[0];
+        rack.places[0].module = NewModuleData(orderNumber);
+        data.racks[0] = std::make_shared<RackData>(rack);
+        return Station(SampleContext(), data).PlaceAt({0, 1})->Module()->PictureName();
+    };
+    EXPECT_EQ(pictureIn(1, "HEAD"), "HEAD");
+    EXPECT_EQ(pictureIn(0, "HEAD"), "");
+    EXPECT_EQ(pictureIn(0, "UNKNOWN"), "");
+}
+
 TEST_F(ReferenceStation, TellsEachPlaceThatDiffersAndEverythingAfterABatch)
 {
     EXPECT_TRUE(station->MoveModules(G_PlacePosition(0, 9), ModulesIn({5}), Places({5}), Places({})));
