@@ -22,7 +22,7 @@ struct ModuleBody {
     /// place for a module that stands nowhere.
     const void* station = nullptr;
     PlaceRef firstPlace;
-    std::int32_t subModule = 0; ///< 1-based slot when it is a sub-module of the module there
+    std::int32_t subModule = 0;              ///< 1-based slot when it is a sub-module of the module there
     std::optional<std::int32_t> stationKind; ///< of that station; a module that stands nowhere fits everywhere
 };
 using ModuleBodyPtr = std::shared_ptr<ModuleBody>;
