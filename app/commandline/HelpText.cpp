@@ -102,7 +102,7 @@ Without a format the columns are aligned for reading.
 )",
             R"(Aufruf: quillon-ed list STATION [--csv|--json|--md] [-o DATEI] [--lang de|en]
 
-Listet die Baugruppen der Station auf: Baugruppenträger, Platz, Baugruppe, Bestellnummer, Adressen, Kommentar.
+Listet die Baugruppen der Station auf: Träger, Platz, Baugruppe, Bestellnummer, Adressen, Kommentar.
 Ohne Angabe einer Form sind die Spalten zum Lesen ausgerichtet.
 
   --csv               durch Komma getrennte Werte (RFC 4180)

@@ -76,7 +76,7 @@
     </message>
     <message>
         <source>Its picture is not part of this version yet. The list beside it shows every place: select one there, then insert modules from the catalogue, cut, copy, paste, delete or edit them.</source>
-        <translation>Ihr Bild gehört noch nicht zu dieser Version. Die Liste daneben zeigt jeden Steckplatz: Wählen Sie dort einen aus, um Baugruppen aus dem Katalog einzufügen, auszuschneiden, zu kopieren, zu löschen oder zu bearbeiten.</translation>
+        <translation>Ihr Bild gehört noch nicht zu dieser Version. Die Liste daneben zeigt jeden Platz: Wählen Sie dort einen aus, um Baugruppen aus dem Katalog einzufügen, auszuschneiden, zu kopieren, zu löschen oder zu bearbeiten.</translation>
     </message>
 </context>
 <context>
@@ -151,6 +151,14 @@
     <message>
         <source>The printer cannot be used.</source>
         <translation>Der Drucker kann nicht benutzt werden.</translation>
+    </message>
+    <message>
+        <source>“%1” was written.</source>
+        <translation>„%1“ wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>The station was printed.</source>
+        <translation>Die Station wurde gedruckt.</translation>
     </message>
 </context>
 <context>
@@ -384,11 +392,11 @@
     <name>quillon_ed::ModuleTypeCard</name>
     <message>
         <source>Drag a module onto a place, or double-click it to insert it at the focus.</source>
-        <translation>Ziehen Sie eine Baugruppe auf einen Steckplatz, oder fügen Sie sie mit einem Doppelklick am Fokus ein.</translation>
+        <translation>Ziehen Sie eine Baugruppe auf einen Platz, oder fügen Sie sie mit einem Doppelklick am Fokus ein.</translation>
     </message>
     <message>
         <source>Places</source>
-        <translation>Steckplätze</translation>
+        <translation>Plätze</translation>
     </message>
     <message>
         <source>Inputs</source>
@@ -460,8 +468,8 @@
         <translation>Die letzte Adresse dieser Station ist %1</translation>
     </message>
     <message>
-        <source>Another module uses this address</source>
-        <translation>Eine andere Baugruppe belegt diese Adresse</translation>
+        <source>In use by %1</source>
+        <translation>Belegt von %1</translation>
     </message>
     <message>
         <source>Parameters (read-only)</source>

@@ -9,6 +9,7 @@
 #include "reference/json/FileError.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -52,49 +53,52 @@ QString AskFileName(const Document& document, const QString& title, const QStrin
 }
 
 template <class Step>
-void TellFailure(AppServices& services, QWidget* parent, const QString& what, Step step)
+QString Export(const QString& file, AppServices& services, QWidget* parent, const QString& failure, Step step)
 {
+    if (file.isEmpty()) return {};
     try {
         step();
+        return ExportTexts::tr("“%1” was written.").arg(QDir::toNativeSeparators(file));
     } catch (const reference::FileError& error) {
-        QMessageBox box(QMessageBox::Critical, ExportTexts::tr("Quillon Ed"), what, QMessageBox::Close, parent);
+        QMessageBox box(QMessageBox::Critical, ExportTexts::tr("Quillon Ed"), failure, QMessageBox::Close, parent);
         box.setInformativeText(ToQString(error.Message(services.CurrentLanguage())));
         box.exec();
     }
+    return {};
 }
 
 } // namespace
 
-void ExportPicture(AppServices& services, const Document& document, QWidget* parent)
+QString ExportPicture(AppServices& services, const Document& document, QWidget* parent)
 {
     const QString file = AskFileName(document, ExportTexts::tr("Export picture"),
                                      {ExportTexts::tr("Page (*.pdf)"), ExportTexts::tr("Picture (*.png)"),
                                       ExportTexts::tr("Vector picture (*.svg)")},
                                      parent);
-    if (file.isEmpty()) return;
-    TellFailure(services, parent, ExportTexts::tr("The picture cannot be exported."),
-                [&] { ExportOverview(document.Station(), HeaderOf(document), PictureScale, file); });
+    return Export(file, services, parent, ExportTexts::tr("The picture cannot be exported."),
+                  [&] { ExportOverview(document.Station(), HeaderOf(document), PictureScale, file); });
 }
 
-void ExportList(AppServices& services, const Document& document, QWidget* parent)
+QString ExportList(AppServices& services, const Document& document, QWidget* parent)
 {
     const QString file =
         AskFileName(document, ExportTexts::tr("Export module list"),
                     {ExportTexts::tr("Comma-separated values (*.csv)"), ExportTexts::tr("Markdown (*.md)")}, parent);
-    if (file.isEmpty()) return;
-    TellFailure(services, parent, ExportTexts::tr("The module list cannot be exported."), [&] {
+    return Export(file, services, parent, ExportTexts::tr("The module list cannot be exported."), [&] {
         ExportModuleList(document.Station()->Data(), services.Catalogue(), services.CurrentLanguage(), file);
     });
 }
 
-void Print(AppServices&, const Document& document, QWidget* parent)
+QString Print(const Document& document, QWidget* parent)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(document.Title());
     QPrintDialog dialog(&printer, parent);
-    if (dialog.exec() != QDialog::Accepted) return;
-    if (PrintStation(document.Station(), HeaderOf(document), printer)) return;
+    if (dialog.exec() != QDialog::Accepted) return {};
+    if (PrintStation(document.Station(), HeaderOf(document), printer))
+        return ExportTexts::tr("The station was printed.");
     QMessageBox::critical(parent, ExportTexts::tr("Quillon Ed"), ExportTexts::tr("The printer cannot be used."));
+    return {};
 }
 
 } // namespace quillon_ed

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QWidget;
 
 namespace quillon_ed {
@@ -7,9 +9,10 @@ namespace quillon_ed {
 class AppServices;
 class Document;
 
-/// Export and printing of an open station: the dialogs, and the telling of what failed.
-void ExportPicture(AppServices& services, const Document& document, QWidget* parent);
-void ExportList(AppServices& services, const Document& document, QWidget* parent);
-void Print(AppServices& services, const Document& document, QWidget* parent);
+/// Export and printing of an open station: the dialogs, and the telling of what failed. Each returns what to tell when
+/// it is done; nothing when the user changed their mind, or has read why it failed.
+QString ExportPicture(AppServices& services, const Document& document, QWidget* parent);
+QString ExportList(AppServices& services, const Document& document, QWidget* parent);
+QString Print(const Document& document, QWidget* parent);
 
 } // namespace quillon_ed

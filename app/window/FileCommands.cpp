@@ -24,10 +24,12 @@ namespace {
 
 const QString StationSuffix = QStringLiteral("station.json");
 
+/// Under the text that names the file: where in it and why, or why as a sentence of its own.
 QString ReasonOf(const FileError& error, Language language)
 {
     const QString reason = ToQString(error.Reason(language));
-    return error.pointer.empty() ? reason : QStringLiteral("%1: %2").arg(ToQString(error.pointer), reason);
+    if (!error.pointer.empty()) return QStringLiteral("%1: %2").arg(ToQString(error.pointer), reason);
+    return reason.left(1).toUpper() + reason.mid(1) + QStringLiteral(".");
 }
 
 } // namespace

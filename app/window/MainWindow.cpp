@@ -157,9 +157,10 @@ void MainWindow::ConnectFileActions()
     on(moActions.fileSaveAs, &moFiles, &FileCommands::SaveAs);
     on(moActions.fileClose, &moFiles, &FileCommands::Close);
     on(moActions.fileRecover, &moFiles, [this] { moFiles.OfferRecovery(true); });
-    on(moActions.exportPicture, this, [this] { ExportPicture(moServices, *moFiles.Current(), this); });
-    on(moActions.exportList, this, [this] { ExportList(moServices, *moFiles.Current(), this); });
-    on(moActions.filePrint, this, [this] { Print(moServices, *moFiles.Current(), this); });
+    on(moActions.exportPicture, this,
+       [this] { moStatusLine->Tell(ExportPicture(moServices, *moFiles.Current(), this)); });
+    on(moActions.exportList, this, [this] { moStatusLine->Tell(ExportList(moServices, *moFiles.Current(), this)); });
+    on(moActions.filePrint, this, [this] { moStatusLine->Tell(Print(*moFiles.Current(), this)); });
     on(moActions.fileQuit, this, &QWidget::close);
     connect(&moFiles, &FileCommands::aboutToClose, this, &MainWindow::CloseView);
     connect(&moFiles, &FileCommands::opened, this, &MainWindow::ShowDocument);

@@ -15,7 +15,6 @@ namespace quillon_ed {
 class CataloguePanel;
 class MessagesDock;
 class StartPage;
-class StationExport;
 class StationView;
 class StatusLine;
 

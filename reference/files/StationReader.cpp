@@ -108,7 +108,7 @@ StationData ParseStation(std::string_view text, std::string_view fileName, const
     if (const auto readOnly = file.OptionalMember("readOnly")) station.readOnly = readOnly->Boolean();
     const JsonCursor list = file.Member("racks");
     if (list.Elements(MaxRacks).empty())
-        list.Fail("a station has at least one rack", "eine Station hat mindestens einen Baugruppenträger");
+        list.Fail("a station has at least one rack", "eine Station hat mindestens einen Träger");
     station.racks = racks.Racks();
     return station;
 }

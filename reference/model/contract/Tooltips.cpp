@@ -34,10 +34,10 @@ const std::string& NameOf(const ModuleData& module, const ModuleType* type, Lang
 LocalizedText EmptyPlaceText(const PlaceData& data, PlaceRef place)
 {
     const std::string number = std::to_string(place.place);
-    if (data.usability == vxPlaceActive) return {"Place " + number + ": free", "Steckplatz " + number + ": frei"};
+    if (data.usability == vxPlaceActive) return {"Place " + number + ": free", "Platz " + number + ": frei"};
     if (data.usability == vxPlaceInactive)
-        return {"Place " + number + ": inactive", "Steckplatz " + number + ": nicht aktiv"};
-    return {"Place " + number + ": not usable", "Steckplatz " + number + ": nicht nutzbar"};
+        return {"Place " + number + ": inactive", "Platz " + number + ": nicht aktiv"};
+    return {"Place " + number + ": not usable", "Platz " + number + ": nicht nutzbar"};
 }
 
 std::string ModuleText(const ModuleData& module, const Catalogue& catalogue, Language language)

@@ -156,7 +156,7 @@ Outcome<BlockLayout> LayOut(StationDraft& draft, std::int32_t lPosition, const M
     if (!isGap && position.eType != vxPositionPlace) {
         return Refusal{Rule::NoSuchPlace,
                        {},
-                       {"Modules are placed at a place or a gap", "Baugruppen kommen auf Steckplätze oder in Lücken"}};
+                       {"Modules are placed at a place or a gap", "Baugruppen kommen auf Plätze oder in Lücken"}};
     }
     if (Objection objection = AgainstRack(draft.Data(), position.lRack)) return *std::move(objection);
     if (isGap) return LayOutAtGap(draft, position.lRack, position.lNumber, block);

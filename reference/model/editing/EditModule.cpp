@@ -50,20 +50,26 @@ void CollectRanges(const ModuleData* before, const ModuleData& after, const Cata
     }
 }
 
-/// Against new addresses that are in use, be it by the module's own other parts.
-Objection AgainstUsed(StationAddresses& addresses, const Ranges& ranges, PlaceRef place)
+Refusal AddressInUse(const Range& range, const StationDraft& draft, PlaceRef place)
 {
+    const auto user = UserOf(range.area, range.address, range.bytes, draft.Data(), draft.ModuleTypes());
+    const LocalizedText what = AreaText(range.area);
+    const LocalizedText who =
+        user ? PlaceText(*user) : LocalizedText{"another part of the module", "einem anderen Teil der Baugruppe"};
+    const std::string bytes = std::to_string(range.address) + ".." + std::to_string(range.address + range.bytes - 1);
+    return {Rule::AddressOverlap,
+            place,
+            {"The " + what.en + " " + bytes + " are in use by " + who.en,
+             "Die " + what.de + " " + bytes + " sind von " + who.de + " belegt"}};
+}
+
+/// Against new addresses that are in use, be it by the module's own other parts. The module is not in the draft.
+Objection AgainstUsed(StationDraft& draft, const Ranges& ranges, PlaceRef place)
+{
+    StationAddresses& addresses = draft.Addresses();
     for (const Range& range : ranges.kept) addresses.Of(range.area).Claim(range.address, range.bytes);
     for (const Range& range : ranges.changed) {
-        if (!addresses.Of(range.area).IsFree(range.address, range.bytes)) {
-            const LocalizedText what = AreaText(range.area);
-            const std::string bytes =
-                std::to_string(range.address) + ".." + std::to_string(range.address + range.bytes - 1);
-            return Refusal{Rule::AddressOverlap,
-                           place,
-                           {"The " + what.en + " " + bytes + " are in use by another module",
-                            "Die " + what.de + " " + bytes + " sind von einer anderen Baugruppe belegt"}};
-        }
+        if (!addresses.Of(range.area).IsFree(range.address, range.bytes)) return AddressInUse(range, draft, place);
         addresses.Of(range.area).Claim(range.address, range.bytes);
     }
     return {};
@@ -217,7 +223,7 @@ Outcome<Edit> ReplaceModule(const EditContext& context, PlaceRef place, const Mo
     if (Objection objection = AgainstChange(*before, *after, context, firstPlace)) return *std::move(objection);
     Ranges ranges;
     CollectRanges(before.get(), *after, context.catalogue, ranges);
-    if (Objection objection = AgainstUsed(draft.Addresses(), ranges, firstPlace)) return *std::move(objection);
+    if (Objection objection = AgainstUsed(draft, ranges, firstPlace)) return *std::move(objection);
     draft.Put(firstPlace, std::move(after));
     return Edit{draft.Data(), {firstPlace}};
 }

@@ -122,6 +122,26 @@ StationAddresses AddressesOf(const StationData& data, const Catalogue& catalogue
     return addresses;
 }
 
+std::optional<PlaceRef> UserOf(AddressArea area, std::int32_t address, std::int32_t bytes, const StationData& data,
+                               const Catalogue& catalogue, PlaceRef leftOut)
+{
+    const auto uses = [&](const ModuleData& module) {
+        bool bUses = false;
+        ForEachRange(module, catalogue, [&](AddressArea usedArea, std::int64_t first, std::int32_t size) {
+            bUses = bUses || (usedArea == area && first < std::int64_t{address} + bytes && address < first + size);
+        });
+        return bUses;
+    };
+    for (std::size_t rack = 0; rack < data.racks.size(); ++rack) {
+        const auto& places = data.racks[rack]->places;
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            const PlaceRef place{static_cast<std::int32_t>(rack), static_cast<std::int32_t>(i) + 1};
+            if (place != leftOut && places[i].module && uses(*places[i].module)) return place;
+        }
+    }
+    return {};
+}
+
 std::int32_t BytesIn(AddressArea area, const ModuleType& type)
 {
     return area == AddressArea::Input ? type.inputBytes : type.outputBytes;

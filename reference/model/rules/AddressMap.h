@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference/catalogue/Catalogue.h"
+#include "reference/model/PlaceRef.h"
 #include "reference/model/StationData.h"
 
 #include <cstdint>
@@ -65,6 +66,11 @@ struct StationAddresses {
 
 /// Reads the addresses of the whole station: linear in its modules.
 StationAddresses AddressesOf(const StationData& data, const Catalogue& catalogue);
+
+/// The place of the first module that uses any of the addresses, by itself or with a sub-module; the module at one
+/// place can be left out. Reads the whole station: for telling why, not for finding out whether.
+std::optional<PlaceRef> UserOf(AddressArea area, std::int32_t address, std::int32_t bytes, const StationData& data,
+                               const Catalogue& catalogue, PlaceRef leftOut = {});
 
 /// The type's bytes and the module's first address in an area.
 std::int32_t BytesIn(AddressArea area, const ModuleType& type);

@@ -113,12 +113,12 @@ Objection AgainstRack(const StationData& data, std::int32_t rack)
     const std::string number = std::to_string(rack);
     if (rack < 0 || static_cast<std::size_t>(rack) >= data.racks.size()) {
         return Refusal{
-            Rule::NoSuchPlace, {rack, 0}, {"There is no rack " + number, "Es gibt keinen Baugruppenträger " + number}};
+            Rule::NoSuchPlace, {rack, 0}, {"There is no rack " + number, "Es gibt keinen Träger " + number}};
     }
     if (data.racks[static_cast<std::size_t>(rack)]->state != vxRackPresent) {
         return Refusal{Rule::RackNotPresent,
                        {rack, 0},
-                       {"Rack " + number + " is not present", "Baugruppenträger " + number + " ist nicht vorhanden"}};
+                       {"Rack " + number + " is not present", "Träger " + number + " ist nicht vorhanden"}};
     }
     return {};
 }

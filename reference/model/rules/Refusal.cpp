@@ -23,9 +23,9 @@ LocalizedText PlaceText(PlaceRef place)
 {
     if (place.rack < 0) return {"the station", "der Station"};
     const std::string rack = std::to_string(place.rack);
-    if (place.place <= 0) return {"rack " + rack, "Baugruppenträger " + rack};
+    if (place.place <= 0) return {"rack " + rack, "Träger " + rack};
     const std::string number = std::to_string(place.place);
-    return {"place " + number + " of rack " + rack, "Steckplatz " + number + " von Baugruppenträger " + rack};
+    return {"place " + number + " of rack " + rack, "Platz " + number + " von Träger " + rack};
 }
 
 VxError ToError(const Refusal& refusal, Language language)

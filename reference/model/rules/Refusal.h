@@ -51,7 +51,7 @@ struct Refusal {
     LocalizedText text;
 };
 
-/// "place 4 of rack 0", "Steckplatz 4 von Baugruppenträger 0"; the rack alone for place 0.
+/// "place 4 of rack 0", "Platz 4 von Träger 0"; the rack alone for place 0.
 LocalizedText PlaceText(PlaceRef place);
 
 /// Nothing when there is no objection.

@@ -70,7 +70,7 @@ TEST(PlacingRules, ReasonsNamePlaceAndCauseInBothLanguages)
     ASSERT_TRUE(objection);
     EXPECT_EQ(objection->place, (PlaceRef{1, 3}));
     EXPECT_EQ(objection->text.en, "DI does not fit: place 3 of rack 1 takes only an interface module");
-    EXPECT_EQ(objection->text.de, "DI passt nicht: Steckplatz 3 von Baugruppenträger 1 nimmt nur eine Anschaltung auf");
+    EXPECT_EQ(objection->text.de, "DI passt nicht: Platz 3 von Träger 1 nimmt nur eine Anschaltung auf");
     EXPECT_EQ(RuleId(objection->rule), "wrong-place");
 }
 
