@@ -112,8 +112,7 @@ Objection AgainstRack(const StationData& data, std::int32_t rack)
 {
     const std::string number = std::to_string(rack);
     if (rack < 0 || static_cast<std::size_t>(rack) >= data.racks.size()) {
-        return Refusal{
-            Rule::NoSuchPlace, {rack, 0}, {"There is no rack " + number, "Es gibt keinen Träger " + number}};
+        return Refusal{Rule::NoSuchPlace, {rack, 0}, {"There is no rack " + number, "Es gibt keinen Träger " + number}};
     }
     if (data.racks[static_cast<std::size_t>(rack)]->state != vxRackPresent) {
         return Refusal{Rule::RackNotPresent,
