@@ -66,12 +66,12 @@ std::optional<std::string> FindBrokenText(const Json& value, const std::string& 
     return std::nullopt;
 }
 
-constexpr int Indentation = 2;
+constexpr std::size_t Indentation = 2;
 
 std::string Dump(const Json& json, const std::string& pointer, std::string_view fileName)
 {
     try {
-        return json.dump(Indentation);
+        return json.dump(int{Indentation});
     } catch (const Json::type_error&) {
         throw FileError(std::string(fileName), FindBrokenText(json, pointer).value_or(pointer),
                         "the text is not valid UTF-8", "der Text ist kein gültiges UTF-8");
