@@ -35,44 +35,6 @@ void Select(Editor& editor, std::int32_t lFrom, std::int32_t lTo)
     handler.FocusPosition(lTo);
 }
 
-std::pair<float, float> PointAt(const Editor& editor, std::int32_t lPosition)
-{
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    editor.view->CoordinatesByPosition(lPosition, x, y);
-    return {static_cast<float>(x - editor.Picture().Left()), static_cast<float>(y - editor.Picture().Top())};
-}
-
-void Drop(Editor& editor, const DataObjectPtr& data, std::int32_t lTarget, std::int16_t nShift)
-{
-    const auto [x, y] = PointAt(editor, lTarget);
-    std::int32_t lEffect = vxDropEffectCopyOrMove;
-    editor.Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, x, y, vxDragEnter);
-    lEffect = vxDropEffectCopyOrMove;
-    editor.Mouse().OLEDragDrop(data, lEffect, 0, nShift, x, y);
-    editor.Mouse().OLECompleteDrag(lEffect);
-    editor.toolkit->clock.Advance(20);
-}
-
-void DragWithin(Editor& editor, std::int16_t nShift)
-{
-    const auto data = editor.NewDrag();
-    std::int32_t lEffect = vxDropEffectNone;
-    editor.Mouse().OLEStartDrag(data, lEffect);
-    if (lEffect != vxDropEffectNone) Drop(editor, data, Empty, nShift);
-}
-
-/// What another program drags.
-std::shared_ptr<FakeDataObject> ForeignDrag(Editor& editor)
-{
-    auto data = editor.NewDrag();
-    std::int32_t lEffect = vxDropEffectNone;
-    editor.Mouse().OLEStartDrag(data, lEffect);
-    lEffect = vxDropEffectNone;
-    editor.Mouse().OLECompleteDrag(lEffect);
-    return data;
-}
-
 void SelectOne(Editor& editor)
 {
     Select(editor, Filled, Filled);
@@ -83,26 +45,61 @@ void SelectTwo(Editor& editor)
     Select(editor, Filled, Neighbour);
 }
 
+void SelectEmpty(Editor& editor)
+{
+    Select(editor, Empty, Empty);
+}
+
+/// Null when the editor offers nothing.
+DataObjectPtr StartDrag(Editor& editor)
+{
+    const auto data = editor.NewDrag();
+    std::int32_t lEffect = vxDropEffectNone;
+    editor.Mouse().OLEStartDrag(data, lEffect);
+    return lEffect == vxDropEffectNone ? nullptr : data;
+}
+
+void CompleteDrag(Editor& editor, std::int32_t lEffect)
+{
+    editor.Mouse().OLECompleteDrag(lEffect);
+}
+
+void Drop(Editor& editor, const DataObjectPtr& data, std::int16_t nShift)
+{
+    std::int32_t lX = 0;
+    std::int32_t lY = 0;
+    editor.view->CoordinatesByPosition(Empty, lX, lY);
+    const auto x = static_cast<float>(lX - editor.Picture().Left());
+    const auto y = static_cast<float>(lY - editor.Picture().Top());
+    std::int32_t lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, x, y, vxDragEnter);
+    lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEDragDrop(data, lEffect, 0, nShift, x, y);
+    CompleteDrag(editor, lEffect);
+    editor.toolkit->clock.Advance(20);
+}
+
 std::vector<Scenario> Scenarios()
 {
-    const auto foreign = std::make_shared<std::shared_ptr<FakeDataObject>>();
     return {
-        {"Move", SelectOne, [](Editor& editor) { DragWithin(editor, 0); }},
-        {"Copy", SelectOne, [](Editor& editor) { DragWithin(editor, vxCtrlMask); }},
-        {"DropFromOutside",
-         [foreign](Editor& editor) {
-             SelectOne(editor);
-             *foreign = ForeignDrag(editor);
-         },
-         [foreign](Editor& editor) { Drop(editor, *foreign, Empty, 0); }},
+        {"Move", SelectOne,
+         [](Editor& editor) {
+             if (const auto data = StartDrag(editor)) Drop(editor, data, 0);
+         }},
+        {"Copy", SelectOne,
+         [](Editor& editor) {
+             if (const auto data = StartDrag(editor)) Drop(editor, data, vxCtrlMask);
+         }},
+        {"DropFromOutside", SelectOne,
+         [](Editor& editor) {
+             const auto data = StartDrag(editor);
+             if (!data) return;
+             CompleteDrag(editor, vxDropEffectNone);
+             Drop(editor, data, 0);
+         }},
         {"GiveAway", SelectTwo,
          [](Editor& editor) {
-             const auto data = editor.NewDrag();
-             std::int32_t lEffect = vxDropEffectNone;
-             editor.Mouse().OLEStartDrag(data, lEffect);
-             if (lEffect == vxDropEffectNone) return;
-             lEffect = vxDropEffectMove;
-             editor.Mouse().OLECompleteDrag(lEffect);
+             if (StartDrag(editor)) CompleteDrag(editor, vxDropEffectMove);
          }},
         {"Delete", SelectTwo, [](Editor& editor) { editor.Keys().KeyDown(vxKeyDelete, 0); }},
         {"Cut", SelectTwo, [](Editor& editor) { editor.Manager().Cut(); }},
@@ -110,21 +107,13 @@ std::vector<Scenario> Scenarios()
          [](Editor& editor) {
              SelectOne(editor);
              editor.Manager().Copy();
-             Select(editor, Empty, Empty);
+             SelectEmpty(editor);
          },
          [](Editor& editor) { editor.Manager().Paste(); }},
-        {"Insert", [](Editor& editor) { Select(editor, Empty, Empty); },
+        {"Insert", SelectEmpty,
          [](Editor& editor) { editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule("Q3-DI16-A")); },
          true},
-        {"Configure",
-         [](Editor& editor) {
-             SelectOne(editor);
-             editor.parameters = [](reference::ModuleData module) {
-                 module.comment = "Configured";
-                 return std::optional(module);
-             };
-         },
-         [](Editor& editor) { editor.Manager().EditModuleParams(); }},
+        {"Configure", SelectOne, [](Editor& editor) { editor.Manager().EditModuleParams(); }},
     };
 }
 
@@ -139,6 +128,10 @@ protected:
     /// Acts with that call failing (0: none).
     Result Act(Editor& editor, std::int32_t lFailingCall)
     {
+        editor.parameters = [](reference::ModuleData module) {
+            module.comment = "Configured";
+            return std::optional(module);
+        };
         GetParam().prepare(editor);
         EXPECT_EQ(editor.WhatIsWrong(), "");
         editor.log->faults.ThrowAt(lFailingCall);
