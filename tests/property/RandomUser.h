@@ -16,7 +16,10 @@ namespace zqbchwcx::testing {
 /// catalogue, parameters, undo and redo.
 class RandomUser {
 public:
-    RandomUser(Editor& editor, std::mt19937& random) : moEditor(editor), mRandom(random) {}
+    RandomUser(Editor& editor, std::mt19937& random) : moEditor(editor), mRandom(random)
+    {
+        editor.parameters = [this](reference::ModuleData module) { return Configured(std::move(module)); };
+    }
 
     /// Does one thing, which may be several events, and says what it was.
     std::string DoSomething()
@@ -32,10 +35,8 @@ public:
             Action{14, "drag", &RandomUser::DragFromHere},
             Action{6, "drag from outside", &RandomUser::DragFromOutside},
             Action{25, "key", &RandomUser::Key},
-            Action{3, "menu", &RandomUser::Menu},
-            Action{6, "clipboard", &RandomUser::UseClipboard},
+            Action{12, "menu", &RandomUser::Menu},
             Action{5, "catalogue", &RandomUser::TakeFromCatalogue},
-            Action{3, "parameters", &RandomUser::Configure},
             Action{3, "attribute", &RandomUser::TypeAttribute},
             Action{3, "batch", &RandomUser::ChangeInABatch},
             Action{1, "locking", &RandomUser::Lock},
@@ -156,28 +157,19 @@ private:
         moEditor.Menu().choose.reset();
     }
 
-    void UseClipboard()
-    {
-        using Manager = VxHWConfigManager;
-        (Commands().*OneOf({&Manager::Copy, &Manager::Cut, &Manager::Paste, &Manager::Paste}))();
-    }
-
     void TakeFromCatalogue()
     {
         const auto& type = OneOf(reference::ShippedCatalogue().Types());
         Commands().SetSingleModuleToCurPos(moEditor.station->CreateModule(type.orderNumber));
     }
 
-    void Configure()
+    /// The answer of the parameter dialog.
+    std::optional<reference::ModuleData> Configured(reference::ModuleData module)
     {
-        moEditor.parameters = [&](const reference::ModuleData& module) -> std::optional<reference::ModuleData> {
-            if (OneIn(3)) return std::nullopt;
-            reference::ModuleData changed = module;
-            changed.name = "Name " + std::to_string(Any(0, 9));
-            if (changed.inputAddress) changed.inputAddress = Any(-1, 200);
-            return changed;
-        };
-        Commands().EditModuleParams();
+        if (OneIn(3)) return std::nullopt;
+        module.name = "Name " + std::to_string(Any(0, 9));
+        if (module.inputAddress) module.inputAddress = Any(-1, 200);
+        return module;
     }
 
     void TypeAttribute()

@@ -223,6 +223,15 @@ void ReadOnlyStationStaysAsItIs(const ContractHost& host)
     const std::int32_t position = PlacePosition(host, host.firstPlace);
     EXPECT_FALSE(host.station->CanBePlaced(position, modules, false, nullptr));
     EXPECT_FALSE(host.station->PlaceModules(position, modules, host.factory->CreateRackPlaces()));
+    for (const VxHWRackPlacePtr& place : AllPlaces(*host.station)) {
+        if (place->Module()->IsEmpty()) continue;
+        EXPECT_FALSE(host.station->SetModuleAttribute(place, host.textAttribute, "new"));
+        const VxHWRackPlacesPtr source = host.factory->CreateRackPlaces();
+        source->Add(place);
+        const VxHWModulesPtr moved = Collection(host, {place->Module()});
+        EXPECT_FALSE(host.station->MoveModules(position, moved, source, host.factory->CreateRackPlaces()));
+        host.station->DeleteModules(source);
+    }
     EXPECT_EQ(Content(*host.station), before);
     EXPECT_NE(host.station->GetPossibleDropPlaces(host.singleModule()).Get(host.rack, host.firstPlace), -1);
 }
