@@ -44,18 +44,5 @@ TEST(Schemas, KnowEveryMemberOfTheFilesThatAreShipped)
     }
 }
 
-TEST(Schemas, NameTheLimitsOfTheReader)
-{
-    const json schema = Load("docs/station-schema.json");
-    const json& definitions = schema["$defs"];
-    const json& module = definitions["module"]["properties"];
-    EXPECT_EQ(schema["properties"]["racks"]["maxItems"], MaxRacks);
-    EXPECT_EQ(definitions["rack"]["properties"]["placeCount"]["maximum"], MaxPlaces);
-    EXPECT_EQ(module["inputAddress"]["maximum"], MaxAddress);
-    EXPECT_EQ(module["comment"]["maxLength"], MaxTextBytes);
-    EXPECT_EQ(module["parameters"]["maxProperties"], MaxParameters);
-    EXPECT_EQ(module["subModules"]["maxItems"], MaxSubModules);
-}
-
 } // namespace
 } // namespace zqbchwcx::reference

@@ -21,7 +21,7 @@ TEST(SetAttribute, ChecksAddresses)
 {
     PlainStation station = SampleStation();
     const std::tuple<std::int32_t, std::string, std::string, std::optional<Rule>> cases[] = {
-        {4, "I-ADDRESS", "100", Done},
+        {4, "I-ADDRESS", "1022", Done},
         {4, "I-Address", " 102 .. 103 ", Done},
         {8, "I-ADDRESS", "104..111", Done},
         {4, "I-ADDRESS", "103", Rule::AddressOverlap},

@@ -133,9 +133,9 @@ TEST_F(ReferenceStation, ParameterDialogChangesTheModuleWhenItsAnswerIsAllowed)
     dialogAnswer->parameters["delay"] = std::int64_t{9};
     EXPECT_EQ(station->OpenModuleParamDialog(station->PlaceAt({0, 4})), 1);
     EXPECT_EQ(ModuleIn(4)->GetAttribute("PARAMETER DELAY"), "9");
-    dialogAnswer->orderNumber = "DO";
+    dialogAnswer = *NewModuleData("CP");
     EXPECT_EQ(station->OpenModuleParamDialog(station->PlaceAt({0, 4})), 0);
-    EXPECT_EQ(ModuleIn(4)->OrderNumber(), "DI");
+    EXPECT_EQ(ModuleIn(4)->OrderNumber(), "DI") << "a dialog changes no type";
 }
 
 TEST_F(ReferenceStation, TooltipsTellWhatIsThere)
