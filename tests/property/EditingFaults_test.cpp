@@ -13,8 +13,9 @@ constexpr std::int32_t Empty = G_PlacePosition(0, 11);
 
 struct Scenario {
     std::string name;
-    /// What happens before, without a fault.
-    std::function<void(Editor&)> prepare;
+    /// The places that are selected before.
+    std::int32_t lFrom;
+    std::int32_t lTo;
     /// In which every call of a service, of the clipboard and of the model fails in turn.
     std::function<void(Editor&)> act;
     /// An error in it leaves the drawing to the host.
@@ -33,21 +34,6 @@ void Select(Editor& editor, std::int32_t lFrom, std::int32_t lTo)
     handler.SelectRange(lFrom, lTo);
     handler.SelChangeComplete();
     handler.FocusPosition(lTo);
-}
-
-void SelectOne(Editor& editor)
-{
-    Select(editor, Filled, Filled);
-}
-
-void SelectTwo(Editor& editor)
-{
-    Select(editor, Filled, Neighbour);
-}
-
-void SelectEmpty(Editor& editor)
-{
-    Select(editor, Empty, Empty);
 }
 
 /// Null when the editor offers nothing.
@@ -82,38 +68,32 @@ void Drop(Editor& editor, const DataObjectPtr& data, std::int16_t nShift)
 std::vector<Scenario> Scenarios()
 {
     return {
-        {"Move", SelectOne,
+        {"Move", Filled, Filled,
          [](Editor& editor) {
              if (const auto data = StartDrag(editor)) Drop(editor, data, 0);
          }},
-        {"Copy", SelectOne,
+        {"Copy", Filled, Filled,
          [](Editor& editor) {
              if (const auto data = StartDrag(editor)) Drop(editor, data, vxCtrlMask);
          }},
-        {"DropFromOutside", SelectOne,
+        {"DropFromOutside", Filled, Filled,
          [](Editor& editor) {
              const auto data = StartDrag(editor);
              if (!data) return;
              CompleteDrag(editor, vxDropEffectNone);
              Drop(editor, data, 0);
          }},
-        {"GiveAway", SelectTwo,
+        {"GiveAway", Filled, Neighbour,
          [](Editor& editor) {
              if (StartDrag(editor)) CompleteDrag(editor, vxDropEffectMove);
          }},
-        {"Delete", SelectTwo, [](Editor& editor) { editor.Keys().KeyDown(vxKeyDelete, 0); }},
-        {"Cut", SelectTwo, [](Editor& editor) { editor.Manager().Cut(); }},
-        {"Paste",
-         [](Editor& editor) {
-             SelectOne(editor);
-             editor.Manager().Copy();
-             SelectEmpty(editor);
-         },
-         [](Editor& editor) { editor.Manager().Paste(); }},
-        {"Insert", SelectEmpty,
+        {"Delete", Filled, Neighbour, [](Editor& editor) { editor.Keys().KeyDown(vxKeyDelete, 0); }},
+        {"Cut", Filled, Neighbour, [](Editor& editor) { editor.Manager().Cut(); }},
+        {"Paste", Empty, Empty, [](Editor& editor) { editor.Manager().Paste(); }},
+        {"Insert", Empty, Empty,
          [](Editor& editor) { editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule("Q3-DI16-A")); },
          true},
-        {"Configure", SelectOne, [](Editor& editor) { editor.Manager().EditModuleParams(); }},
+        {"Configure", Filled, Filled, [](Editor& editor) { editor.Manager().EditModuleParams(); }},
     };
 }
 
@@ -132,7 +112,9 @@ protected:
             module.comment = "Configured";
             return std::optional(module);
         };
-        GetParam().prepare(editor);
+        Select(editor, Filled, Filled);
+        editor.Manager().Copy();
+        Select(editor, GetParam().lFrom, GetParam().lTo);
         EXPECT_EQ(editor.WhatIsWrong(), "");
         editor.log->faults.ThrowAt(lFailingCall);
         GetParam().act(editor);

@@ -42,6 +42,7 @@ TEST(StationReader, RefusesWhatIsNotExactlyAStation)
         {"/racks/0", "null", "/racks/0", "must be an object"},
         {"/racks/0/placeCount", "0", "/racks/0/placeCount", "from 1 to 499"},
         {"/racks/0/placeCount", "500", "/racks/0/placeCount", "from 1 to 499"},
+        {"/racks/0/places/1/colour", "1", "/racks/0/places/1/colour", "unknown"},
         {"/racks/0/places/2/place", "12", "/racks/0/places/2/place", "from 1 to 11"},
         {"/racks/0/places/2/place", "18446744073709551615", "/racks/0/places/2/place", "from 1 to 11"},
         {"/racks/0/places/1/place", "4", "/racks/0/places/1/place", "stands twice"},

@@ -67,6 +67,13 @@ TEST(PlaceBlock, RackFromOneOnNeedsItsInterfaceModule)
     EXPECT_EQ(station.Row(1), "PS - - - - - - - - - -");
 }
 
+TEST(PlaceBlock, RackMustBePresent)
+{
+    StationData data = EmptyStation(0, 1);
+    data.racks[0] = std::make_shared<RackData>(RackData{0, data.racks[0]->places});
+    EXPECT_EQ(PlainStation(data).Place(G_PlacePosition(0, 4), Block("DI")), Rule::RackNotPresent);
+}
+
 TEST(PlaceBlock, DistributedStationNeedsItsHeadAndSkipsHiddenPlaces)
 {
     PlainStation station(EmptyStation(1, 1));
