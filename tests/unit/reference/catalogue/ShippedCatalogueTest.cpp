@@ -45,11 +45,14 @@ TEST(ShippedCatalogue, NamesPicturesOfItsKindOfStation)
 
 TEST(ShippedCatalogue, MakesModulesThatObeyTheirOwnTypes)
 {
+    std::set<ModuleFamily> families;
     for (const ModuleType& type : ShippedCatalogue().Types()) {
+        families.insert(type.family);
         const ModuleData module = NewModule(type, ShippedCatalogue());
         EXPECT_THAT(AgainstModule(module, ShippedCatalogue(), {0, 4}), IsEmpty()) << type.orderNumber;
         EXPECT_THAT(module.subModules, SizeIs(type.subModules.size())) << type.orderNumber;
     }
+    EXPECT_THAT(families, SizeIs(8)) << "the catalogue shows every family";
 }
 
 TEST(Examples, BreakOnlyTheRulesThatTheyTeach)

@@ -51,9 +51,9 @@ TEST(ModuleListText, KeepsTablesWhole)
 
 TEST(CheckReport, SaysFilePlaceRuleAndReason)
 {
-    const std::vector<Refusal> found = {{Rule::WrongPlace, {1, 4}, {"No.", "Nein."}}, {Rule::ReadOnly, {}, {"R", "S"}}};
+    const std::vector<Refusal> found = {{Rule::WrongPlace, {0, 4}, {"No.", "Nein."}}, {Rule::ReadOnly, {}, {"R", "S"}}};
     EXPECT_EQ(WriteCheckReport(found, "a.json", Language::English),
-              "a.json: place 4 of rack 1: wrong-place: No.\na.json: read-only: R\n");
+              "a.json: place 4 of rack 0: wrong-place: No.\na.json: read-only: R\n");
     EXPECT_EQ(WriteCheckReport({}, "a.json", Language::German), "");
 }
 
