@@ -12,7 +12,7 @@ ContractHost ReferenceHost(std::int32_t kind, bool bReadOnly)
 {
     const bool central = kind == 0;
     PlainStation plain(EmptyStation(kind, central ? 2 : 1));
-    plain.Place(G_PlacePosition(0, 1), central ? Block({"PS", "CPU", "IM"}) : Block({"HEAD2"}));
+    plain.Place(G_PlacePosition(0, 1), Block(central ? "PS CPU IM" : "HEAD2 +"));
     reference::StationData data = plain.Data();
     data.readOnly = bReadOnly;
 

@@ -13,8 +13,9 @@ constexpr std::int32_t Empty = G_PlacePosition(0, 11);
 
 struct Scenario {
     std::string name;
-    /// What happens before, without a fault.
-    std::function<void(Editor&)> prepare;
+    /// The places that are selected before.
+    std::int32_t lFrom;
+    std::int32_t lTo;
     /// In which every call of a service, of the clipboard and of the model fails in turn.
     std::function<void(Editor&)> act;
     /// An error in it leaves the drawing to the host.
@@ -35,96 +36,64 @@ void Select(Editor& editor, std::int32_t lFrom, std::int32_t lTo)
     handler.FocusPosition(lTo);
 }
 
-std::pair<float, float> PointAt(const Editor& editor, std::int32_t lPosition)
-{
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    editor.view->CoordinatesByPosition(lPosition, x, y);
-    return {static_cast<float>(x - editor.Picture().Left()), static_cast<float>(y - editor.Picture().Top())};
-}
-
-void Drop(Editor& editor, const DataObjectPtr& data, std::int32_t lTarget, std::int16_t nShift)
-{
-    const auto [x, y] = PointAt(editor, lTarget);
-    std::int32_t lEffect = vxDropEffectCopyOrMove;
-    editor.Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, x, y, vxDragEnter);
-    lEffect = vxDropEffectCopyOrMove;
-    editor.Mouse().OLEDragDrop(data, lEffect, 0, nShift, x, y);
-    editor.Mouse().OLECompleteDrag(lEffect);
-    editor.toolkit->clock.Advance(20);
-}
-
-void DragWithin(Editor& editor, std::int16_t nShift)
+/// Null when the editor offers nothing.
+DataObjectPtr StartDrag(Editor& editor)
 {
     const auto data = editor.NewDrag();
     std::int32_t lEffect = vxDropEffectNone;
     editor.Mouse().OLEStartDrag(data, lEffect);
-    if (lEffect != vxDropEffectNone) Drop(editor, data, Empty, nShift);
+    return lEffect == vxDropEffectNone ? nullptr : data;
 }
 
-/// What another program drags.
-std::shared_ptr<FakeDataObject> ForeignDrag(Editor& editor)
+void CompleteDrag(Editor& editor, std::int32_t lEffect)
 {
-    auto data = editor.NewDrag();
-    std::int32_t lEffect = vxDropEffectNone;
-    editor.Mouse().OLEStartDrag(data, lEffect);
-    lEffect = vxDropEffectNone;
     editor.Mouse().OLECompleteDrag(lEffect);
-    return data;
 }
 
-void SelectOne(Editor& editor)
+void Drop(Editor& editor, const DataObjectPtr& data, std::int16_t nShift)
 {
-    Select(editor, Filled, Filled);
-}
-
-void SelectTwo(Editor& editor)
-{
-    Select(editor, Filled, Neighbour);
+    std::int32_t lX = 0;
+    std::int32_t lY = 0;
+    editor.view->CoordinatesByPosition(Empty, lX, lY);
+    const auto x = static_cast<float>(lX - editor.Picture().Left());
+    const auto y = static_cast<float>(lY - editor.Picture().Top());
+    std::int32_t lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, x, y, vxDragEnter);
+    lEffect = vxDropEffectCopyOrMove;
+    editor.Mouse().OLEDragDrop(data, lEffect, 0, nShift, x, y);
+    CompleteDrag(editor, lEffect);
+    editor.toolkit->clock.Advance(20);
 }
 
 std::vector<Scenario> Scenarios()
 {
-    const auto foreign = std::make_shared<std::shared_ptr<FakeDataObject>>();
     return {
-        {"Move", SelectOne, [](Editor& editor) { DragWithin(editor, 0); }},
-        {"Copy", SelectOne, [](Editor& editor) { DragWithin(editor, vxCtrlMask); }},
-        {"DropFromOutside",
-         [foreign](Editor& editor) {
-             SelectOne(editor);
-             *foreign = ForeignDrag(editor);
-         },
-         [foreign](Editor& editor) { Drop(editor, *foreign, Empty, 0); }},
-        {"GiveAway", SelectTwo,
+        {"Move", Filled, Filled,
          [](Editor& editor) {
-             const auto data = editor.NewDrag();
-             std::int32_t lEffect = vxDropEffectNone;
-             editor.Mouse().OLEStartDrag(data, lEffect);
-             if (lEffect == vxDropEffectNone) return;
-             lEffect = vxDropEffectMove;
-             editor.Mouse().OLECompleteDrag(lEffect);
+             if (const auto data = StartDrag(editor)) Drop(editor, data, 0);
          }},
-        {"Delete", SelectTwo, [](Editor& editor) { editor.Keys().KeyDown(vxKeyDelete, 0); }},
-        {"Cut", SelectTwo, [](Editor& editor) { editor.Manager().Cut(); }},
-        {"Paste",
+        {"Copy", Filled, Filled,
          [](Editor& editor) {
-             SelectOne(editor);
-             editor.Manager().Copy();
-             Select(editor, Empty, Empty);
-         },
-         [](Editor& editor) { editor.Manager().Paste(); }},
-        {"Insert", [](Editor& editor) { Select(editor, Empty, Empty); },
+             if (const auto data = StartDrag(editor)) Drop(editor, data, vxCtrlMask);
+         }},
+        {"DropFromOutside", Filled, Filled,
+         [](Editor& editor) {
+             const auto data = StartDrag(editor);
+             if (!data) return;
+             CompleteDrag(editor, vxDropEffectNone);
+             Drop(editor, data, 0);
+         }},
+        {"GiveAway", Filled, Neighbour,
+         [](Editor& editor) {
+             if (StartDrag(editor)) CompleteDrag(editor, vxDropEffectMove);
+         }},
+        {"Delete", Filled, Neighbour, [](Editor& editor) { editor.Keys().KeyDown(vxKeyDelete, 0); }},
+        {"Cut", Filled, Neighbour, [](Editor& editor) { editor.Manager().Cut(); }},
+        {"Paste", Empty, Empty, [](Editor& editor) { editor.Manager().Paste(); }},
+        {"Insert", Empty, Empty,
          [](Editor& editor) { editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule("Q3-DI16-A")); },
          true},
-        {"Configure",
-         [](Editor& editor) {
-             SelectOne(editor);
-             editor.parameters = [](reference::ModuleData module) {
-                 module.comment = "Configured";
-                 return std::optional(module);
-             };
-         },
-         [](Editor& editor) { editor.Manager().EditModuleParams(); }},
+        {"Configure", Filled, Filled, [](Editor& editor) { editor.Manager().EditModuleParams(); }},
     };
 }
 
@@ -139,7 +108,13 @@ protected:
     /// Acts with that call failing (0: none).
     Result Act(Editor& editor, std::int32_t lFailingCall)
     {
-        GetParam().prepare(editor);
+        editor.parameters = [](reference::ModuleData module) {
+            module.comment = "Configured";
+            return std::optional(module);
+        };
+        Select(editor, Filled, Filled);
+        editor.Manager().Copy();
+        Select(editor, GetParam().lFrom, GetParam().lTo);
         EXPECT_EQ(editor.WhatIsWrong(), "");
         editor.log->faults.ThrowAt(lFailingCall);
         GetParam().act(editor);

@@ -19,12 +19,6 @@ std::int64_t FromEnvironment(const char* name, std::int64_t otherwise)
 
 constexpr std::int64_t EventsPerSession = 20000;
 
-/// A short run looks at the picture more often.
-struct Plan {
-    std::int64_t events = EventsPerSession;
-    std::int64_t stepsBetweenPictures = 150;
-};
-
 std::string ToTheEnd(Editor& editor, bool (reference::History::*step)())
 {
     while ((editor.history.get()->*step)()) {
@@ -33,7 +27,7 @@ std::string ToTheEnd(Editor& editor, bool (reference::History::*step)())
 }
 
 /// One editor and one user. Returns the number of events; stops at the first thing that is wrong.
-std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, Plan plan)
+std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, std::int64_t events)
 {
     SCOPED_TRACE(example + ", seed " + std::to_string(seed));
     std::mt19937 random(seed);
@@ -42,21 +36,23 @@ std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, Plan pl
     std::int64_t changes = 0;
     const EventConnection counting = editor.history->Changed.Connect([&] { ++changes; });
     RandomUser user(editor, random);
-    for (std::int64_t step = 0; user.Events() < plan.events; ++step) {
+    // A short run looks at the picture more often.
+    const std::int64_t stepsBetweenPictures = events < EventsPerSession ? 3 : 150;
+    for (std::int64_t step = 0; user.Events() < events; ++step) {
         const std::string action = user.DoSomething();
         const std::string wrong = editor.WhatIsWrong();
         if (!wrong.empty()) {
             ADD_FAILURE() << "after step " << step << ", " << action << ":\n" << wrong;
             return user.Events();
         }
-        if (step % plan.stepsBetweenPictures == 0) {
+        if (step % stepsBetweenPictures == 0) {
             const std::string difference = editor.DifferenceFromAFreshPicture();
             EXPECT_EQ(difference, "") << "after step " << step << ", " << action;
             if (!difference.empty()) return user.Events();
         }
         editor.ForgetLines();
     }
-    EXPECT_GT(changes, plan.events / 50) << "a user who changes next to nothing";
+    EXPECT_GT(changes, events / 50) << "a user who changes next to nothing";
     const std::string last = ToTheEnd(editor, &reference::History::Redo);
     EXPECT_EQ(ToTheEnd(editor, &reference::History::Undo), first);
     EXPECT_EQ(editor.DifferenceFromAFreshPicture(), "") << "after undoing everything";
@@ -73,10 +69,10 @@ TEST(RandomEditing, KeepsTheRulesTheHistoryAndThePicture)
     RecordProperty("seed", std::to_string(seed));
 
     constexpr std::array Examples{"waterworks", "packaging-line", "bottling-filler", "tank-farm"};
-    const Plan plan = wanted < EventsPerSession ? Plan{wanted / 4, 3} : Plan{};
+    const std::int64_t eventsPerEditor = wanted < EventsPerSession ? wanted / 4 : EventsPerSession;
     std::int64_t events = 0;
     for (std::uint32_t session = 0; events < wanted && !HasFailure(); ++session)
-        events += UseAnEditor(Examples[session % Examples.size()], seed + session, plan);
+        events += UseAnEditor(Examples[session % Examples.size()], seed + session, eventsPerEditor);
     std::cout << events << " events" << std::endl;
 }
 

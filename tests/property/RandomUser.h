@@ -6,6 +6,8 @@
 #include "tests/property/Editor.h"
 #include "tests/support/Samples.h"
 
+#include <array>
+#include <numeric>
 #include <random>
 
 namespace zqbchwcx::testing {
@@ -14,7 +16,10 @@ namespace zqbchwcx::testing {
 /// catalogue, parameters, undo and redo.
 class RandomUser {
 public:
-    RandomUser(Editor& editor, std::mt19937& random) : moEditor(editor), mRandom(random) {}
+    RandomUser(Editor& editor, std::mt19937& random) : moEditor(editor), mRandom(random)
+    {
+        editor.parameters = [this](reference::ModuleData module) { return Configured(std::move(module)); };
+    }
 
     /// Does one thing, which may be several events, and says what it was.
     std::string DoSomething()
@@ -30,22 +35,17 @@ public:
             Action{14, "drag", &RandomUser::DragFromHere},
             Action{6, "drag from outside", &RandomUser::DragFromOutside},
             Action{25, "key", &RandomUser::Key},
-            Action{3, "menu", &RandomUser::Menu},
-            Action{6, "clipboard", &RandomUser::UseClipboard},
+            Action{12, "menu", &RandomUser::Menu},
             Action{5, "catalogue", &RandomUser::TakeFromCatalogue},
-            Action{3, "parameters", &RandomUser::Configure},
             Action{3, "attribute", &RandomUser::TypeAttribute},
             Action{3, "batch", &RandomUser::ChangeInABatch},
             Action{1, "locking", &RandomUser::Lock},
             Action{8, "undo or redo", &RandomUser::UndoOrRedo},
             Action{1, "keyboard focus", &RandomUser::ChangeKeyboardFocus},
         };
-        static const std::int32_t total = [] {
-            std::int32_t sum = 0;
-            for (const Action& action : Actions) sum += action.weight;
-            return sum;
-        }();
-        std::int32_t chosen = Any(0, total - 1);
+        constexpr std::int32_t Total = std::accumulate(
+            Actions.begin(), Actions.end(), 0, [](std::int32_t sum, const Action& a) { return sum + a.weight; });
+        std::int32_t chosen = Any(0, Total - 1);
         for (const Action& action : Actions) {
             chosen -= action.weight;
             if (chosen >= 0) continue;
@@ -62,14 +62,11 @@ private:
         const auto [x, y] = AnyPoint();
         const std::int16_t nButton = AnyButton();
         const std::int16_t nShift = AnyShift();
-        auto& mouse = moEditor.Mouse();
-        mouse.MouseDown(nButton, nShift, x, y);
-        mouse.MouseUp(nButton, nShift, x, y);
-        mlEvents += 2;
+        Mouse().MouseDown(nButton, nShift, x, y);
+        Mouse().MouseUp(nButton, nShift, x, y);
         if (!OneIn(10)) return;
-        mouse.DblClick();
-        mouse.MouseUp(nButton, nShift, x, y);
-        mlEvents += 2;
+        Mouse().DblClick();
+        Mouse().MouseUp(nButton, nShift, x, y);
     }
 
     void Press()
@@ -77,41 +74,35 @@ private:
         // Where this begins a drag, nothing comes of the drag; beside the racks it is a rubber band.
         const auto [x, y] = OneIn(2) ? AnyPoint() : std::pair(234.F, static_cast<float>(Any(0, 391)));
         const std::int16_t nButton = AnyButton();
-        auto& mouse = moEditor.Mouse();
-        mouse.MouseDown(nButton, 0, x, y);
-        for (std::int32_t moves = Any(1, 6); moves > 0; --moves, ++mlEvents) {
+        Mouse().MouseDown(nButton, 0, x, y);
+        for (std::int32_t moves = Any(1, 6); moves > 0; --moves) {
             const auto [x2, y2] = AnyPoint();
-            mouse.MouseMove(nButton, 0, x2, y2);
+            Mouse().MouseMove(nButton, 0, x2, y2);
             if (OneIn(4)) TypeAttribute();
         }
         const auto [x3, y3] = AnyPoint();
-        mouse.MouseUp(nButton, AnyShift(), x3, y3);
-        mlEvents += 2;
+        Mouse().MouseUp(nButton, AnyShift(), x3, y3);
     }
 
     void DragFromHere()
     {
-        auto& mouse = moEditor.Mouse();
         moEditor.Picture().onDrag = [&] {
             const auto data = moEditor.NewDrag();
             std::int32_t lEffect = vxDropEffectNone;
-            mouse.OLEStartDrag(data, lEffect);
-            ++mlEvents;
+            Mouse().OLEStartDrag(data, lEffect);
             if (lEffect == vxDropEffectNone) return;
             moLastDrag = data;
             DragOver(data);
             if (!OneIn(8)) return;
             // Dropped elsewhere; sometimes the other program takes the modules away.
             lEffect = OneIn(2) ? vxDropEffectMove : vxDropEffectCopy;
-            mouse.OLECompleteDrag(lEffect);
-            ++mlEvents;
+            Mouse().OLECompleteDrag(lEffect);
         };
         const auto [x, y] = AnyPoint();
-        mouse.MouseDown(vxButtonLeft, 0, x, y);
-        mouse.MouseMove(vxButtonLeft, 0, x + 3, y);
-        mouse.MouseMove(vxButtonLeft, 0, x + 9, y + 2);
-        mouse.MouseUp(vxButtonLeft, 0, x + 9, y + 2);
-        mlEvents += 4;
+        Mouse().MouseDown(vxButtonLeft, 0, x, y);
+        Mouse().MouseMove(vxButtonLeft, 0, x + 3, y);
+        Mouse().MouseMove(vxButtonLeft, 0, x + 9, y + 2);
+        Mouse().MouseUp(vxButtonLeft, 0, x + 9, y + 2);
         moEditor.Picture().onDrag = nullptr;
     }
 
@@ -122,104 +113,71 @@ private:
 
     void DragOver(const DataObjectPtr& data)
     {
-        auto& mouse = moEditor.Mouse();
         const std::int16_t nShift = AnyShift();
         std::int16_t nState = vxDragEnter;
         std::int32_t lEffect = vxDropEffectCopyOrMove;
         std::pair<float, float> at;
-        for (std::int32_t moves = Any(1, 12); moves > 0; --moves, ++mlEvents) {
+        for (std::int32_t moves = Any(1, 12); moves > 0; --moves) {
             at = AnyPoint();
             lEffect = vxDropEffectCopyOrMove;
-            mouse.OLEDragOver(data, lEffect, vxButtonLeft, nShift, at.first, at.second, nState);
+            Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, at.first, at.second, nState);
             nState = vxDragOver;
         }
         if (OneIn(4)) {
-            mouse.OLEDragOver(data, lEffect, vxButtonLeft, nShift, at.first, at.second, vxDragLeave);
+            Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, at.first, at.second, vxDragLeave);
             if (OneIn(2)) moEditor.toolkit->clock.Advance(20);
-            ++mlEvents;
             lEffect = vxDropEffectNone;
         } else {
             lEffect = vxDropEffectCopyOrMove;
-            mouse.OLEDragDrop(data, lEffect, 0, nShift, at.first, at.second);
-            ++mlEvents;
+            Mouse().OLEDragDrop(data, lEffect, 0, nShift, at.first, at.second);
         }
-        mouse.OLECompleteDrag(lEffect);
+        Mouse().OLECompleteDrag(lEffect);
         moEditor.toolkit->clock.Advance(20);
-        ++mlEvents;
     }
 
     void Key()
     {
-        static constexpr std::array<std::int16_t, 10> Keys{vxKeyLeft,   vxKeyUp,    vxKeyRight, vxKeyDown,
-                                                           vxKeyLeft,   vxKeyRight, vxKeySpace, vxKeyDown,
-                                                           vxKeyDelete, vxKeyReturn};
-        const std::int16_t nKey = Keys[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(Keys.size()) - 1))];
+        const auto nKey = OneOf<std::int16_t>({vxKeyLeft, vxKeyUp, vxKeyRight, vxKeyDown, vxKeyLeft, vxKeyRight,
+                                               vxKeySpace, vxKeyDown, vxKeyDelete, vxKeyReturn});
         const std::int16_t nShift = AnyShift();
-        moEditor.Keys().KeyDown(nKey, nShift);
-        moEditor.Keys().KeyUp(nKey, nShift);
-        mlEvents += 2;
+        Keys().KeyDown(nKey, nShift);
+        Keys().KeyUp(nKey, nShift);
     }
 
     void Menu()
     {
-        static constexpr std::array Items{"pmnu_EditModuleParams", "pmnu_Cut", "pmnu_Copy", "pmnu_Paste",
-                                          "pmnu_Delete"};
-        moEditor.Menu().choose = Items[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(Items.size()) - 1))];
+        moEditor.Menu().choose = OneOf({"pmnu_EditModuleParams", "pmnu_Cut", "pmnu_Copy", "pmnu_Paste", "pmnu_Delete"});
         if (OneIn(2)) {
-            moEditor.Keys().KeyUp(vxKeyApps, 0);
+            Keys().KeyUp(vxKeyApps, 0);
         } else {
             const auto [x, y] = AnyPoint();
-            moEditor.Mouse().MouseDown(vxButtonRight, 0, x, y);
-            moEditor.Mouse().MouseUp(vxButtonRight, 0, x, y);
-            ++mlEvents;
+            Mouse().MouseDown(vxButtonRight, 0, x, y);
+            Mouse().MouseUp(vxButtonRight, 0, x, y);
         }
         moEditor.Menu().choose.reset();
-        ++mlEvents;
-    }
-
-    void UseClipboard()
-    {
-        switch (Any(0, 3)) {
-        case 0:
-            moEditor.Manager().Copy();
-            break;
-        case 1:
-            moEditor.Manager().Cut();
-            break;
-        default:
-            moEditor.Manager().Paste();
-            break;
-        }
-        ++mlEvents;
     }
 
     void TakeFromCatalogue()
     {
-        moEditor.Manager().SetSingleModuleToCurPos(moEditor.station->CreateModule(AnyOrderNumber()));
-        ++mlEvents;
+        const auto& type = OneOf(reference::ShippedCatalogue().Types());
+        Commands().SetSingleModuleToCurPos(moEditor.station->CreateModule(type.orderNumber));
     }
 
-    void Configure()
+    /// The answer of the parameter dialog.
+    std::optional<reference::ModuleData> Configured(reference::ModuleData module)
     {
-        moEditor.parameters = [&](const reference::ModuleData& module) -> std::optional<reference::ModuleData> {
-            if (OneIn(3)) return std::nullopt;
-            reference::ModuleData changed = module;
-            changed.name = "Name " + std::to_string(Any(0, 9));
-            if (changed.inputAddress) changed.inputAddress = Any(-1, 200);
-            return changed;
-        };
-        moEditor.Manager().EditModuleParams();
-        ++mlEvents;
+        if (OneIn(3)) return std::nullopt;
+        module.name = "Name " + std::to_string(Any(0, 9));
+        if (module.inputAddress) module.inputAddress = Any(-1, 200);
+        return module;
     }
 
     void TypeAttribute()
     {
-        static constexpr std::array Names{"COMMENT", "NAME", "I-ADDRESS", "O-ADDRESS"};
-        const char* name = Names[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(Names.size()) - 1))];
+        const char* name = OneOf({"COMMENT", "NAME", "I-ADDRESS", "O-ADDRESS"});
         const auto oPlace = AnyPlace();
         if (oPlace->Module()->IsEmpty()) return;
         moEditor.station->SetModuleAttribute(oPlace, name, std::to_string(Any(-5, 1100)));
-        ++mlEvents;
     }
 
     void ChangeInABatch()
@@ -232,38 +190,42 @@ private:
         handler.SelChangeComplete();
         handler.FocusPosition(G_PlacePosition(0, 0) + Any(0, 23));
         moEditor.station->IsDrawable(true);
-        ++mlEvents;
     }
 
-    void Lock()
-    {
-        moEditor.view->Locked(!moEditor.view->Locked());
-        ++mlEvents;
-    }
+    void Lock() { moEditor.view->Locked(!moEditor.view->Locked()); }
 
     void UndoOrRedo()
     {
-        for (std::int32_t steps = Any(1, 4); steps > 0; --steps, ++mlEvents) {
+        for (std::int32_t steps = Any(1, 4); steps > 0; --steps) {
             if (OneIn(3)) moEditor.history->Redo();
             else moEditor.history->Undo();
         }
     }
 
-    void ChangeKeyboardFocus()
-    {
-        moEditor.Picture().Focus(!moEditor.Picture().HasFocus());
-        ++mlEvents;
-    }
+    void ChangeKeyboardFocus() { moEditor.Picture().Focus(!moEditor.Picture().HasFocus()); }
+
+    PictureBoxEvents& Mouse() { return ++mlEvents, moEditor.Mouse(); }
+    UserControlEvents& Keys() { return ++mlEvents, moEditor.Keys(); }
+    VxHWConfigManager& Commands() { return ++mlEvents, moEditor.Manager(); }
 
     std::int32_t Any(std::int32_t first, std::int32_t last)
     {
         return std::uniform_int_distribution<std::int32_t>(first, last)(mRandom);
     }
     bool OneIn(std::int32_t count) { return Any(1, count) == 1; }
+    template <class Value>
+    Value OneOf(const std::vector<Value>& values)
+    {
+        return values[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(values.size()) - 1))];
+    }
+    template <class Value>
+    Value OneOf(std::initializer_list<Value> values)
+    {
+        return OneOf(std::vector<Value>(values));
+    }
     std::int16_t AnyShift()
     {
-        static constexpr std::array<std::int16_t, 6> Shifts{0, 0, 0, vxShiftMask, vxCtrlMask, vxCtrlMask | vxShiftMask};
-        return Shifts[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(Shifts.size()) - 1))];
+        return OneOf<std::int16_t>({0, 0, 0, vxShiftMask, vxCtrlMask, vxCtrlMask | vxShiftMask});
     }
     std::int16_t AnyButton() { return OneIn(4) ? vxButtonRight : vxButtonLeft; }
     /// Mostly in a place or gap of a rack.
@@ -282,15 +244,9 @@ private:
         return moEditor.station->PlaceAt({lRack, Any(1, places)});
     }
 
-    std::string AnyOrderNumber()
-    {
-        const auto& types = reference::ShippedCatalogue().Types();
-        return types[static_cast<std::size_t>(Any(0, static_cast<std::int32_t>(types.size()) - 1))].orderNumber;
-    }
-
     Editor& moEditor;
     std::mt19937& mRandom;
-    std::int64_t mlEvents = 0;
+    std::int64_t mlEvents = 0;                  ///< of mouse, keys and commands
     std::shared_ptr<FakeDataObject> moLastDrag; ///< what an earlier drag carried
 };
 

@@ -76,15 +76,15 @@ class Display:
     def move(self, x, y):
         self.xdotool("mousemove", "--sync", x, y)
 
-    def press(self, button=1):
-        self.xdotool("mousedown", button)
+    def press(self):
+        self.xdotool("mousedown", 1)
 
-    def release(self, button=1):
-        self.xdotool("mouseup", button)
+    def release(self):
+        self.xdotool("mouseup", 1)
 
-    def click(self, x, y, button=1, count=1):
+    def click(self, x, y):
         self.move(x, y)
-        self.xdotool("click", "--repeat", count, "--delay", 60, button)
+        self.xdotool("click", 1)
 
     def keys(self, *names):
         self.xdotool("key", "--delay", 25, *names)
@@ -100,12 +100,9 @@ class Display:
 
     # Clipboard
 
-    def clipboard_formats(self):
-        return self._run("xclip", "-selection", "clipboard", "-out", "-target", "TARGETS").split()
-
     def clipboard(self, mime_type):
         """The bytes that the clipboard holds under the type; none when it holds none."""
-        if mime_type not in self.clipboard_formats():
+        if mime_type not in self._run("xclip", "-selection", "clipboard", "-out", "-target", "TARGETS").split():
             return b""
         return subprocess.run(["xclip", "-selection", "clipboard", "-out", "-target", mime_type],
                               env=self.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, timeout=30,

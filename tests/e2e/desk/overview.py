@@ -39,8 +39,8 @@ class Overview:
         x = place_left(place) + (18 if len(at) > 2 else 9)
         return self.origin[0] + x, self.origin[1] + band_top(rack) + 55
 
-    def click(self, at, button=1, count=1):
-        self.display.click(*self.point(at), button=button, count=count)
+    def click(self, at):
+        self.display.click(*self.point(at))
 
     def place_picture(self, at):
         """The upper part of a place, above its number, as the screen shows it."""

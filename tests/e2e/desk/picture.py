@@ -28,28 +28,15 @@ class Picture:
                 counts[colour] = counts.get(colour, 0) + 1
         return counts
 
-    def differing(self, other, tolerance=0):
-        """The number of pixels that differ by more than the tolerance in some channel."""
+    def differing(self, other):
+        """The number of pixels that differ."""
         assert (self.width, self.height) == (other.width, other.height), "pictures of different sizes"
         count = 0
         for mine, theirs in zip(self.rows, other.rows):
             if mine == theirs:
                 continue
-            for x in range(0, len(mine), 3):
-                count += any(abs(mine[x + c] - theirs[x + c]) > tolerance for c in range(3))
+            count += sum(mine[x:x + 3] != theirs[x:x + 3] for x in range(0, len(mine), 3))
         return count
-
-    def changed_box(self, other):
-        """The smallest (x, y, width, height) that holds every differing pixel; None when there is none."""
-        rows = [y for y in range(self.height) if self.rows[y] != other.rows[y]]
-        if not rows:
-            return None
-        columns = set()
-        for y in rows:
-            mine, theirs = self.rows[y], other.rows[y]
-            columns.update(x // 3 for x in range(0, len(mine), 3) if mine[x:x + 3] != theirs[x:x + 3])
-        left, top = min(columns), rows[0]
-        return left, top, max(columns) - left + 1, rows[-1] - top + 1
 
     def find(self, part):
         """Every (x, y) where the part lies in this picture."""

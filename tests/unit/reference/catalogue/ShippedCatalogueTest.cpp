@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <map>
 #include <set>
 
 namespace zqbchwcx::reference {
@@ -20,22 +21,6 @@ void CollectOrderNumbers(const std::vector<CatalogueGroup>& groups, std::multise
     }
 }
 
-TEST(ShippedCatalogue, HoldsEveryKindOfModule)
-{
-    std::set<ModuleFamily> families;
-    std::set<std::int32_t> spans;
-    int withSubModules = 0;
-    for (const ModuleType& type : ShippedCatalogue().Types()) {
-        families.insert(type.family);
-        spans.insert(type.placeCount);
-        withSubModules += type.subModules.empty() ? 0 : 1;
-    }
-    EXPECT_EQ(families.size(), 8U);
-    EXPECT_THAT(spans, ElementsAre(1, 2, 3));
-    EXPECT_GE(withSubModules, 3);
-    EXPECT_GE(ShippedCatalogue().Types().size(), 40U);
-}
-
 TEST(ShippedCatalogue, ShowsEachTypeOnceInItsTree)
 {
     std::multiset<std::string> shown;
@@ -47,58 +32,39 @@ TEST(ShippedCatalogue, ShowsEachTypeOnceInItsTree)
 /// Built-in pictures are drawn from the list of the kind of station; a key of another kind would draw nothing.
 TEST(ShippedCatalogue, NamesPicturesOfItsKindOfStation)
 {
-    const std::set<std::string> central = {"IDB_CRX_MODULE_PS",          "IDB_CRX_MODULE_CPU",
-                                           "IDB_CRX_MODULE_CPUC",        "IDB_CRX_MODULE_CPUM",
-                                           "IDB_CRX_MODULE_IM",          "IDB_CRX_MODULE_IO_ANALOG",
-                                           "IDB_CRX_MODULE_IO_DIGITAL",  "IDB_CRX_MODULE_DEFAULT",
-                                           "IDB_CRX_MODULE_DUMMY",       "IDB_CRX_MODULE_MERID_CPU",
-                                           "IDB_CRX_MODULE_MERID_IM",    "IDB_CRX_MODULE_MERID_IO_ANALOG",
-                                           "IDB_CRX_MODULE_MERID_DUMMY", "IDB_CRX_MODULE_MERID_IO_DIGITAL"};
-    const std::set<std::string> terrace = {"IDB_RIOA_MODULE_IMCPU", "IDB_RIOA_MODULE_SMTYPE1",
-                                           "IDB_RIOA_MODULE_SMTYPE2", "IDB_RIOA_MODULE_SMTYPE3"};
-    const std::set<std::string> atoll = {"IDB_RIOB_MODULE_ALPHA", "IDB_RIOB_MODULE_BETA",    "IDB_RIOB_MODULE_GAMMA",
-                                         "IDB_RIOB_MODULE_DELTA", "IDB_RIOB_MODULE_EPSILON", "IDB_RIOB_MODULE_ZETA",
-                                         "IDB_RIOB_MODULE_ETA"};
-    std::set<std::string> used;
     for (const ModuleType& type : ShippedCatalogue().Types()) {
         if (type.isSubModule || !type.picture.starts_with("IDB_")) continue;
-        used.insert(type.picture);
-        EXPECT_EQ(type.FitsStation(0), central.contains(type.picture)) << type.orderNumber;
-        EXPECT_EQ(type.FitsStation(1), terrace.contains(type.picture)) << type.orderNumber;
-        EXPECT_EQ(type.FitsStation(2), atoll.contains(type.picture)) << type.orderNumber;
+        EXPECT_EQ(type.FitsStation(0), type.picture.starts_with("IDB_CRX_MODULE_")) << type.orderNumber;
+        EXPECT_EQ(type.FitsStation(1), type.picture.starts_with("IDB_RIOA_MODULE_")) << type.orderNumber;
+        EXPECT_EQ(type.FitsStation(2), type.picture.starts_with("IDB_RIOB_MODULE_")) << type.orderNumber;
+        if (!type.FitsStation(0)) continue; // the others have no view yet, and no pictures
+        const std::string file = zqbchwcx::testing::SourceFile("assets/pictures/" + type.picture + ".svg");
+        EXPECT_TRUE(std::filesystem::exists(file)) << file;
     }
-    EXPECT_EQ(used.size(), central.size() + terrace.size() + atoll.size()) << "a picture is not used";
 }
 
 TEST(ShippedCatalogue, MakesModulesThatObeyTheirOwnTypes)
 {
+    std::set<ModuleFamily> families;
     for (const ModuleType& type : ShippedCatalogue().Types()) {
+        families.insert(type.family);
         const ModuleData module = NewModule(type, ShippedCatalogue());
         EXPECT_THAT(AgainstModule(module, ShippedCatalogue(), {0, 4}), IsEmpty()) << type.orderNumber;
         EXPECT_THAT(module.subModules, SizeIs(type.subModules.size())) << type.orderNumber;
     }
+    EXPECT_THAT(families, SizeIs(8)) << "the catalogue shows every family";
 }
 
-TEST(Examples, ObeyTheRulesUnlessTheyTeachThem)
+TEST(Examples, BreakOnlyTheRulesThatTheyTeach)
 {
-    std::set<std::int32_t> kinds;
-    for (const std::string& file : ExampleFiles()) {
-        if (file.find("mistakes") != std::string::npos) continue;
-        const StationData station = LoadStation(file, ShippedCatalogue()).data;
-        kinds.insert(station.kind);
-        for (const Refusal& refusal : CheckStation(station, ShippedCatalogue()))
-            ADD_FAILURE() << file << ": " << PlaceText(refusal.place).en << ": " << refusal.text.en;
-    }
-    EXPECT_THAT(kinds, ElementsAre(0, 1, 2));
-}
-
-TEST(Examples, BreakTheRulesThatTheyTeach)
-{
-    std::set<std::string_view> rules;
-    for (const Refusal& refusal : CheckStation(ExampleStation("training-mistakes"), ShippedCatalogue()))
-        rules.insert(RuleId(refusal.rule));
-    EXPECT_THAT(rules, ElementsAre("address-overlap", "leader-missing", "place-occupied", "station-kind",
-                                   "unknown-type", "value-not-allowed", "wrong-place"));
+    std::map<std::string, std::set<std::string_view>> rules;
+    for (const std::string& file : ExampleFiles())
+        for (const Refusal& refusal : CheckStation(LoadStation(file, ShippedCatalogue()).data, ShippedCatalogue()))
+            rules[FileNameOf(file)].insert(RuleId(refusal.rule));
+    EXPECT_THAT(rules,
+                ElementsAre(Pair("training-mistakes.station.json",
+                                 ElementsAre("address-overlap", "leader-missing", "place-occupied", "station-kind",
+                                             "unknown-type", "value-not-allowed", "wrong-place"))));
 }
 
 } // namespace

@@ -14,7 +14,7 @@ FileError ParseError(const std::string& text)
 ordered_json ValidStation()
 {
     return ordered_json::parse(R"({
-        "format": "quillon-station", "version": 1, "name": "Plant", "kind": "central",
+        "$schema": "s", "format": "quillon-station", "version": 1, "name": "Plant", "kind": "central",
         "displayMode": 0, "readOnly": false,
         "racks": [{"present": true, "placeCount": 11, "places": [
             {"place": 4, "module": {"orderNumber": "Q3-CG04-A", "parameters": {"protocol": "rtu"},
@@ -42,16 +42,14 @@ TEST(StationReader, RefusesWhatIsNotExactlyAStation)
         {"/racks/0", "null", "/racks/0", "must be an object"},
         {"/racks/0/placeCount", "0", "/racks/0/placeCount", "from 1 to 499"},
         {"/racks/0/placeCount", "500", "/racks/0/placeCount", "from 1 to 499"},
+        {"/racks/0/places/1/colour", "1", "/racks/0/places/1/colour", "unknown"},
         {"/racks/0/places/2/place", "12", "/racks/0/places/2/place", "from 1 to 11"},
         {"/racks/0/places/2/place", "18446744073709551615", "/racks/0/places/2/place", "from 1 to 11"},
         {"/racks/0/places/1/place", "4", "/racks/0/places/1/place", "stands twice"},
         {"/racks/0/places/1/place", "2", "/racks/0/places/1/place", "rising order"},
         {"/racks/0/places/1/usability", R"("off")", "/racks/0/places/1/usability", "\"inactive\""},
-        {"/racks/0/places/2/module/orderNumber", "", "/racks/0/places/2/module", "\"orderNumber\" is missing"},
         {"/racks/0/places/2/module/orderNumber", R"("")", "/racks/0/places/2/module/orderNumber", "must not be empty"},
         {"/racks/0/places/2/module/inputAddress", "-1", "/racks/0/places/2/module/inputAddress", "from 0 to"},
-        {"/racks/0/places/2/module/inputAddress", R"("8")", "/racks/0/places/2/module/inputAddress",
-         "must be an integer"},
         {"/racks/0/places/0/module/parameters/protocol", "[]", "/racks/0/places/0/module/parameters/protocol",
          "must be true, false, a number or a string"},
         {"/racks/0/places/0/module/subModules/0/subModules", "[]", "/racks/0/places/0/module/subModules/0/subModules",
@@ -71,23 +69,17 @@ TEST(StationReader, RefusesDamagedAndHostileJson)
     EXPECT_THAT(ParseError("").reason, HasSubstr("line 1"));
     EXPECT_EQ(ParseError("{\n \"a\": }").Message(Language::German),
               "plant.json: ist kein gültiges JSON: Zeile 2, Spalte 7");
-    EXPECT_THAT(ParseError(valid + "x").reason, HasSubstr("syntax error"));
     EXPECT_THAT(ParseError("{\"format\": \"\xff\"}").reason, HasSubstr("UTF-8"));
     EXPECT_THAT(ParseError(R"({"name": 1e999})").reason, HasSubstr("overflow"));
 
     const FileError repeated = ParseError(R"({"racks": [{"places": [], "places": []}]})");
     EXPECT_EQ(repeated.pointer, "/racks/0/places");
     EXPECT_THAT(repeated.reason, HasSubstr("stands twice"));
-    EXPECT_NE(repeated.Reason(Language::German), repeated.reason);
 
     EXPECT_THAT(ParseError(std::string(5'000'000, '[')).reason, HasSubstr("nested deeper"));
     ordered_json manyRacks = ValidStation();
     for (int i = 0; i < MaxRacks; ++i) manyRacks["racks"].push_back(manyRacks["racks"][0]);
     EXPECT_EQ(ParseError(manyRacks.dump()).pointer, "/racks");
-    ordered_json longText = ValidStation();
-    longText["name"] = std::string(MaxTextBytes + 1, 'x');
-    EXPECT_EQ(ParseError(longText.dump()).pointer, "/name");
-
     ordered_json secondBroken = ValidStation();
     secondBroken["racks"].push_back({{"placeCount", 4}, {"places", "none"}});
     EXPECT_EQ(ParseError(secondBroken.dump()).pointer, "/racks/1/places");
@@ -101,21 +93,15 @@ TEST(StationReader, RefusesDamagedAndHostileJson)
 TEST(StationReader, ReadsStationsThatBreakRules)
 {
     ordered_json station = ValidStation();
-    station["racks"][0]["places"][2]["module"]["orderNumber"] = "Unknown-1";
+    station["racks"][0]["places"][0]["module"]["orderNumber"] = "Unknown-1";
     station["racks"][0]["places"][0]["module"]["parameters"]["noSuch"] = 5;
-    const StationData data = ParseStation(station.dump(), "plant.json", ShippedCatalogue());
-    EXPECT_EQ(data.racks[0]->places[6].module->orderNumber, "Unknown-1");
-    EXPECT_EQ(data.racks[0]->places[3].module->parameters.at("noSuch"), ParameterValue(std::int64_t{5}));
-    EXPECT_EQ(data.racks[0]->places[5].usability, 0);
-    EXPECT_EQ(data.racks[0]->places[10].usability, 1);
-}
-
-TEST(StationReader, TakesWholeNumbersForRealParameters)
-{
-    ordered_json station = ValidStation();
     station["racks"][0]["places"][2]["module"]["parameters"] = {{"highLimit", 12}};
     const StationData data = ParseStation(station.dump(), "plant.json", ShippedCatalogue());
-    EXPECT_EQ(data.racks[0]->places[6].module->parameters.at("highLimit"), ParameterValue(12.0));
+    EXPECT_EQ(data.racks[0]->places[3].module->orderNumber, "Unknown-1");
+    EXPECT_EQ(data.racks[0]->places[3].module->parameters.at("noSuch"), ParameterValue(std::int64_t{5}));
+    EXPECT_EQ(data.racks[0]->places[6].module->parameters.at("highLimit"), ParameterValue(12.0)) << "real by its type";
+    EXPECT_EQ(data.racks[0]->places[5].usability, 0);
+    EXPECT_EQ(data.racks[0]->places[10].usability, 1);
 }
 
 TEST(StationReader, TellsWhyAFileCannotBeRead)

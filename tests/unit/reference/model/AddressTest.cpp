@@ -54,7 +54,7 @@ TEST(AddressMap, AreaGrowsWithTheStation)
 TEST(Addresses, CopiesGetNewOnesAndCutModulesGetTheirOwnBack)
 {
     PlainStation station(EmptyStation(0, 1));
-    station.Place(G_PlacePosition(0, 4), Block({"DI", "DI", "CNT3"}));
+    station.Place(G_PlacePosition(0, 4), Block("DI DI CNT3 + +"));
     EXPECT_EQ(station.At({0, 4}).inputAddress, 0);
     EXPECT_EQ(station.At({0, 5}).inputAddress, 2);
     EXPECT_EQ(station.At({0, 6}).subModules.at(0).inputAddress, 4);

@@ -13,19 +13,15 @@ constexpr std::optional<Rule> Done = std::nullopt;
 PlainStation SampleStation()
 {
     PlainStation station(EmptyStation(0, 1));
-    station.Place(G_PlacePosition(0, 4), Block({"DI", "DI", "DO", "AI2", "CNT3"}));
+    station.Place(G_PlacePosition(0, 4), Block("DI DI DO AI2 + CNT3 + +"));
     return station;
 }
 
 TEST(SetAttribute, ChecksAddresses)
 {
     PlainStation station = SampleStation();
-    const struct {
-        std::int32_t place;
-        std::string name, value;
-        std::optional<Rule> result;
-    } cases[] = {
-        {4, "I-ADDRESS", "100", Done},
+    const std::tuple<std::int32_t, std::string, std::string, std::optional<Rule>> cases[] = {
+        {4, "I-ADDRESS", "1022", Done},
         {4, "I-Address", " 102 .. 103 ", Done},
         {8, "I-ADDRESS", "104..111", Done},
         {4, "I-ADDRESS", "103", Rule::AddressOverlap},
@@ -48,10 +44,10 @@ TEST(SetAttribute, ChecksAddresses)
         {4, "COMMENT", std::string("a\0b", 3), Rule::DamagedText},
         {4, "NAME", "Pump 1", Done},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(station.Set({0, c.place}, c.name, c.value), c.result) << c.name << " " << c.value;
+    for (const auto& [place, name, value, result] : cases) {
+        EXPECT_EQ(station.Set({0, place}, name, value), result) << name << " " << value;
         for (const Refusal& broken : CheckStation(station.Data(), *SampleCatalogue()))
-            ADD_FAILURE() << "after " << c.value << ": " << broken.text.en;
+            ADD_FAILURE() << "after " << value << ": " << broken.text.en;
     }
     EXPECT_EQ(station.At({0, 4}).inputAddress, 102) << "103 overlapped the analog module";
     EXPECT_EQ(station.At({0, 4}).name, "Pump 1");
@@ -60,10 +56,7 @@ TEST(SetAttribute, ChecksAddresses)
 TEST(SetAttribute, ReadsParametersByTheirKindAndDropsDefaults)
 {
     PlainStation station = SampleStation();
-    const struct {
-        std::string key, value;
-        std::optional<Rule> result;
-    } cases[] = {
+    const std::tuple<std::string, std::string, std::optional<Rule>> cases[] = {
         {"alarm", "1", Done},
         {"alarm", "maybe", Rule::ValueNotAllowed},
         {"DELAY", "20", Done},
@@ -78,8 +71,8 @@ TEST(SetAttribute, ReadsParametersByTheirKindAndDropsDefaults)
         {"label", "123456789", Rule::ValueNotAllowed},
         {"missing", "1", Rule::NoSuchAttribute},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(station.Set({0, 4}, "PARAMETER " + c.key, c.value), c.result) << c.key << " " << c.value;
+    for (const auto& [key, value, result] : cases)
+        EXPECT_EQ(station.Set({0, 4}, "PARAMETER " + key, value), result) << key << " " << value;
     const std::map<std::string, ParameterValue> expected = {{"alarm", true},
                                                             {"delay", std::int64_t{20}},
                                                             {"scale", -9.25},
@@ -105,31 +98,26 @@ TEST(SetAttribute, LetsABrokenModuleBeMendedStepByStep)
 TEST(CheckStation, FindsEveryBrokenRuleWithItsPlace)
 {
     PlainStation station(EmptyStation(0, 2));
-    const auto put = [&](std::int32_t rack, std::int32_t place, const std::string& orderNumber,
-                         std::optional<std::int32_t> inputs) {
+    const std::tuple<PlaceRef, const char*, std::optional<std::int32_t>> modules[] = {
+        {{0, 1}, "CPU", {}},     {{0, 4}, "AI2", 0}, {{0, 5}, "DI", 6},     {{0, 6}, "DI", {}}, {{0, 7}, "DI", 5000},
+        {{0, 8}, "GHOST", 5000}, {{0, 9}, "DM", 1},  {{0, 10}, "CNT3", {}}, {{1, 4}, "CP", {}},
+    };
+    for (const auto& [place, orderNumber, inputs] : modules) {
         ModuleData module = *NewModuleData(orderNumber);
         module.inputAddress = inputs;
-        station.PutUnchecked({rack, place}, module);
-    };
-    put(0, 1, "CPU", {});
-    put(0, 4, "AI2", 0);
-    put(0, 5, "DI", 6);
-    put(0, 6, "DI", {});
-    put(0, 7, "DI", 5000);
-    put(0, 8, "GHOST", 5000);
-    put(0, 9, "DM", 1);
-    put(0, 10, "CNT3", {});
-    put(1, 4, "CP", {});
+        station.PutUnchecked(place, module);
+    }
+    station.Usability({0, 7}, -1);
     station.Usability({1, 4}, 0);
 
     std::vector<std::pair<PlaceRef, Rule>> found;
     for (const Refusal& broken : CheckStation(station.Data(), *SampleCatalogue()))
         found.emplace_back(broken.place, broken.rule);
     const std::vector<std::pair<PlaceRef, Rule>> expected = {
-        {{0, 1}, Rule::WrongPlace},        {{0, 5}, Rule::PlaceOccupied}, {{0, 5}, Rule::AddressOverlap},
-        {{0, 6}, Rule::AddressMissing},    {{0, 7}, Rule::AddressRange},  {{0, 8}, Rule::UnknownType},
-        {{0, 9}, Rule::AddressUnexpected}, {{0, 10}, Rule::SpanTooLong},  {{0, 10}, Rule::SubModules},
-        {{1, 4}, Rule::PlaceInactive},     {{1, 4}, Rule::LeaderMissing},
+        {{0, 1}, Rule::WrongPlace},     {{0, 5}, Rule::PlaceOccupied},     {{0, 5}, Rule::AddressOverlap},
+        {{0, 6}, Rule::AddressMissing}, {{0, 7}, Rule::PlaceNotUsable},    {{0, 7}, Rule::AddressRange},
+        {{0, 8}, Rule::UnknownType},    {{0, 9}, Rule::AddressUnexpected}, {{0, 10}, Rule::SpanTooLong},
+        {{0, 10}, Rule::SubModules},    {{1, 4}, Rule::PlaceInactive},     {{1, 4}, Rule::LeaderMissing},
     };
     EXPECT_EQ(found, expected);
 }

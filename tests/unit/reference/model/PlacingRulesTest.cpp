@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace zqbchwcx::testing {
 namespace {
 
@@ -26,42 +28,23 @@ TEST(PlacingRules, EachFamilyFitsItsPlacesOnly)
     const std::string none;
     const std::string io = "4 5 6 7 8 9 10 11 ";
     const std::string behindHead = "2 3 4 5 6 7 8 9 10 11 ";
-    const struct {
-        std::string type;
-        std::string rack0, rack1, distributed;
-    } cases[] = {
+    const std::array<std::string, 4> cases[] = {
         {"PS", "1 ", "1 ", behindHead},
         {"CPU", "2 ", none, none},
         {"IM", "3 ", "3 ", "1 "},
         {"DI", io, io, behindHead},
-        {"AI2", "4 5 6 7 8 9 10 ", "4 5 6 7 8 9 10 ", behindHead},
         {"CNT3", "4 5 6 7 8 9 ", "4 5 6 7 8 9 ", behindHead},
-        {"CP", io, io, behindHead},
         {"DM", io, io, behindHead},
         {"HEAD2", none, none, "1 "},
         {"CENTRAL", io, io, none},
         {"SUB", none, none, none},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Takers(0, 0, c.type), c.rack0) << c.type;
-        EXPECT_EQ(Takers(0, 1, c.type), c.rack1) << c.type;
-        EXPECT_EQ(Takers(1, 0, c.type), c.distributed) << c.type;
-        EXPECT_EQ(Takers(2, 0, c.type), c.distributed) << c.type;
+    for (const auto& [type, rack0, rack1, distributed] : cases) {
+        EXPECT_EQ(Takers(0, 0, type), rack0) << type;
+        EXPECT_EQ(Takers(0, 1, type), rack1) << type;
+        EXPECT_EQ(Takers(1, 0, type), distributed) << type;
+        EXPECT_EQ(Takers(2, 0, type), distributed) << type;
     }
-}
-
-TEST(PlacingRules, PlacesMustBeThereAndActive)
-{
-    PlainStation station(EmptyStation(0, 2));
-    station.Usability({0, 6}, 0);
-    station.Usability({0, 8}, -1);
-    EXPECT_EQ(AgainstPlaces(station.Data(), {0, 6}, 1)->rule, Rule::PlaceInactive);
-    EXPECT_EQ(AgainstPlaces(station.Data(), {0, 7}, 2)->rule, Rule::PlaceNotUsable);
-    EXPECT_EQ(AgainstPlaces(station.Data(), {0, 12}, 1)->rule, Rule::NoSuchPlace);
-    EXPECT_EQ(AgainstPlaces(station.Data(), {0, 11}, 2)->rule, Rule::SpanTooLong);
-    EXPECT_FALSE(AgainstPlaces(station.Data(), {0, 9}, 3));
-    EXPECT_EQ(AgainstRack(station.Data(), 2)->rule, Rule::NoSuchPlace);
-    EXPECT_EQ(AgainstRack(station.Data(), -1)->rule, Rule::NoSuchPlace);
 }
 
 TEST(PlacingRules, ReasonsNamePlaceAndCauseInBothLanguages)

@@ -1,10 +1,9 @@
 #include "tests/unit/reference/model/SampleModel.h"
 
-#include "reference/model/editing/EditModule.h"
-#include "reference/model/editing/PlaceModules.h"
 #include "reference/model/rules/CheckStation.h"
 #include "reference/model/rules/Occupancy.h"
 
+#include <sstream>
 #include <utility>
 
 namespace zqbchwcx::testing {
@@ -13,67 +12,47 @@ using namespace reference;
 
 namespace {
 
-ModuleType Type(std::string orderNumber, ModuleFamily family, std::int32_t places = 1, std::int32_t inputs = 0,
+ModuleType Type(const std::string& orderNumber, ModuleFamily family, std::int32_t places = 1, std::int32_t inputs = 0,
                 std::int32_t outputs = 0)
 {
     ModuleType type;
+    type.orderNumber = type.picture = orderNumber;
+    type.family = family;
     type.name = {orderNumber + " module", orderNumber + "-Baugruppe"};
     type.description = {"A " + orderNumber, "Ein " + orderNumber};
-    type.orderNumber = std::move(orderNumber);
-    type.family = family;
-    type.picture = "IDB_CRX_MODULE_IO_DIGITAL";
     type.placeCount = places;
     type.inputBytes = inputs;
     type.outputBytes = outputs;
     return type;
 }
 
-ParameterDefinition Parameter(std::string key, ParameterKind kind, ParameterValue defaultValue, double minimum = 0,
-                              double maximum = 0)
-{
-    ParameterDefinition definition;
-    definition.label = {key, key};
-    definition.key = std::move(key);
-    definition.kind = kind;
-    definition.defaultValue = std::move(defaultValue);
-    definition.minimum = minimum;
-    definition.maximum = maximum;
-    return definition;
-}
-
 std::vector<ModuleType> SampleTypes()
 {
-    ModuleType di = Type("DI", ModuleFamily::Digital, 1, 2, 0);
-    di.parameters = {Parameter("alarm", ParameterKind::Boolean, false),
-                     Parameter("delay", ParameterKind::Integer, std::int64_t{3}, 0, 20),
-                     Parameter("scale", ParameterKind::Real, 1.5, -10, 10),
-                     Parameter("edge", ParameterKind::Choice, std::string("rising")),
-                     Parameter("label", ParameterKind::Text, std::string(), 0, 8)};
-    di.parameters[3].choices = {{"rising", {"Rising", "Steigend"}}, {"falling", {"Falling", "Fallend"}}};
+    ModuleType di = Type("DI", ModuleFamily::Digital, 1, 2);
+    di.parameters = {
+        {"alarm", {}, {}, ParameterKind::Boolean, "", 0, 0, false, {}},
+        {"delay", {}, {}, ParameterKind::Integer, "ms", 0, 20, std::int64_t{3}, {}},
+        {"scale", {}, {}, ParameterKind::Real, "", -10, 10, 1.5, {}},
+        {"edge", {}, {}, ParameterKind::Choice, "", 0, 0, "rising", {{"rising", {}}, {"falling", {}}}},
+        {"label", {}, {}, ParameterKind::Text, "", 0, 8, "", {}},
+    };
     ModuleType counter = Type("CNT3", ModuleFamily::Counter, 3);
     counter.subModules = {"SUB", "SUB"};
     ModuleType sub = Type("SUB", ModuleFamily::Counter, 1, 4, 4);
     sub.isSubModule = true;
     ModuleType central = Type("CENTRAL", ModuleFamily::Communication);
     central.fitsDistributed = false;
-    ModuleType head = Type("HEAD", ModuleFamily::Interface);
+    ModuleType head = Type("HEAD2", ModuleFamily::Interface, 2);
     head.fitsCentral = false;
-    head.picture = "HEAD";
-    ModuleType head2 = Type("HEAD2", ModuleFamily::Interface, 2);
-    head2.fitsCentral = false;
-    return {Type("PS", ModuleFamily::PowerSupply),
-            Type("CPU", ModuleFamily::Controller),
-            Type("IM", ModuleFamily::Interface),
-            di,
-            Type("DO", ModuleFamily::Digital, 1, 0, 2),
-            Type("AI2", ModuleFamily::Analog, 2, 8, 0),
-            counter,
-            sub,
-            Type("CP", ModuleFamily::Communication),
-            Type("DM", ModuleFamily::Dummy),
-            head,
-            head2,
-            central};
+    std::vector<ModuleType> types{di, counter, sub, head, central};
+    types.push_back(Type("PS", ModuleFamily::PowerSupply));
+    types.push_back(Type("CPU", ModuleFamily::Controller));
+    types.push_back(Type("IM", ModuleFamily::Interface));
+    types.push_back(Type("DO", ModuleFamily::Digital, 1, 0, 2));
+    types.push_back(Type("AI2", ModuleFamily::Analog, 2, 8));
+    types.push_back(Type("CP", ModuleFamily::Communication));
+    types.push_back(Type("DM", ModuleFamily::Dummy));
+    return types;
 }
 
 } // namespace
@@ -109,41 +88,19 @@ ModuleDataPtr NewModuleData(const std::string& orderNumber)
     return module;
 }
 
-ModuleBlock Block(std::initializer_list<std::string> orderNumbers)
+ModuleBlock Block(const std::string& orderNumbers)
 {
     ModuleBlock block;
-    for (const std::string& orderNumber : orderNumbers)
-        block.push_back(orderNumber.empty() ? nullptr : NewModuleData(orderNumber));
+    std::istringstream words(orderNumbers);
+    for (std::string word; words >> word;)
+        if (word != "+") block.push_back(word == "-" ? nullptr : NewModuleData(word));
     return block;
 }
-
-PlainStation::PlainStation(StationData data) : moData(std::move(data)) {}
 
 EditContext PlainStation::Context()
 {
     moAddresses = AddressesOf(moData, *SampleCatalogue());
     return {moData, *SampleCatalogue(), *moAddresses};
-}
-
-std::optional<Rule> PlainStation::Place(std::int32_t lPosition, const ModuleBlock& block)
-{
-    return Keep(PlaceBlock(Context(), lPosition, block));
-}
-
-std::optional<Rule> PlainStation::Move(std::int32_t lPosition, const ModuleBlock& block,
-                                       const std::vector<PlaceRef>& sources)
-{
-    return Keep(MoveBlock(Context(), lPosition, block, sources));
-}
-
-std::optional<Rule> PlainStation::Delete(const std::vector<PlaceRef>& places)
-{
-    return Keep(DeleteAt(Context(), places));
-}
-
-std::optional<Rule> PlainStation::Set(PlaceRef place, const std::string& name, const std::string& value)
-{
-    return Keep(SetAttribute(Context(), place, name, value));
 }
 
 std::optional<Rule> PlainStation::Keep(const Outcome<Edit>& edit)
@@ -181,13 +138,6 @@ std::string PlainStation::Row(std::int32_t rack) const
         else row += data.places[static_cast<std::size_t>(place - 1)].module->orderNumber;
     }
     return row;
-}
-
-const ModuleData& PlainStation::At(PlaceRef place) const
-{
-    return *moData.racks.at(static_cast<std::size_t>(place.rack))
-                ->places.at(static_cast<std::size_t>(place.place - 1))
-                .module;
 }
 
 } // namespace zqbchwcx::testing

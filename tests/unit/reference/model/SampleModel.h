@@ -5,11 +5,11 @@
 #include "reference/model/StationData.h"
 #include "reference/model/contract/Modules.h"
 #include "reference/model/contract/Station.h"
-#include "reference/model/editing/Edit.h"
+#include "reference/model/editing/EditModule.h"
+#include "reference/model/editing/PlaceModules.h"
 #include "reference/model/editing/StationDraft.h"
-#include "reference/model/rules/Refusal.h"
+#include "reference/model/rules/PlacingRules.h"
 
-#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <ostream>
@@ -34,39 +34,51 @@ namespace zqbchwcx::testing {
 
 /// A small catalogue with one type of every sort that the rules know. Order numbers are short: "PS", "CPU", "IM",
 /// "DI" (2 bytes in), "DO" (2 bytes out), "AI2" (2 places, 8 bytes in), "CNT3" (3 places, two sub-modules "SUB" of
-/// 4 bytes in and out), "CP", "DM" (dummy), "HEAD", "HEAD2" (2 places), "CENTRAL" (central stations only).
+/// 4 bytes in and out), "CP", "DM" (dummy), "HEAD2" (head, 2 places), "CENTRAL" (central stations only).
 std::shared_ptr<const reference::Catalogue> SampleCatalogue();
 
 /// A station with all places active and empty; kind 0 with 11 places per rack, else 24.
 reference::StationData EmptyStation(std::int32_t kind, std::size_t racks);
 
 reference::ModuleDataPtr NewModuleData(const std::string& orderNumber);
-/// A block of order numbers; "" is an empty place.
-reference::ModuleBlock Block(std::initializer_list<std::string> orderNumbers);
+/// A block of order numbers, "-" for an empty place, "+" where a module goes on: "DI - AI2 + DO".
+reference::ModuleBlock Block(const std::string& orderNumbers);
 
 /// A station's rules and edits over plain data, and what stands where as text.
 class PlainStation {
 public:
-    explicit PlainStation(reference::StationData data);
+    explicit PlainStation(reference::StationData data) : moData(std::move(data)) {}
 
     const reference::StationData& Data() const { return moData; }
-    /// Only for the statement that it is called in.
-    reference::EditContext Context();
 
     /// Places the block and keeps the result; the rule that stands against it otherwise.
-    std::optional<reference::Rule> Place(std::int32_t lPosition, const reference::ModuleBlock& block);
+    std::optional<reference::Rule> Place(std::int32_t lPosition, const reference::ModuleBlock& block)
+    {
+        return Keep(PlaceBlock(Context(), lPosition, block));
+    }
     std::optional<reference::Rule> Move(std::int32_t lPosition, const reference::ModuleBlock& block,
-                                        const std::vector<reference::PlaceRef>& sources);
-    std::optional<reference::Rule> Delete(const std::vector<reference::PlaceRef>& places);
-    std::optional<reference::Rule> Set(reference::PlaceRef place, const std::string& name, const std::string& value);
+                                        const std::vector<reference::PlaceRef>& sources)
+    {
+        return Keep(MoveBlock(Context(), lPosition, block, sources));
+    }
+    std::optional<reference::Rule> Delete(const std::vector<reference::PlaceRef>& places)
+    {
+        return Keep(DeleteAt(Context(), places));
+    }
+    std::optional<reference::Rule> Set(reference::PlaceRef place, const std::string& name, const std::string& value)
+    {
+        return Keep(SetAttribute(Context(), place, name, value));
+    }
     void Usability(reference::PlaceRef place, std::int32_t usability);
     void PutUnchecked(reference::PlaceRef place, reference::ModuleData module);
 
-    /// The order number for each place of the rack, "-" for a free one, "+" where a module goes on: "PS CPU - AI2 +".
+    /// What stands in the rack, as a block is written: "PS CPU - AI2 +".
     std::string Row(std::int32_t rack) const;
-    const reference::ModuleData& At(reference::PlaceRef place) const;
+    const reference::ModuleData& At(reference::PlaceRef place) const { return *FindPlace(moData, place)->module; }
 
 private:
+    /// Only for the statement that it is called in.
+    reference::EditContext Context();
     std::optional<reference::Rule> Keep(const reference::Outcome<reference::Edit>& edit);
 
     reference::StationData moData;

@@ -8,7 +8,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
-using ::testing::HasSubstr;
+using namespace ::testing;
 
 TextTable Shipped(const std::string& language)
 {
@@ -19,8 +19,8 @@ TEST(ShippedTexts, AreTheSameInBothLanguages)
 {
     const TextTable english = Shipped("en");
     const TextTable german = Shipped("de");
+    EXPECT_EQ(english.size(), german.size());
     for (const auto& [number, text] : english) EXPECT_TRUE(german.contains(number)) << number;
-    for (const auto& [number, text] : german) EXPECT_TRUE(english.contains(number)) << number;
     for (const std::int32_t number : {1000, 1001, 1007, 1016, 1017, 2006, 2017,  2018,  2019,  2020,  2021, 2026,
                                       2027, 2050, 2052, 3001, 3019, 3023, 4002,  4003,  4004,  4005,  4006, 6100,
                                       6101, 6106, 6107, 6112, 6117, 6119, 41001, 57632, 57634, 57635, 57637})
@@ -38,12 +38,8 @@ TEST(Texts, SpeakTheLanguageThatIsSet)
     texts.CurrentLanguage(Language::German);
     EXPECT_EQ(module->Text(4002), "Löschen");
     EXPECT_EQ(changes, 1);
-    try {
-        module->Text(4003);
-        ADD_FAILURE() << "a missing text must be an error";
-    } catch (const VxError& error) {
-        EXPECT_THAT(error.description, HasSubstr("German text 4003"));
-    }
+    EXPECT_THAT([&] { module->Text(4003); },
+                Throws<VxError>(Field(&VxError::description, HasSubstr("German text 4003"))));
     texts.Release("zqhwuim");
     EXPECT_EQ(module->Text(4002), "Löschen") << "a module that is kept goes on";
     EXPECT_THROW(texts.Release("zqhwuim"), VxError);
