@@ -57,7 +57,7 @@ protected:
     }
     FakeModulePtr Put(std::int32_t lRack, std::int32_t lPlace, const std::string& picture, std::int32_t lPlaceCount = 0)
     {
-        auto module = station->Put(lRack, lPlace, "HQ " + picture, lPlaceCount);
+        auto module = station->Put(lRack, lPlace, picture, lPlaceCount);
         for (std::int32_t i = 0; i < std::max(lPlaceCount, 1); ++i)
             station->Module(lRack, lPlace + i)->pictureName = picture;
         return module;

@@ -374,7 +374,7 @@ TEST_F(OverviewInputTest, ConfigurationTooltips)
     Put(0, 4, "IDB_CRX_MODULE_CPU");
     station->Place(0, 6)->usability = 0;
     const auto tooltip = toolkit->tooltips.Hover(Pic().hWnd(), CenterOf(8));
-    EXPECT_EQ(tooltip.text, "module HQ IDB_CRX_MODULE_CPU");
+    EXPECT_EQ(tooltip.text, "module IDB_CRX_MODULE_CPU");
     EXPECT_EQ(tooltip.area, MakeRect(79, 306, 18, 60));
     EXPECT_EQ(TooltipAt(10), "T6100");
     EXPECT_EQ(TooltipAt(12), "empty 0/6");
@@ -384,11 +384,11 @@ TEST_F(OverviewInputTest, ConfigurationTooltips)
     EXPECT_EQ(TooltipAt(8), "");
     controller->state = vxDragDropStateInactive;
     view->Locked(true);
-    EXPECT_EQ(TooltipAt(8), "module HQ IDB_CRX_MODULE_CPU");
+    EXPECT_EQ(TooltipAt(8), "module IDB_CRX_MODULE_CPU");
     EXPECT_EQ(TooltipAt(10), "");
     EXPECT_EQ(TooltipAt(12), "");
     view->VxHWStation(nullptr);
-    EXPECT_FALSE(toolkit->tooltips.IsConnected(Pic().hWnd()));
+    EXPECT_FALSE(toolkit->tooltips.IsConnected());
 }
 
 TEST_F(OverviewInputTest, DiagnosticsTooltips)

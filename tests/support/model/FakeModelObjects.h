@@ -9,7 +9,6 @@
 #include "tests/support/services/CallLog.h"
 
 #include <algorithm>
-#include <map>
 
 // The objects that a `FakeStation` is made of. A test sets and reads their fields; the library calls the rest, and
 // each of its calls is a fault point.
@@ -60,8 +59,6 @@ public:
 
     bool IsEmpty() const override { return Answer("VxHWModule.IsEmpty", orderNumber.empty()); }
     std::string OrderNumber() const override { return Answer("VxHWModule.OrderNumber", orderNumber); }
-    std::string DetailText() const override { return Answer("VxHWModule.DetailText", std::string()); }
-    std::string Name() const override { return Answer("VxHWModule.Name", name); }
     std::string PictureName() const override { return Answer("VxHWModule.PictureName", pictureName); }
     std::int32_t PlaceCount() const override { return Answer("VxHWModule.PlaceCount", placeCount); }
     std::int32_t SubModuleCount() const override { return Answer("VxHWModule.SubModuleCount", subModuleCount); }
@@ -69,21 +66,17 @@ public:
     VxHWModulePtr ParentModule() const override { return Answer("VxHWModule.ParentModule", parent); }
     VxHWModulesPtr SubModules() const override;
     bool HasParamDialog() const override { return Answer("VxHWModule.HasParamDialog", hasParamDialog); }
-    std::string InputAddressText() const override { return Answer("VxHWModule.InputAddressText", std::string()); }
-    std::string OutputAddressText() const override { return Answer("VxHWModule.OutputAddressText", std::string()); }
-    std::string BasicAddressText() const override { return Answer("VxHWModule.BasicAddressText", std::string()); }
-    std::string GetAttribute(std::string_view attribute) const override
-    {
-        const auto found = attributes.find(attribute);
-        return Answer("VxHWModule.GetAttribute", found == attributes.end() ? std::string() : found->second);
-    }
-    bool HasAttribute(std::string_view attribute) const override
-    {
-        return Answer("VxHWModule.HasAttribute", attributes.contains(attribute));
-    }
+
+    // The library leaves these to the host.
+    std::string DetailText() const override { return {}; }
+    std::string Name() const override { return {}; }
+    std::string InputAddressText() const override { return {}; }
+    std::string OutputAddressText() const override { return {}; }
+    std::string BasicAddressText() const override { return {}; }
+    std::string GetAttribute(std::string_view /*attribute*/) const override { return {}; }
+    bool HasAttribute(std::string_view /*attribute*/) const override { return false; }
 
     std::string orderNumber;
-    std::string name;
     std::string pictureName;
     std::int32_t placeCount = 0;
     std::int32_t subModuleCount = 0;
@@ -91,7 +84,6 @@ public:
     std::shared_ptr<FakeModule> parent;
     std::shared_ptr<FakeModules> subModules;
     bool hasParamDialog = false;
-    std::map<std::string, std::string, std::less<>> attributes;
 };
 using FakeModulePtr = std::shared_ptr<FakeModule>;
 

@@ -86,7 +86,7 @@ public:
     void DrawImage(const Image& image, Point at, DrawStyle style) override
     {
         const auto& fake = dynamic_cast<const FakeImage&>(image);
-        Line(Styled(fake.Key(), at, style));
+        Line(Styled(fake.key, at, style));
         raster.Draw(fake, at, style);
     }
     void DrawFocusRect(const Rect& rect) override

@@ -23,9 +23,9 @@ public:
         manager->Initialize(vxStationTypeCentral, overview, table, station);
         handler = manager->VxHWSelectionHandler();
     }
-    IVxHWMouseInputController& Mouse() const { return *overview->mouse; }
-    IVxHWKeyInputController& Key() const { return *overview->key; }
-    IVxHWDragDropController& DragDrop() const { return *overview->dragDrop; }
+    IVxHWMouseInputController& Mouse() const { return *overview->VxHWMouseInputController(); }
+    IVxHWKeyInputController& Key() const { return *overview->VxHWKeyInputController(); }
+    IVxHWDragDropController& DragDrop() const { return *overview->VxHWDragDropController(); }
 
     /// Selects place 2, which holds module A, and place 3, which holds B; the focus is on the first.
     void SelectTwoModules()
