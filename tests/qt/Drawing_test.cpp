@@ -1,9 +1,6 @@
 #include "adapters/qt/PersistentPicture.h"
 #include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/QtImageList.h"
 #include "adapters/qt/UiFont.h"
-#include "foundation/VxError.h"
-#include "tests/qt/Palettes.h"
 #include "tests/qt/ReferencePicture.h"
 
 #include <set>
@@ -91,21 +88,6 @@ TEST_P(DrawingAtRatio, anotherWeightOrColourOfATextLeavesNothingOfTheFirst)
     }
 }
 
-TEST_P(DrawingAtRatio, boldTextHasMoreInk)
-{
-    const auto inkOf = [&](FontWeight weight) {
-        PersistentPicture picture({90, 70}, GetParam());
-        picture.Font(qt::UiFont("Tahoma", 8.25));
-        picture.DrawCenteredText("0123456789", MakeRect(0, 0, 90, 13), weight, 0);
-        double ink = 0;
-        for (int y = 0; y < picture.Pixels().height(); ++y) {
-            for (int x = 0; x < picture.Pixels().width(); ++x) ink += 255 - qGray(picture.Pixels().pixel(x, y));
-        }
-        return ink;
-    };
-    EXPECT_GT(inkOf(FontWeight::Bold), 1.2 * inkOf(FontWeight::Regular));
-}
-
 TEST_P(DrawingAtRatio, linesIncludeBothEndsAndBoxesStayInside)
 {
     const qt::PixelGrid grid(GetParam());
@@ -133,40 +115,6 @@ TEST(Drawing, keepsWhatWasDrawnWhenThePictureGrowsAndErasesWithTheBackground)
     EXPECT_EQ(picture.Pixels().pixel(70, 5), qRgb(0, 0, 255));
     picture.BackColor(Blue);
     EXPECT_EQ(picture.Pixels().pixel(5, 5), qRgb(0, 0, 255));
-}
-
-TEST(Drawing, selectedImagesAreHalfHighlight)
-{
-    PersistentPicture picture({18, 60}, 1);
-    qt::PictureCatalog pictures;
-    const auto image = pictures.Picture("IDB_CRX_MODULE_PS");
-    picture.DrawImage(*image, {0, 0}, DrawStyle::Normal);
-    const QColor plain = picture.Pixels().pixelColor(9, 0);
-    picture.DrawImage(*image, {0, 0}, DrawStyle::Blended);
-    const QColor blended = picture.Pixels().pixelColor(9, 0);
-    const QColor highlight = QApplication::palette().color(QPalette::Highlight);
-    EXPECT_NEAR(blended.red(), (plain.red() + highlight.red()) / 2, 2);
-    EXPECT_NEAR(blended.green(), (plain.green() + highlight.green()) / 2, 2);
-    EXPECT_NEAR(blended.blue(), (plain.blue() + highlight.blue()) / 2, 2);
-}
-
-TEST(Drawing, textStaysReadableOnAFixedLightBackgroundOfADarkDesktop)
-{
-    const PaletteChange dark(DarkPalette());
-    PersistentPicture picture({30, 30}, 2);
-    picture.BackColor(G_Rgb(226, 237, 255));
-    picture.DrawCenteredText("8", MakeRect(5, 5, 13, 13), FontWeight::Bold, vxColorButtonText);
-    int darkest = 255;
-    for (const QRgb pixel : ColoursOf(picture.Pixels())) darkest = std::min(darkest, qGray(pixel));
-    EXPECT_LT(darkest, 90);
-}
-
-TEST(Drawing, refusesAnImageThatTheListLacks)
-{
-    PersistentPicture picture({30, 30}, 1);
-    qt::PictureCatalog pictures;
-    const auto list = pictures.Create(0, "IDB_CRX_ALL", 18, 0, vxColorCyan, 1);
-    EXPECT_THROW(picture.DrawListImage(*list, "IDB_NONE", {0, 0}, DrawStyle::Normal), VxError);
 }
 
 } // namespace

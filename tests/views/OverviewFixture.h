@@ -28,15 +28,19 @@ protected:
     std::shared_ptr<VxHWRackOverview> MakeView(RecordingControl& control) const
     {
         auto made = std::make_shared<VxHWRackOverview>(control);
-        made->Style(vxStyleHWConfig);
-        made->VxHWStation(station);
-        made->VxHWCompareService(compare);
-        made->VxHWDiagService(diag);
-        made->VxHWSelectionHandler(handler);
-        made->VxHWMouseInputController(controller);
-        made->VxHWKeyInputController(controller);
-        made->VxHWDragDropController(controller);
+        Connect(*made);
         return made;
+    }
+    void Connect(VxHWRackOverview& made) const
+    {
+        made.Style(vxStyleHWConfig);
+        made.VxHWStation(station);
+        made.VxHWCompareService(compare);
+        made.VxHWDiagService(diag);
+        made.VxHWSelectionHandler(handler);
+        made.VxHWMouseInputController(controller);
+        made.VxHWKeyInputController(controller);
+        made.VxHWDragDropController(controller);
     }
 
     RecordingPictureBox& Pic() const { return *toolkit->pictureBoxes.at("pic_Main"); }
