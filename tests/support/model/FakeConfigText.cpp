@@ -8,12 +8,12 @@ FakeModule::FakeModule(CallLogPtr log) : Logged(std::move(log)), subModules(std:
 
 VxHWModulesPtr FakeModule::SubModules() const
 {
-    return Answer("VxHWModule.SubModules", subModules);
+    return Answer("Module.SubModules", subModules);
 }
 
 std::string FakeModules::ConfigText() const
 {
-    return Answer("VxHWModules.ConfigText", WriteFakeConfigText(members));
+    return Answer("Modules.ConfigText", WriteFakeConfigText(members));
 }
 
 std::string WriteFakeConfigText(const FakeModuleList& modules)

@@ -25,14 +25,14 @@ class FakeCompareService : public VxHWCompareService, public Logged {
 public:
     using Logged::Logged;
 
-    std::int32_t CompareType() const override { return Answer("VxHWCompareService.CompareType", compareType); }
+    std::int32_t CompareType() const override { return Answer("Compare.CompareType", compareType); }
     std::int32_t PlaceResult(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWCompareService.PlaceResult", results.For(oPlace));
+        return Answer("Compare.PlaceResult", results.For(oPlace));
     }
     std::string PlaceText(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWCompareService.PlaceText", "place text " + KeyOfPlace(oPlace));
+        return Answer("Compare.PlaceText", "place text " + KeyOfPlace(oPlace));
     }
     void Compare() override {}
     ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& /*oPlace*/) const override { return {}; }
@@ -48,15 +48,15 @@ public:
 
     std::int32_t CpuState(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWDiagService.CpuState", cpuStates.For(oPlace));
+        return Answer("Diag.CpuState", cpuStates.For(oPlace));
     }
     std::int32_t HasFailure(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWDiagService.HasFailure", failures.For(oPlace));
+        return Answer("Diag.HasFailure", failures.For(oPlace));
     }
     bool HasDiagState(const VxHWRackPlacePtr& oPlace, std::int32_t lCategory) const override
     {
-        return Answer("VxHWDiagService.HasDiagState", diagStates.contains({KeyOfPlace(oPlace), lCategory}));
+        return Answer("Diag.HasDiagState", diagStates.contains({KeyOfPlace(oPlace), lCategory}));
     }
     void Station(const VxHWStationPtr& /*oStation*/) override {}
     bool HasDiagnosticInfo(const VxHWRackPlacePtr& /*oPlace*/, const VxHWModulePtr& /*oSubModule*/) const override

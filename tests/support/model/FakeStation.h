@@ -22,11 +22,11 @@ public:
         }
     }
 
-    std::int32_t DisplayMode() const override { return Answer("VxHWStation.DisplayMode", displayMode); }
-    std::int32_t StationKind() const override { return Answer("VxHWStation.StationKind", stationKind); }
-    bool IsReadOnly() const override { return Answer("VxHWStation.IsReadOnly", readOnly); }
-    VxHWRacksPtr Racks() const override { return Answer("VxHWStation.Racks", racks); }
-    bool IsDrawable() const override { return Answer("VxHWStation.IsDrawable", drawable); }
+    std::int32_t DisplayMode() const override { return Answer("Station.DisplayMode", displayMode); }
+    std::int32_t StationKind() const override { return Answer("Station.StationKind", stationKind); }
+    bool IsReadOnly() const override { return Answer("Station.IsReadOnly", readOnly); }
+    VxHWRacksPtr Racks() const override { return Answer("Station.Racks", racks); }
+    bool IsDrawable() const override { return Answer("Station.IsDrawable", drawable); }
     void IsDrawable(bool bDrawable) override
     {
         if (!bDrawable) Note("IsDrawable False");
@@ -70,7 +70,7 @@ public:
     }
     Array2D<std::int32_t> GetPossibleDropPlaces(const VxHWModulePtr& oModule) const override
     {
-        Call("VxHWStation.GetPossibleDropPlaces");
+        Call("Station.GetPossibleDropPlaces");
         const auto& parent = AsFake(oModule).parent;
         const auto span = static_cast<std::size_t>(parent ? parent->placeCount : 1);
         Array2D<std::int32_t> possible(0, static_cast<std::int32_t>(racks->members.size()) - 1, 1,
@@ -83,7 +83,7 @@ public:
     }
     VxHWModulesPtr ClipboardModules() const override
     {
-        Call("VxHWStation.ClipboardModules");
+        Call("Station.ClipboardModules");
         if (!clipboard) return MakeModules({});
         return MakeModules(
             ReadFakeConfigText({reinterpret_cast<const char*>(clipboard->data()), clipboard->size()}, moLog));
@@ -115,7 +115,7 @@ public:
     }
     VxHWRackPlacesPtr ParentModulePlaces(const VxHWModulePtr& oParentModule) const override
     {
-        Call("VxHWStation.ParentModulePlaces");
+        Call("Station.ParentModulePlaces");
         auto oPlaces = std::make_shared<FakeRackPlaces>(moLog);
         oPlaces->members = PlacesWith(oParentModule);
         return oPlaces;
@@ -123,15 +123,15 @@ public:
     bool HasGroupFrame(const VxHWRackPlacePtr& oPlace) const override
     {
         const auto& place = dynamic_cast<const FakeRackPlace&>(*oPlace);
-        return Answer("VxHWStation.HasGroupFrame", place.module->parent != nullptr);
+        return Answer("Station.HasGroupFrame", place.module->parent != nullptr);
     }
     std::string EmptyPlaceTooltip(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWStation.EmptyPlaceTooltip", "empty " + KeyOfPlace(oPlace));
+        return Answer("Station.EmptyPlaceTooltip", "empty " + KeyOfPlace(oPlace));
     }
     std::string ModuleTooltip(const VxHWModulePtr& oModule) const override
     {
-        return Answer("VxHWStation.ModuleTooltip", "module " + AsFake(oModule).orderNumber);
+        return Answer("Station.ModuleTooltip", "module " + AsFake(oModule).orderNumber);
     }
 
     // The library leaves these to the host.

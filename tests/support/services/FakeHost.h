@@ -108,16 +108,10 @@ public:
 
     VxHWRackPlacesPtr CreateRackPlaces() override
     {
-        return Answer("VxHWModelFactory.CreateRackPlaces", std::make_shared<FakeRackPlaces>(moLog));
+        return Answer("CreateRackPlaces", std::make_shared<FakeRackPlaces>(moLog));
     }
-    VxHWModulesPtr CreateModules() override
-    {
-        return Answer("VxHWModelFactory.CreateModules", std::make_shared<FakeModules>(moLog));
-    }
-    VxHWModulePtr CreateModule() override
-    {
-        return Answer("VxHWModelFactory.CreateModule", std::make_shared<FakeModule>(moLog));
-    }
+    VxHWModulesPtr CreateModules() override { return Answer("CreateModules", std::make_shared<FakeModules>(moLog)); }
+    VxHWModulePtr CreateModule() override { return Answer("CreateModule", std::make_shared<FakeModule>(moLog)); }
 
     /// The sources of the errors reported since it was last asked.
     std::vector<std::string> TakeReports()

@@ -71,9 +71,8 @@ TEST(StationPages, TextsThatAreTooWideGiveWayToTheOthers)
 {
     StationPages pages(Header(), PageSize);
     pages.AddTable(Table(3, QString(400, QLatin1Char('m'))));
-    const QString svg = SvgOf(pages, 0);
-    EXPECT_TRUE(svg.contains(QStringLiteral("row 2&gt;")));
-    EXPECT_TRUE(svg.contains(QChar(0x2026)));
+    EXPECT_TRUE(SvgOf(pages, 0).contains(QStringLiteral("row 2&gt;")));
+    EXPECT_TRUE(SvgOf(pages, 0).contains(QChar(0x2026)));
 }
 
 TEST(StationPages, ADrawingFillsThePageButIsNotBlownUp)
