@@ -28,22 +28,14 @@ public:
         if (ScaleSize() != raster.RasterSize()) raster.Resize(ScaleSize(), mBackColor);
     }
     bool Visible() const override { return mbVisible; }
-    void Visible(bool bVisible) override
-    {
-        Call("PictureBox.Visible");
-        mbVisible = bVisible;
-    }
+    void Visible(bool bVisible) override { Call("PictureBox.Visible"), mbVisible = bVisible; }
     void BackColor(OleColor color) override
     {
         Line("BackColor " + Named(color));
         mBackColor = color;
         raster.Fill(MakeRect(0, 0, mRect.width(), mRect.height()), color);
     }
-    void Refresh() override
-    {
-        Call("PictureBox.Refresh");
-        ++refreshCount;
-    }
+    void Refresh() override { Call("PictureBox.Refresh"); }
     bool HasFocus() const override { return mbFocus; }
     void SetFocus() override { Focus(true); }
     void OLEDrag() override
@@ -108,7 +100,6 @@ public:
 
     std::vector<std::string> lines;
     Raster raster;
-    std::int32_t refreshCount = 0;
     std::function<void()> onDrag; ///< what happens during `OLEDrag`
 
 private:

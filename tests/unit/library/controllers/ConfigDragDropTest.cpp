@@ -221,19 +221,6 @@ TEST_F(ConfigDragDrop, AMoveToElsewhereDeletesTheSource)
                                          "IsDrawable True"));
 }
 
-TEST_F(ConfigDragDrop, SubscribersAreToldAsOftenAsTheySubscribedUntilTheyEnd)
-{
-    dragDrop->AddSubscriber(table);
-    overview.reset();
-    StartDrag();
-    Over(8, vxDragEnter);
-    EXPECT_THAT(TakeLines(), ElementsAre("ModulesFromConfigText alone", "table.StateChange from 0",
-                                         "table.StateChange from 0", "CanBePlaced 8 [A] move from [0/2]"));
-    dragDrop->RemoveAllSubscribers();
-    Drop(8);
-    EXPECT_THAT(TakeLines(), ::testing::Not(Contains("table.StateChange from 1")));
-}
-
 TEST_F(ConfigDragDrop, HostileTextIsReportedAndRefused)
 {
     data = ForeignData("no configuration text\n");

@@ -77,13 +77,13 @@ TEST(ErrorReport, NamesLibraryModuleAndProcedureAndKeepsTheRest)
     EXPECT_FALSE(G_IgnoreErrors([] { throw std::bad_alloc(); }));
     const auto& reports = services.host->reports;
     ASSERT_EQ(reports.size(), 3U);
-    EXPECT_EQ(reports[0].source, "zqbchwcx.mdl_Main.G_PositionInfo");
-    EXPECT_EQ(reports[0].number, 12);
-    EXPECT_EQ(reports[0].description, "text");
-    EXPECT_EQ(reports[0].helpFile, "a.hlp");
-    EXPECT_EQ(reports[0].helpContext, 34);
-    EXPECT_EQ(reports[1].number, vxErrorUnexpected);
-    EXPECT_EQ(reports[1].description, "other");
+    using Report = std::tuple<std::string, int, std::string, std::string, int>;
+    const auto reported = [&](std::size_t i) {
+        const VxError& r = reports[i];
+        return Report(r.source, r.number, r.description, r.helpFile, r.helpContext);
+    };
+    EXPECT_EQ(reported(0), Report("zqbchwcx.mdl_Main.G_PositionInfo", 12, "text", "a.hlp", 34));
+    EXPECT_EQ(reported(1), Report("zqbchwcx.A.B", vxErrorUnexpected, "other", "", 0));
     EXPECT_EQ(reports[2].source, "zqbchwcx.A.C");
 }
 
