@@ -147,6 +147,7 @@ TEST_F(PictureFiles, aFileThatIsNoPictureIsRefusedAndTheListUnchanged)
         EXPECT_FALSE(mList.Contains(name)) << name;
     }
     EXPECT_EQ(mList.Count(), 0);
+    EXPECT_THROW(mList.Image("CUT"), VxError);
 
     WritePicture("CUT.png", {18, 60});
     EXPECT_TRUE(Add("CUT")) << "a whole picture of the same name beside a broken one";

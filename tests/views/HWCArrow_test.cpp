@@ -80,19 +80,5 @@ TEST_F(HWCArrowTest, IsHiddenUntilShownAndOnlyMovesWhileShown)
     EXPECT_EQ(services.toolkit->shapes.at("shp_Arrow").front()->visibleWrites, writes);
 }
 
-TEST_F(HWCArrowTest, ReportsAFailureAndGoesOn)
-{
-    services.Faults().ThrowAt(3);
-    arrow.Show(36, 213, 48);
-    EXPECT_THAT(services.host->TakeReports(), ElementsAre("zqbchwcx.HWCArrow.P_PositionArrow"));
-    arrow.Show(36, 213, 48);
-    EXPECT_EQ(VisibleCount(), 8U);
-    services.Faults().ThrowAt(4); // the second shape cannot be made
-    HWCArrow broken(site);
-    EXPECT_THAT(services.host->TakeReports(), ElementsAre("zqbchwcx.HWCArrow.UserControl_Initialize"));
-    broken.Show(36, 213, 48);
-    broken.Hide();
-}
-
 } // namespace
 } // namespace zqbchwcx::testing

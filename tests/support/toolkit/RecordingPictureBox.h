@@ -71,7 +71,7 @@ public:
     }
     void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) override
     {
-        const auto& image = dynamic_cast<const RecordingImageList&>(list).At(key);
+        const FakeImage image = dynamic_cast<const RecordingImageList&>(list).At(key);
         Line(Styled(key, at, style));
         raster.Draw(image, at, style);
     }

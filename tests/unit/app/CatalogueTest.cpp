@@ -2,10 +2,13 @@
 
 #include "app/catalogue/CatalogueFilter.h"
 #include "app/catalogue/CatalogueModel.h"
+#include "app/host/SvgIcon.h"
 #include "app/window/ModuleInserter.h"
 #include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWModules.h"
 
+#include <QBitmap>
+#include <QDirIterator>
 #include <QMimeData>
 
 #include <set>
@@ -80,6 +83,15 @@ TEST_F(CatalogueTest, ADraggedTypeIsReadBackAsTheModuleThatItIs)
         const auto modules = station.ModulesFromConfigText(text.toStdString(), nullptr);
         ASSERT_EQ(modules->Count(), std::max(type.placeCount, 1)) << type.orderNumber;
         EXPECT_EQ(modules->Item(0)->OrderNumber(), type.orderNumber);
+        EXPECT_FALSE(services.Pictures().Picture(type, 1.5, 2.0).isNull()) << type.orderNumber;
+    }
+}
+
+TEST_F(CatalogueTest, EveryIconDrawsSomething)
+{
+    for (QDirIterator icons(QStringLiteral(":/icons")); icons.hasNext();) {
+        const QString name = QFileInfo(icons.next()).baseName();
+        EXPECT_FALSE(QRegion(SvgIcon(name).pixmap(20, 20).mask()).isEmpty()) << name.toStdString();
     }
 }
 
