@@ -52,6 +52,7 @@ TEST(StationPages, EveryRowOfATableStandsOnOnePageUnderTheHeadings)
     for (const int rows : {0, 1, 51, 52, 53, 200}) {
         StationPages pages(Header(), PageSize);
         pages.AddTable(Table(rows));
+        EXPECT_EQ(pages.Count(), std::max((rows + 51) / 52, 1)) << "52 rows and the headings fill a page";
         QString all;
         for (int page = 0; page < pages.Count(); ++page) {
             const QString svg = SvgOf(pages, page);
