@@ -188,6 +188,8 @@ TEST_F(OverviewDrawingTest, FocusMarksAreFourTrianglesOrAnIBeam)
                 ElementsAre("Fill 11,116 218x6 window", "Fill 11,182 218x6 window", "Fill 78,121 1x47 window",
                             "Image IDB_CRX_RACK 11,121 style 1", StartsWith("Text 3"), EndsWith("61,122 style 0"),
                             StartsWith("Text 4"), EndsWith("79,122 style 0")));
+    focus(2023);
+    EXPECT_THAT(focus(-1), Contains(EndsWith("205,122 style 0"))) << "the stem of the last gap lies on the last place";
 }
 
 TEST_F(OverviewDrawingTest, TheFocusMarkShowsWhetherThePictureHasTheKeyboard)
