@@ -34,15 +34,15 @@ public:
     void Resize() noexcept override { Note("resize"); }
     void MouseDown(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override
     {
-        Note("down", nButton, nShift, static_cast<int>(x), static_cast<int>(y));
+        Note("down", nButton, nShift, x, y);
     }
     void MouseMove(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override
     {
-        Note("move", nButton, nShift, static_cast<int>(x), static_cast<int>(y));
+        Note("move", nButton, nShift, x, y);
     }
     void MouseUp(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override
     {
-        Note("up", nButton, nShift, static_cast<int>(x), static_cast<int>(y));
+        Note("up", nButton, nShift, x, y);
     }
     void DblClick() noexcept override { Note("double"); }
     void GotFocus() noexcept override { Note("focus"); }
@@ -60,13 +60,13 @@ public:
     void OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
                      float x, float y, std::int16_t nState) noexcept override
     {
-        Note("over " + TextIn(*oData), lEffect, nButton, nShift, static_cast<int>(x), static_cast<int>(y), nState);
+        Note("over " + TextIn(*oData), lEffect, nButton, nShift, x, y, nState);
         lEffect = lAnswer;
     }
     void OLEDragDrop(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
                      float x, float y) noexcept override
     {
-        Note("drop " + TextIn(*oData), lEffect, nButton, nShift, static_cast<int>(x), static_cast<int>(y));
+        Note("drop " + TextIn(*oData), lEffect, nButton, nShift, x, y);
         lEffect = lAnswer;
     }
     void OLECompleteDrag(std::int32_t& lEffect) noexcept override { Note("complete", lEffect); }
@@ -88,7 +88,7 @@ private:
     template <class... Numbers>
     void Note(std::string line, Numbers... numbers)
     {
-        ((line += " " + std::to_string(numbers)), ...);
+        ((line += " " + std::to_string(static_cast<int>(numbers))), ...);
         lines.push_back(std::move(line));
     }
 };

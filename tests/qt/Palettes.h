@@ -5,26 +5,25 @@
 
 namespace zqbchwcx::testing {
 
+inline QPalette PaletteOf(QRgb window, QRgb base, QRgb text, QRgb highlight, QRgb disabled)
+{
+    QPalette palette{QColor(window)};
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::Disabled, QPalette::Text, disabled);
+    return palette;
+}
+
 inline QPalette LightPalette()
 {
-    QPalette palette(QColor(0xEF, 0xEF, 0xEF));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::ButtonText, Qt::black);
-    palette.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x78, 0x78, 0x78));
-    return palette;
+    return PaletteOf(0xEFEFEF, 0xFFFFFF, 0x000000, 0x308CC6, 0x787878);
 }
 
 inline QPalette DarkPalette()
 {
-    QPalette palette(QColor(0x35, 0x38, 0x3C));
-    palette.setColor(QPalette::Base, QColor(0x24, 0x26, 0x2A));
-    palette.setColor(QPalette::Text, QColor(0xF0, 0xF0, 0xF0));
-    palette.setColor(QPalette::ButtonText, QColor(0xF0, 0xF0, 0xF0));
-    palette.setColor(QPalette::Highlight, QColor(0x3D, 0x8F, 0xD1));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x8C, 0x8C, 0x8C));
-    return palette;
+    return PaletteOf(0x35383C, 0x24262A, 0xF0F0F0, 0x3D8FD1, 0x8C8C8C);
 }
 
 /// Another palette of the application for as long as it lives.

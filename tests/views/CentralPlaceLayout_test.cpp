@@ -43,14 +43,6 @@ TEST(CentralPlaceLayoutTest, EveryPixelHasThePositionOfItsStrip)
     EXPECT_EQ(layout.PositionAt({-50, 60}), -1);
 }
 
-TEST(CentralPlaceLayoutTest, TheWrittenBordersOfGapsAndPlaces)
-{
-    const std::pair<std::int32_t, std::int32_t> columns[] = {{22, 1}, {24, 1},   {25, 1},   {26, 1},
-                                                             {27, 2}, {39, 2},   {40, 3},   {44, 3},
-                                                             {45, 4}, {222, 23}, {224, 23}, {225, -1}};
-    for (const auto& [x, lPosition] : columns) EXPECT_EQ(layout.PositionAt({x, 3 * 92 + 60}), lPosition) << x;
-}
-
 TEST(CentralPlaceLayoutTest, APositionsPointLiesOnThePosition)
 {
     for (std::int32_t lRack = 0; lRack < 4; ++lRack) {

@@ -28,15 +28,19 @@ protected:
     std::shared_ptr<VxHWRackOverview> MakeView(RecordingControl& control) const
     {
         auto made = std::make_shared<VxHWRackOverview>(control);
-        made->Style(vxStyleHWConfig);
-        made->VxHWStation(station);
-        made->VxHWCompareService(compare);
-        made->VxHWDiagService(diag);
-        made->VxHWSelectionHandler(handler);
-        made->VxHWMouseInputController(controller);
-        made->VxHWKeyInputController(controller);
-        made->VxHWDragDropController(controller);
+        Connect(*made);
         return made;
+    }
+    void Connect(VxHWRackOverview& made) const
+    {
+        made.Style(vxStyleHWConfig);
+        made.VxHWStation(station);
+        made.VxHWCompareService(compare);
+        made.VxHWDiagService(diag);
+        made.VxHWSelectionHandler(handler);
+        made.VxHWMouseInputController(controller);
+        made.VxHWKeyInputController(controller);
+        made.VxHWDragDropController(controller);
     }
 
     RecordingPictureBox& Pic() const { return *toolkit->pictureBoxes.at("pic_Main"); }
@@ -57,7 +61,7 @@ protected:
     }
     FakeModulePtr Put(std::int32_t lRack, std::int32_t lPlace, const std::string& picture, std::int32_t lPlaceCount = 0)
     {
-        auto module = station->Put(lRack, lPlace, "HQ " + picture, lPlaceCount);
+        auto module = station->Put(lRack, lPlace, picture, lPlaceCount);
         for (std::int32_t i = 0; i < std::max(lPlaceCount, 1); ++i)
             station->Module(lRack, lPlace + i)->pictureName = picture;
         return module;

@@ -8,50 +8,41 @@ FakeModule::FakeModule(CallLogPtr log) : Logged(std::move(log)), subModules(std:
 
 VxHWModulesPtr FakeModule::SubModules() const
 {
-    return Answer("VxHWModule.SubModules", subModules);
+    return Answer("Module.SubModules", subModules);
 }
 
 std::string FakeModules::ConfigText() const
 {
-    return Answer("VxHWModules.ConfigText", WriteFakeConfigText(members));
+    return Answer("Modules.ConfigText", WriteFakeConfigText(members));
 }
 
 std::string WriteFakeConfigText(const FakeModuleList& modules)
 {
-    std::string text;
-    for (const auto& module : modules) {
-        const auto places = module->parent ? module->parent->placeCount : 0;
-        if (module->orderNumber.empty()) text += "-\n";
-        else
-            text += module->orderNumber + ";" + module->name + ";" + std::to_string(module->indexInParent) + ";" +
-                    std::to_string(places) + "\n";
-    }
-    return text;
+    std::ostringstream text;
+    for (const auto& module : modules)
+        text << (module->orderNumber.empty() ? "-" : module->orderNumber) << ' ' << module->indexInParent << ' '
+             << (module->parent ? module->parent->placeCount : 0) << '\n';
+    return text.str();
 }
 
 FakeModuleList ReadFakeConfigText(std::string_view text, const CallLogPtr& log)
 {
     FakeModuleList modules;
     FakeModulePtr parent;
-    std::istringstream lines{std::string(text)};
-    for (std::string line; std::getline(lines, line);) {
+    std::istringstream input{std::string(text)};
+    for (std::string orderNumber; input >> orderNumber;) {
         auto module = std::make_shared<FakeModule>(log);
-        modules.push_back(module);
-        if (line == "-") continue;
-        std::istringstream fields(line);
         std::int32_t places = 0;
-        char semicolon = 0;
-        std::getline(fields, module->orderNumber, ';');
-        std::getline(fields, module->name, ';');
-        if (!(fields >> module->indexInParent >> semicolon >> places))
-            throw VxError(vxErrorInvalidArgument, "Not a configuration text: " + line);
-        if (module->indexInParent == 0) continue;
-        if (module->indexInParent == 1 || !parent) {
+        if (!(input >> module->indexInParent >> places))
+            throw VxError(vxErrorInvalidArgument, "Not a configuration text: " + std::string(text));
+        if (orderNumber != "-") module->orderNumber = orderNumber;
+        if (module->indexInParent == 1 || (module->indexInParent > 1 && !parent)) {
             parent = std::make_shared<FakeModule>(*module);
             parent->indexInParent = 0;
             parent->placeCount = places;
         }
-        module->parent = parent;
+        if (module->indexInParent > 0) module->parent = parent;
+        modules.push_back(std::move(module));
     }
     return modules;
 }

@@ -6,7 +6,7 @@ namespace zqbchwcx::testing {
 
 using FakeModuleList = std::vector<FakeModulePtr>;
 
-/// A text of one line "order number;name;index in parent;places of parent" per module; "-" is an empty module.
+/// A text of one line "order number, index in parent, places of parent" per module; "-" is an empty module.
 std::string WriteFakeConfigText(const FakeModuleList& modules);
 
 /// The modules of such a text; members of one parent are given a new common parent.

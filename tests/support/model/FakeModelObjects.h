@@ -9,7 +9,6 @@
 #include "tests/support/services/CallLog.h"
 
 #include <algorithm>
-#include <map>
 
 // The objects that a `FakeStation` is made of. A test sets and reads their fields; the library calls the rest, and
 // each of its calls is a fault point.
@@ -58,32 +57,26 @@ class FakeModule : public VxHWModule, public Logged {
 public:
     explicit FakeModule(CallLogPtr log);
 
-    bool IsEmpty() const override { return Answer("VxHWModule.IsEmpty", orderNumber.empty()); }
-    std::string OrderNumber() const override { return Answer("VxHWModule.OrderNumber", orderNumber); }
-    std::string DetailText() const override { return Answer("VxHWModule.DetailText", std::string()); }
-    std::string Name() const override { return Answer("VxHWModule.Name", name); }
-    std::string PictureName() const override { return Answer("VxHWModule.PictureName", pictureName); }
-    std::int32_t PlaceCount() const override { return Answer("VxHWModule.PlaceCount", placeCount); }
-    std::int32_t SubModuleCount() const override { return Answer("VxHWModule.SubModuleCount", subModuleCount); }
-    std::int32_t IndexInParent() const override { return Answer("VxHWModule.IndexInParent", indexInParent); }
-    VxHWModulePtr ParentModule() const override { return Answer("VxHWModule.ParentModule", parent); }
+    bool IsEmpty() const override { return Answer("Module.IsEmpty", orderNumber.empty()); }
+    std::string OrderNumber() const override { return Answer("Module.OrderNumber", orderNumber); }
+    std::string PictureName() const override { return Answer("Module.PictureName", pictureName); }
+    std::int32_t PlaceCount() const override { return Answer("Module.PlaceCount", placeCount); }
+    std::int32_t SubModuleCount() const override { return Answer("Module.SubModuleCount", subModuleCount); }
+    std::int32_t IndexInParent() const override { return Answer("Module.IndexInParent", indexInParent); }
+    VxHWModulePtr ParentModule() const override { return Answer("Module.ParentModule", parent); }
     VxHWModulesPtr SubModules() const override;
-    bool HasParamDialog() const override { return Answer("VxHWModule.HasParamDialog", hasParamDialog); }
-    std::string InputAddressText() const override { return Answer("VxHWModule.InputAddressText", std::string()); }
-    std::string OutputAddressText() const override { return Answer("VxHWModule.OutputAddressText", std::string()); }
-    std::string BasicAddressText() const override { return Answer("VxHWModule.BasicAddressText", std::string()); }
-    std::string GetAttribute(std::string_view attribute) const override
-    {
-        const auto found = attributes.find(attribute);
-        return Answer("VxHWModule.GetAttribute", found == attributes.end() ? std::string() : found->second);
-    }
-    bool HasAttribute(std::string_view attribute) const override
-    {
-        return Answer("VxHWModule.HasAttribute", attributes.contains(attribute));
-    }
+    bool HasParamDialog() const override { return Answer("Module.HasParamDialog", hasParamDialog); }
+
+    // The library leaves these to the host.
+    std::string DetailText() const override { return {}; }
+    std::string Name() const override { return {}; }
+    std::string InputAddressText() const override { return {}; }
+    std::string OutputAddressText() const override { return {}; }
+    std::string BasicAddressText() const override { return {}; }
+    std::string GetAttribute(std::string_view /*attribute*/) const override { return {}; }
+    bool HasAttribute(std::string_view /*attribute*/) const override { return false; }
 
     std::string orderNumber;
-    std::string name;
     std::string pictureName;
     std::int32_t placeCount = 0;
     std::int32_t subModuleCount = 0;
@@ -91,7 +84,6 @@ public:
     std::shared_ptr<FakeModule> parent;
     std::shared_ptr<FakeModules> subModules;
     bool hasParamDialog = false;
-    std::map<std::string, std::string, std::less<>> attributes;
 };
 using FakeModulePtr = std::shared_ptr<FakeModule>;
 
@@ -124,11 +116,11 @@ public:
     {
     }
 
-    std::int32_t Number() const override { return Answer("VxHWRackPlace.Number", number); }
-    std::string Key() const override { return Answer("VxHWRackPlace.Key", key); }
-    std::int32_t Usability() const override { return Answer("VxHWRackPlace.Usability", usability); }
-    VxHWModulePtr Module() const override { return Answer("VxHWRackPlace.Module", module); }
-    VxHWRackPtr Rack() const override { return Answer("VxHWRackPlace.Rack", moRack.lock()); }
+    std::int32_t Number() const override { return Answer("Place.Number", number); }
+    std::string Key() const override { return Answer("Place.Key", key); }
+    std::int32_t Usability() const override { return Answer("Place.Usability", usability); }
+    VxHWModulePtr Module() const override { return Answer("Place.Module", module); }
+    VxHWRackPtr Rack() const override { return Answer("Place.Rack", moRack.lock()); }
 
     void Empty() { module = std::make_shared<FakeModule>(moLog); }
 
@@ -155,7 +147,7 @@ public:
     void Add(const VxHWRackPlacePtr& oPlace) override { Append(oPlace); }
     void Remove(std::string_view key) override
     {
-        Call("VxHWRackPlaces.Remove");
+        Call("Places.Remove");
         if (std::erase_if(members, [&](const auto& place) { return place->key == key; }) == 0)
             throw VxError(vxErrorSubscript, "There is no place " + std::string(key));
     }
@@ -181,9 +173,9 @@ class FakeRack : public VxHWRack, public Logged {
 public:
     FakeRack(CallLogPtr log, std::int32_t lNumber) : Logged(std::move(log)), number(lNumber) {}
 
-    std::int32_t Number() const override { return Answer("VxHWRack.Number", number); }
-    std::int32_t State() const override { return Answer("VxHWRack.State", state); }
-    VxHWRackPlacesPtr Places() const override { return Answer("VxHWRack.Places", places); }
+    std::int32_t Number() const override { return Answer("Rack.Number", number); }
+    std::int32_t State() const override { return Answer("Rack.State", state); }
+    VxHWRackPlacesPtr Places() const override { return Answer("Rack.Places", places); }
 
     std::int32_t number;
     std::int32_t state = 1;

@@ -5,42 +5,38 @@
 #include "foundation/model/VxHWDiagService.h"
 #include "tests/support/model/FakeModelObjects.h"
 
+#include <map>
 #include <set>
 
 namespace zqbchwcx::testing {
 
-/// Results by place key.
-using ResultsByPlace = std::map<std::string, std::int32_t>;
-
-/// The result for the place, or 0, which is what both services answer where there is nothing to tell.
-inline std::int32_t ResultFor(const ResultsByPlace& results, const VxHWRackPlacePtr& oPlace)
-{
-    const auto found = results.find(KeyOfPlace(oPlace));
-    return found == results.end() ? 0 : found->second;
-}
+/// Results by place key; a place without one has 0, which is what both services answer where there is nothing to tell.
+class ResultsByPlace : public std::map<std::string, std::int32_t> {
+public:
+    using map::map;
+    std::int32_t For(const VxHWRackPlacePtr& oPlace) const
+    {
+        const auto found = find(KeyOfPlace(oPlace));
+        return found == end() ? 0 : found->second;
+    }
+};
 
 class FakeCompareService : public VxHWCompareService, public Logged {
 public:
     using Logged::Logged;
 
-    std::int32_t CompareType() const override { return Answer("VxHWCompareService.CompareType", compareType); }
-    void Compare() override { moLog->Note("Compare"); }
+    std::int32_t CompareType() const override { return Answer("Compare.CompareType", compareType); }
     std::int32_t PlaceResult(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWCompareService.PlaceResult", ResultFor(results, oPlace));
-    }
-    ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& /*oPlace*/) const override
-    {
-        return Answer("VxHWCompareService.ParameterDifferencesOf", nullptr);
-    }
-    void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace) override
-    {
-        moLog->Note("ShowParameterDifferences " + KeyOfPlace(oPlace));
+        return Answer("Compare.PlaceResult", results.For(oPlace));
     }
     std::string PlaceText(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWCompareService.PlaceText", "place text " + KeyOfPlace(oPlace));
+        return Answer("Compare.PlaceText", "place text " + KeyOfPlace(oPlace));
     }
+    void Compare() override {}
+    ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& /*oPlace*/) const override { return {}; }
+    void ShowParameterDifferences(const VxHWRackPlacePtr& /*oPlace*/) override {}
 
     std::int32_t compareType = 0;
     ResultsByPlace results;
@@ -50,25 +46,22 @@ class FakeDiagService : public VxHWDiagService, public Logged {
 public:
     using Logged::Logged;
 
-    void Station(const VxHWStationPtr& oStation) override
-    {
-        moLog->Note(oStation ? "DiagService.Station set" : "DiagService.Station nothing");
-    }
     std::int32_t CpuState(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWDiagService.CpuState", ResultFor(cpuStates, oPlace));
+        return Answer("Diag.CpuState", cpuStates.For(oPlace));
     }
     std::int32_t HasFailure(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWDiagService.HasFailure", ResultFor(failures, oPlace));
+        return Answer("Diag.HasFailure", failures.For(oPlace));
     }
     bool HasDiagState(const VxHWRackPlacePtr& oPlace, std::int32_t lCategory) const override
     {
-        return Answer("VxHWDiagService.HasDiagState", diagStates.contains({KeyOfPlace(oPlace), lCategory}));
+        return Answer("Diag.HasDiagState", diagStates.contains({KeyOfPlace(oPlace), lCategory}));
     }
+    void Station(const VxHWStationPtr& /*oStation*/) override {}
     bool HasDiagnosticInfo(const VxHWRackPlacePtr& /*oPlace*/, const VxHWModulePtr& /*oSubModule*/) const override
     {
-        return Answer("VxHWDiagService.HasDiagnosticInfo", false);
+        return false;
     }
 
     ResultsByPlace cpuStates;

@@ -5,8 +5,6 @@
 #include "platform/DataObject.h"
 #include "tests/support/model/FakeConfigText.h"
 
-#include <functional>
-
 namespace zqbchwcx::testing {
 
 /// A station in memory with the simplest of rules: modules fill usable empty places from the position on (a gap stands
@@ -24,148 +22,123 @@ public:
         }
     }
 
-    std::int32_t DisplayMode() const override { return Answer("VxHWStation.DisplayMode", displayMode); }
-    std::int32_t StationKind() const override { return Answer("VxHWStation.StationKind", stationKind); }
-    bool IsReadOnly() const override { return Answer("VxHWStation.IsReadOnly", readOnly); }
-    VxHWRacksPtr Racks() const override { return Answer("VxHWStation.Racks", racks); }
-    bool IsDrawable() const override { return Answer("VxHWStation.IsDrawable", drawable); }
+    std::int32_t DisplayMode() const override { return Answer("Station.DisplayMode", displayMode); }
+    std::int32_t StationKind() const override { return Answer("Station.StationKind", stationKind); }
+    bool IsReadOnly() const override { return Answer("Station.IsReadOnly", readOnly); }
+    VxHWRacksPtr Racks() const override { return Answer("Station.Racks", racks); }
+    bool IsDrawable() const override { return Answer("Station.IsDrawable", drawable); }
     void IsDrawable(bool bDrawable) override
     {
-        if (!bDrawable) moLog->Note("IsDrawable False");
+        if (!bDrawable) Note("IsDrawable False");
         drawable = bDrawable;
         if (!bDrawable) return;
         for (const auto& place : std::exchange(mcolChanged, {})) RackPlaceChange.Raise(place);
         moLog->NoteEnd("IsDrawable True");
     }
-    void StartConfiguration() override { moLog->Note("StartConfiguration"); }
-    void ShowModuleDiagnostics(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& /*oSubModule*/) override
-    {
-        moLog->Note("ShowModuleDiagnostics " + KeyOfPlace(oPlace));
-    }
+    void StartConfiguration() override { Note("StartConfiguration"); }
     bool PlaceModules(std::int32_t lPosition, const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces) override
     {
-        moLog->Note("PlaceModules " + std::to_string(lPosition) + " " + Names(oModules));
+        Note("PlaceModules " + std::to_string(lPosition) + " " + Names(oModules));
         return Fill(lPosition, ReadFakeConfigText(WriteFakeConfigText(ModulesOf(oModules)), moLog), oPlaces);
     }
     bool MoveModules(std::int32_t lPosition, const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oSourcePlaces,
                      const VxHWRackPlacesPtr& oPlaces) override
     {
-        moLog->Note("MoveModules " + std::to_string(lPosition) + " " + Names(oModules) + " from " +
-                    Keys(oSourcePlaces));
+        Note("MoveModules " + std::to_string(lPosition) + " " + Names(oModules) + " from " + Keys(oSourcePlaces));
         const Places sources = WithFellowMembers(AsFake(oSourcePlaces).members);
         if (Targets(lPosition, ModulesOf(oModules).size(), sources).empty()) return false;
         Clear(sources);
         return Fill(lPosition, ModulesOf(oModules), oPlaces);
     }
-
     void DeleteModules(const VxHWRackPlacesPtr& oPlaces) override
     {
-        moLog->Note("DeleteModules " + Keys(oPlaces));
+        Note("DeleteModules " + Keys(oPlaces));
         Clear(WithFellowMembers(AsFake(oPlaces).members));
     }
-
     std::int32_t OpenModuleParamDialog(const VxHWRackPlacePtr& oPlace) override
     {
-        moLog->Note("OpenModuleParamDialog " + KeyOfPlace(oPlace));
+        Note("OpenModuleParamDialog " + KeyOfPlace(oPlace));
         return 0;
-    }
-
-    bool SetModuleAttribute(const VxHWRackPlacePtr& oPlace, std::string_view name, std::string_view value) override
-    {
-        moLog->Note("SetModuleAttribute " + KeyOfPlace(oPlace) + " " + std::string(name) + "=" + std::string(value));
-        const auto place = std::dynamic_pointer_cast<FakeRackPlace>(oPlace);
-        place->module->attributes[std::string(name)] = value;
-        Changed(place);
-        return true;
     }
     bool CanBePlaced(std::int32_t lPosition, const VxHWModulesPtr& oModules, bool bMove,
                      const VxHWRackPlacesPtr& oSourcePlaces) const override
     {
-        moLog->Note("CanBePlaced " + std::to_string(lPosition) + " " + Names(oModules) +
-                    (bMove ? " move from " : " copy ") + Keys(oSourcePlaces));
+        Note("CanBePlaced " + std::to_string(lPosition) + " " + Names(oModules) + (bMove ? " move from " : " copy ") +
+             Keys(oSourcePlaces));
         const Places sources = bMove ? WithFellowMembers(AsFake(oSourcePlaces).members) : Places{};
         return !Targets(lPosition, ModulesOf(oModules).size(), sources).empty();
     }
-
     Array2D<std::int32_t> GetPossibleDropPlaces(const VxHWModulePtr& oModule) const override
     {
-        Call("VxHWStation.GetPossibleDropPlaces");
+        Call("Station.GetPossibleDropPlaces");
         const auto& parent = AsFake(oModule).parent;
         const auto span = static_cast<std::size_t>(parent ? parent->placeCount : 1);
         Array2D<std::int32_t> possible(0, static_cast<std::int32_t>(racks->members.size()) - 1, 1,
                                        static_cast<std::int32_t>(Rack(0)->places->members.size()));
         for (const auto& rack : racks->members)
             for (const auto& place : rack->places->members)
-                possible.Set(rack->number, place->number,
-                             Targets(G_PlacePosition(rack->number, place->number), span, {}).empty() ? 0 : -1);
+                if (!Targets(G_PlacePosition(rack->number, place->number), span, {}).empty())
+                    possible.Set(rack->number, place->number, -1);
         return possible;
     }
-
     VxHWModulesPtr ClipboardModules() const override
     {
-        Call("VxHWStation.ClipboardModules");
+        Call("Station.ClipboardModules");
         if (!clipboard) return MakeModules({});
         return MakeModules(
             ReadFakeConfigText({reinterpret_cast<const char*>(clipboard->data()), clipboard->size()}, moLog));
     }
-
     VxHWModulesPtr ModulesFromConfigText(std::string_view text, const ExchangeDataPtr& oExchange) const override
     {
-        moLog->Note(std::string("ModulesFromConfigText ") + (oExchange ? "with exchange" : "alone"));
+        Note(std::string("ModulesFromConfigText ") + (oExchange ? "with exchange" : "alone"));
         return MakeModules(ReadFakeConfigText(text, moLog));
     }
-
     void WriteModulesToExchange(const VxHWModulesPtr& oModules, const ExchangeDataPtr& oExchange) const override
     {
-        moLog->Note("WriteModulesToExchange " + Names(oModules));
+        Note("WriteModulesToExchange " + Names(oModules));
         const std::string text = WriteFakeConfigText(ModulesOf(oModules));
         const auto* first = reinterpret_cast<const std::byte*>(text.data());
         oExchange->LoadData({first, first + text.size()});
     }
-
-    void PrepareModule(const VxHWModulePtr& oModule) override
-    {
-        moLog->Note("PrepareModule " + AsFake(oModule).orderNumber);
-    }
-
+    void PrepareModule(const VxHWModulePtr& oModule) override { Note("PrepareModule " + AsFake(oModule).orderNumber); }
     VxHWModulesPtr ExpandModule(const VxHWModulePtr& oModule) override
     {
-        moLog->Note("ExpandModule " + AsFake(oModule).orderNumber);
+        Note("ExpandModule " + AsFake(oModule).orderNumber);
         return MakeModules(MakeFakeMembers(std::dynamic_pointer_cast<FakeModule>(oModule), moLog));
     }
-
     void CreateSubModules(const VxHWModulePtr& oModule) override
     {
         const auto& module = AsFake(oModule);
-        moLog->Note("CreateSubModules " + module.orderNumber);
-        for (std::int32_t i = 1; i <= module.subModuleCount; ++i)
-            module.subModules->members.push_back(MakeModule(module.orderNumber + "." + std::to_string(i)));
+        Note("CreateSubModules " + module.orderNumber);
+        for (std::int32_t i = 0; i < module.subModuleCount; ++i)
+            module.subModules->members.push_back(MakeModule("sub-module"));
     }
-
     VxHWRackPlacesPtr ParentModulePlaces(const VxHWModulePtr& oParentModule) const override
     {
-        Call("VxHWStation.ParentModulePlaces");
+        Call("Station.ParentModulePlaces");
         auto oPlaces = std::make_shared<FakeRackPlaces>(moLog);
         oPlaces->members = PlacesWith(oParentModule);
         return oPlaces;
     }
-
     bool HasGroupFrame(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWStation.HasGroupFrame",
-                      dynamic_cast<const FakeRackPlace&>(*oPlace).module->parent != nullptr);
+        const auto& place = dynamic_cast<const FakeRackPlace&>(*oPlace);
+        return Answer("Station.HasGroupFrame", place.module->parent != nullptr);
     }
-    void RefreshDiagnostics() override { moLog->Note("RefreshDiagnostics"); }
-    void RefreshOnline() override { moLog->Note("RefreshOnline"); }
     std::string EmptyPlaceTooltip(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("VxHWStation.EmptyPlaceTooltip", "empty " + KeyOfPlace(oPlace));
+        return Answer("Station.EmptyPlaceTooltip", "empty " + KeyOfPlace(oPlace));
     }
-
     std::string ModuleTooltip(const VxHWModulePtr& oModule) const override
     {
-        return Answer("VxHWStation.ModuleTooltip", "module " + AsFake(oModule).orderNumber);
+        return Answer("Station.ModuleTooltip", "module " + AsFake(oModule).orderNumber);
     }
+
+    // The library leaves these to the host.
+    void ShowModuleDiagnostics(const VxHWRackPlacePtr& /*oPlace*/, const VxHWModulePtr& /*oSubModule*/) override {}
+    bool SetModuleAttribute(const VxHWRackPlacePtr&, std::string_view, std::string_view) override { return false; }
+    void RefreshDiagnostics() override {}
+    void RefreshOnline() override {}
 
     /// The objects of the station; reaching them so is no fault point.
     FakeRackPtr Rack(std::int32_t lRack) const { return racks->members.at(static_cast<std::size_t>(lRack)); }
@@ -178,7 +151,6 @@ public:
     FakeModulePtr MakeModule(std::string orderNumber) const
     {
         auto module = std::make_shared<FakeModule>(moLog);
-        module->name = "Name " + orderNumber;
         module->orderNumber = std::move(orderNumber);
         return module;
     }
@@ -217,7 +189,6 @@ private:
     {
         return dynamic_cast<const FakeModules&>(*oModules).members;
     }
-
     static std::string Names(const VxHWModulesPtr& oModules)
     {
         std::string names;
@@ -225,12 +196,10 @@ private:
             names += (names.empty() ? "" : " ") + (module->orderNumber.empty() ? "-" : module->orderNumber);
         return "[" + names + "]";
     }
-
     static std::string Keys(const VxHWRackPlacesPtr& oPlaces)
     {
         return oPlaces ? "[" + AsFake(oPlaces).Keys() + "]" : "nothing";
     }
-
     static bool Contains(const Places& places, const FakeRackPlacePtr& place)
     {
         return std::find(places.begin(), places.end(), place) != places.end();
@@ -248,18 +217,17 @@ private:
     {
         const PositionInfo info = G_PositionInfo(lPosition);
         if (count == 0 || (info.eType != vxPositionPlace && info.eType != vxPositionGap)) return {};
-        const auto& places = Rack(info.lRack)->places->members;
-        const auto first = static_cast<std::size_t>(info.eType == vxPositionGap ? info.lNumber : info.lNumber - 1);
-        if (first + count > places.size()) return {};
-        const auto begin = places.begin() + static_cast<std::ptrdiff_t>(first);
-        Places targets(begin, begin + static_cast<std::ptrdiff_t>(count));
-        const bool allFree = std::all_of(targets.begin(), targets.end(), [&](const FakeRackPlacePtr& place) {
-            return place->usability != vxPlaceNotUsable &&
-                   (place->module->orderNumber.empty() || Contains(sources, place));
-        });
-        return allFree ? targets : Places{};
+        const std::int32_t lFirst = info.eType == vxPositionGap ? info.lNumber + 1 : info.lNumber;
+        Places targets;
+        for (const auto& place : Rack(info.lRack)->places->members) {
+            if (place->number < lFirst) continue;
+            const bool bFree = place->module->orderNumber.empty() || Contains(sources, place);
+            if (!bFree || place->usability == vxPlaceNotUsable) return {};
+            targets.push_back(place);
+            if (targets.size() == count) return targets;
+        }
+        return {};
     }
-
     bool Fill(std::int32_t lPosition, const FakeModuleList& modules, const VxHWRackPlacesPtr& oPlaces)
     {
         const Places targets = Targets(lPosition, modules.size(), {});
@@ -270,7 +238,6 @@ private:
         }
         return !targets.empty();
     }
-
     Places PlacesWith(const VxHWModulePtr& oParentModule) const
     {
         Places places = AllPlaces();
@@ -278,7 +245,6 @@ private:
                       [&](const auto& place) { return !oParentModule || place->module->parent != oParentModule; });
         return places;
     }
-
     Places WithFellowMembers(const Places& places) const
     {
         Places all = places;
@@ -287,7 +253,6 @@ private:
                 if (!Contains(all, fellow)) all.push_back(fellow);
         return all;
     }
-
     void Clear(const Places& places)
     {
         for (const auto& place : places) {
@@ -296,13 +261,11 @@ private:
             Changed(place);
         }
     }
-
     void Changed(const FakeRackPlacePtr& place)
     {
         if (drawable) RackPlaceChange.Raise(place);
         else mcolChanged.push_back(place);
     }
-
     VxHWModulesPtr MakeModules(FakeModuleList modules) const
     {
         auto oModules = std::make_shared<FakeModules>(moLog);

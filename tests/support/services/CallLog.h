@@ -39,6 +39,7 @@ public:
 
 protected:
     void Call(std::string_view call) const { moLog->Call(call); }
+    void Note(std::string line) const { moLog->Note(std::move(line)); }
     /// A call that only answers.
     template <class Value>
     Value Answer(std::string_view call, Value value) const

@@ -16,28 +16,24 @@ public:
     TimerPtr CreateTimer()
     {
         Call("Toolkit.CreateTimer");
-        auto state = std::make_shared<State>();
-        mcolTimers.push_back(state);
-        return std::make_unique<FakeTimer>(moLog, std::move(state));
+        mcolTimers.push_back(std::make_shared<State>());
+        return std::make_unique<FakeTimer>(moLog, mcolTimers.back());
     }
-
-    /// Lets the time pass millisecond by millisecond and calls the timers that are due, in order of creation.
+    /// Lets the time pass millisecond by millisecond and calls the timers that are due.
     void Advance(std::int32_t lMilliseconds)
     {
-        for (std::int32_t i = 0; i < lMilliseconds; ++i) Tick();
+        for (; lMilliseconds > 0; --lMilliseconds)
+            for (const auto& timer : std::vector(mcolTimers))
+                if (timer->enabled && timer->handler && ++timer->elapsed % timer->interval == 0) timer->handler();
     }
-
-    std::ptrdiff_t EnabledCount() const
+    bool IsRunning() const
     {
-        return std::count_if(mcolTimers.begin(), mcolTimers.end(), [](const auto& weak) {
-            const auto timer = weak.lock();
-            return timer && timer->enabled;
-        });
+        return std::any_of(mcolTimers.begin(), mcolTimers.end(), [](const auto& timer) { return timer->enabled; });
     }
 
 private:
     struct State {
-        std::int32_t interval = 0;
+        std::int32_t interval = 1;
         std::int32_t elapsed = 0;
         bool enabled = false;
         std::function<void()> handler;
@@ -46,41 +42,20 @@ private:
     class FakeTimer : public Timer, public Logged {
     public:
         FakeTimer(CallLogPtr log, std::shared_ptr<State> state) : Logged(std::move(log)), moState(std::move(state)) {}
+        ~FakeTimer() override { *moState = {}; }
+        FakeTimer(const FakeTimer&) = delete;
+        FakeTimer& operator=(const FakeTimer&) = delete;
 
-        void Interval(std::int32_t lMilliseconds) override
-        {
-            Call("Timer.Interval");
-            moState->interval = lMilliseconds;
-        }
+        void Interval(std::int32_t l) override { Call("Timer.Interval"), moState->interval = l; }
         bool Enabled() const override { return moState->enabled; }
-        void Enabled(bool bEnabled) override
-        {
-            Call("Timer.Enabled");
-            moState->enabled = bEnabled;
-            moState->elapsed = 0;
-        }
-        void OnTimer(std::function<void()> handler) override
-        {
-            Call("Timer.OnTimer");
-            moState->handler = std::move(handler);
-        }
+        void Enabled(bool b) override { Call("Timer.Enabled"), moState->enabled = b, moState->elapsed = 0; }
+        void OnTimer(std::function<void()> f) override { Call("Timer.OnTimer"), moState->handler = std::move(f); }
 
     private:
         std::shared_ptr<State> moState;
     };
 
-    void Tick()
-    {
-        const auto timers = mcolTimers;
-        for (const auto& weak : timers) {
-            const auto timer = weak.lock();
-            if (!timer || !timer->enabled || ++timer->elapsed < timer->interval) continue;
-            timer->elapsed = 0;
-            if (const auto handler = timer->handler) handler();
-        }
-    }
-
-    std::vector<std::weak_ptr<State>> mcolTimers;
+    std::vector<std::shared_ptr<State>> mcolTimers;
 };
 
 } // namespace zqbchwcx::testing

@@ -22,7 +22,6 @@ public:
     void ScreenMousePointer(MousePointer newPointer) override
     {
         moLog->NoteEnd(newPointer == MousePointer::Hourglass ? "Pointer hourglass" : "Pointer default");
-        pointer = newPointer;
     }
     std::int16_t RegisterClipboardFormat(std::string_view name) override
     {
@@ -37,14 +36,9 @@ public:
         return mcolFormats.try_emplace(std::string(name), next).first->second;
     }
 
-    std::map<OleColor, OleColor> systemColors{
-        {vxColorWindowBackground, G_Rgb(255, 255, 255)}, {vxColorWindowText, G_Rgb(0, 0, 0)},
-        {vxColorHighlight, G_Rgb(10, 36, 106)},          {vxColorHighlightText, G_Rgb(255, 255, 255)},
-        {vxColorButtonFace, G_Rgb(212, 208, 200)},       {vxColorButtonShadow, G_Rgb(128, 128, 128)},
-        {vxColorGrayText, G_Rgb(128, 128, 128)},         {vxColorButtonText, G_Rgb(0, 0, 0)},
-        {vxColorButtonHighlight, G_Rgb(255, 255, 255)},  {vxColorLight3D, G_Rgb(227, 224, 220)},
-    };
-    MousePointer pointer = MousePointer::Default;
+    std::map<OleColor, OleColor> systemColors{{vxColorButtonFace, G_Rgb(212, 208, 200)},
+                                              {vxColorButtonHighlight, G_Rgb(255, 255, 255)},
+                                              {vxColorLight3D, G_Rgb(227, 224, 220)}};
 
 private:
     std::map<std::string, std::int16_t> mcolFormats;

@@ -31,7 +31,7 @@ public:
 
     TextModulePtr Open(std::string_view moduleName) override
     {
-        moLog->Note("Open " + std::string(moduleName));
+        Note("Open " + std::string(moduleName));
         ++openTexts;
         return shared_from_this();
     }
@@ -56,7 +56,7 @@ public:
 
     void BeginUserAction(std::string_view displayText) override
     {
-        moLog->Note("BeginUserAction " + std::string(displayText));
+        Note("BeginUserAction " + std::string(displayText));
         ++openActions;
     }
     void EndUserAction() override
@@ -67,14 +67,14 @@ public:
     void LogError(std::int32_t lNumber, std::string_view description, std::string_view source,
                   std::string_view helpFile, std::int32_t lHelpContext) override
     {
-        moLog->Note("LogError " + std::string(source));
+        Note("LogError " + std::string(source));
         reports.emplace_back(lNumber, std::string(description), std::string(source), std::string(helpFile),
                              lHelpContext);
     }
 
     std::int32_t Register(std::int32_t lCategory, std::string_view className) override
     {
-        moLog->Note("Register " + std::string(className));
+        Note("Register " + std::string(className));
         live.emplace(++mlLastId, std::pair(lCategory, std::string(className)));
         return mlLastId;
     }
@@ -108,16 +108,10 @@ public:
 
     VxHWRackPlacesPtr CreateRackPlaces() override
     {
-        return Answer("VxHWModelFactory.CreateRackPlaces", std::make_shared<FakeRackPlaces>(moLog));
+        return Answer("CreateRackPlaces", std::make_shared<FakeRackPlaces>(moLog));
     }
-    VxHWModulesPtr CreateModules() override
-    {
-        return Answer("VxHWModelFactory.CreateModules", std::make_shared<FakeModules>(moLog));
-    }
-    VxHWModulePtr CreateModule() override
-    {
-        return Answer("VxHWModelFactory.CreateModule", std::make_shared<FakeModule>(moLog));
-    }
+    VxHWModulesPtr CreateModules() override { return Answer("CreateModules", std::make_shared<FakeModules>(moLog)); }
+    VxHWModulePtr CreateModule() override { return Answer("CreateModule", std::make_shared<FakeModule>(moLog)); }
 
     /// The sources of the errors reported since it was last asked.
     std::vector<std::string> TakeReports()

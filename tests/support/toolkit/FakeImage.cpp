@@ -5,46 +5,31 @@
 namespace zqbchwcx::testing {
 namespace {
 
-constexpr Size RailSize{218, 62};
-constexpr Size PlaceSize{18, 60};
+constexpr Rect Cell = MakeRect(0, 0, 18, 60); ///< of a place or module
 
-bool IsWithin(Point at, std::int32_t left, std::int32_t top, std::int32_t right, std::int32_t bottom)
+std::vector<Rect> FrameLines(const std::string& key)
 {
-    return at.x >= left && at.x < right && at.y >= top && at.y < bottom;
+    std::vector<Rect> lines{{0, 0, Cell.right, 1}, {0, Cell.bottom - 1, Cell.right, Cell.bottom}};
+    const bool bTotal = key.ends_with("TOTAL");
+    if (bTotal || key.ends_with("LEFT")) lines.push_back({0, 0, 1, Cell.bottom});
+    if (bTotal || key.ends_with("RIGHT")) lines.push_back({Cell.right - 1, 0, Cell.right, Cell.bottom});
+    return lines;
 }
 
-Size SizeOf(const std::string& key)
+std::vector<Rect> OpaqueParts(const std::string& key)
 {
-    if (key == "IDB_CRX_RACK") return RailSize;
-    if (key.starts_with("IDB_CRX_RACKNR")) return {12, 13};
-    if (key.starts_with("IDB_COMP_")) return {16, 16};
-    if (key == "IDB_DIAG_FAILURE") return {12, 12};
-    if (key.starts_with("IDB_DIAG_")) return {12, 8};
-    return PlaceSize;
+    if (key == "IDB_CRX_RACK")
+        return {{0, 0, 218, 1}, {0, 61, 218, 62}, {0, 1, 1, 14}, {13, 1, 14, 14}, {0, 14, 14, 61}, {212, 1, 218, 61}};
+    if (key.starts_with("IDB_CRX_RACKNR")) return {{0, 0, 12, 13}};
+    if (key.starts_with("IDB_CRX_FRAME_")) return FrameLines(key);
+    if (key.starts_with("IDB_COMP_")) return {{0, 0, 16, 16}};
+    if (key == "IDB_DIAG_FAILURE") return {{0, 0, 12, 12}};
+    if (key.starts_with("IDB_DIAG_")) return {{0, 0, 12, 8}};
+    return {{0, 0, 18, 34}, {0, 46, 18, 60}, {0, 34, 2, 46}, {17, 34, 18, 46}};
 }
 
 } // namespace
 
-FakeImage::FakeImage(std::string key) : msKey(std::move(key)), mSize(SizeOf(msKey))
-{
-    for (std::int32_t y = 0; y < mSize.height; ++y)
-        for (std::int32_t x = 0; x < mSize.width; ++x) mcolOpaque.push_back(HasInkAt({x, y}));
-}
-
-bool FakeImage::HasInkAt(Point at) const
-{
-    if (msKey == "IDB_CRX_RACK") return !IsWithin(at, 14, 1, 212, 61) && !IsWithin(at, 1, 1, 13, 14);
-    if (msKey.starts_with("IDB_CRX_FRAME_")) return IsFrameLine(at);
-    if (mSize == PlaceSize) return !IsWithin(at, 2, 34, 17, 46);
-    return true;
-}
-
-bool FakeImage::IsFrameLine(Point at) const
-{
-    const bool bHasLeft = msKey.ends_with("LEFT") || msKey.ends_with("TOTAL");
-    const bool bHasRight = msKey.ends_with("RIGHT") || msKey.ends_with("TOTAL");
-    return at.y == 0 || at.y == PlaceSize.height - 1 || (bHasLeft && at.x == 0) ||
-           (bHasRight && at.x == PlaceSize.width - 1);
-}
+FakeImage::FakeImage(std::string sKey) : key(std::move(sKey)), opaque(OpaqueParts(key)) {}
 
 } // namespace zqbchwcx::testing

@@ -12,8 +12,6 @@ namespace zqbchwcx::testing {
 /// the same have the same raster.
 class Raster {
 public:
-    using Ink = std::uint64_t;
-
     /// Keeps what fits; new pixels are in the colour.
     void Resize(Size size, OleColor color);
     Size RasterSize() const { return mSize; }
@@ -24,13 +22,16 @@ public:
     /// Inverts every other pixel of the outline; twice is never.
     void InvertOutline(const Rect& rect);
 
-    Ink At(Point at) const;
     /// Where the two differ, as "x,y"; empty when they are the same.
     static std::string FirstDifference(const Raster& a, const Raster& b);
 
 private:
-    bool Contains(Point at) const;
-    void Set(Point at, Ink ink);
+    using Ink = std::uint64_t;
+
+    /// Gives every pixel of the part of a drawing, whose corner lies there, an ink of its own.
+    void Paint(const Rect& part, Point corner, Ink drawing);
+    /// Null outside the picture.
+    Ink* At(std::int32_t x, std::int32_t y);
 
     Size mSize;
     std::vector<Ink> mcolInks;

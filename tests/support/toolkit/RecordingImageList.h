@@ -3,7 +3,6 @@
 #include "tests/support/services/CallLog.h"
 #include "tests/support/toolkit/FakeImage.h"
 
-#include <map>
 #include <set>
 
 namespace zqbchwcx::testing {
@@ -21,33 +20,25 @@ public:
     {
     }
 
-    std::int32_t Count() const override { return static_cast<std::int32_t>(mcolImages.size()); }
-    void Key(std::int32_t /*lIndex*/, std::string_view key) override { Call("ImageList.Key"), Add(key); }
-    bool Contains(std::string_view key) const override
-    {
-        return Answer("ImageList.Contains", mcolImages.contains(std::string(key)));
-    }
+    std::int32_t Count() const override { return static_cast<std::int32_t>(mcolKeys.size()); }
+    void Key(std::int32_t /*lIndex*/, std::string_view key) override { Call("ImageList.Key"), mcolKeys.emplace(key); }
+    bool Contains(std::string_view key) const override { return Answer("ImageList.Contains", mcolKeys.contains(key)); }
     bool AddFile(std::string_view path, std::string_view key) override
     {
         moFiles->asked.emplace_back(path);
         Call("ImageList.AddFile");
-        if (!moFiles->existing.contains(std::string(path))) return false;
-        Add(key);
-        return true;
+        return moFiles->existing.contains(std::string(path)) && mcolKeys.emplace(key).second;
     }
 
-    const FakeImage& At(std::string_view key) const
+    FakeImage At(std::string_view key) const
     {
-        const auto found = mcolImages.find(std::string(key));
-        if (found == mcolImages.end()) throw VxError(vxErrorInvalidArgument, "There is no image " + std::string(key));
-        return found->second;
+        if (!mcolKeys.contains(key)) throw VxError(vxErrorInvalidArgument, "There is no image " + std::string(key));
+        return FakeImage(std::string(key));
     }
 
 private:
-    void Add(std::string_view key) { mcolImages.emplace(key, FakeImage(std::string(key))); }
-
     std::shared_ptr<FakePictureFiles> moFiles;
-    std::map<std::string, FakeImage> mcolImages;
+    std::set<std::string, std::less<>> mcolKeys;
 };
 
 class RecordingImageListFactory : public ImageListFactory, public Logged {

@@ -28,22 +28,14 @@ public:
         if (ScaleSize() != raster.RasterSize()) raster.Resize(ScaleSize(), mBackColor);
     }
     bool Visible() const override { return mbVisible; }
-    void Visible(bool bVisible) override
-    {
-        Call("PictureBox.Visible");
-        mbVisible = bVisible;
-    }
+    void Visible(bool bVisible) override { Call("PictureBox.Visible"), mbVisible = bVisible; }
     void BackColor(OleColor color) override
     {
         Line("BackColor " + Named(color));
         mBackColor = color;
         raster.Fill(MakeRect(0, 0, mRect.width(), mRect.height()), color);
     }
-    void Refresh() override
-    {
-        Call("PictureBox.Refresh");
-        ++refreshCount;
-    }
+    void Refresh() override { Call("PictureBox.Refresh"); }
     bool HasFocus() const override { return mbFocus; }
     void SetFocus() override { Focus(true); }
     void OLEDrag() override
@@ -79,14 +71,14 @@ public:
     }
     void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) override
     {
-        const auto& image = dynamic_cast<const RecordingImageList&>(list).At(key);
+        const FakeImage image = dynamic_cast<const RecordingImageList&>(list).At(key);
         Line(Styled(key, at, style));
         raster.Draw(image, at, style);
     }
     void DrawImage(const Image& image, Point at, DrawStyle style) override
     {
         const auto& fake = dynamic_cast<const FakeImage&>(image);
-        Line(Styled(fake.Key(), at, style));
+        Line(Styled(fake.key, at, style));
         raster.Draw(fake, at, style);
     }
     void DrawFocusRect(const Rect& rect) override
@@ -108,7 +100,6 @@ public:
 
     std::vector<std::string> lines;
     Raster raster;
-    std::int32_t refreshCount = 0;
     std::function<void()> onDrag; ///< what happens during `OLEDrag`
 
 private:

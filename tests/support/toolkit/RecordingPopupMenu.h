@@ -22,17 +22,12 @@ public:
         items.push_back({std::string(name), std::string(caption)});
         return static_cast<std::int32_t>(items.size()) - 1;
     }
-    void Caption(std::int32_t lItem, std::string_view caption) override
+    void Caption(std::int32_t l, std::string_view caption) override
     {
-        Call("PopupMenu.Caption");
-        At(lItem).caption = caption;
+        Call("PopupMenu.Caption"), At(l).caption = caption;
     }
     bool Enabled(std::int32_t lItem) const override { return items.at(static_cast<std::size_t>(lItem)).enabled; }
-    void Enabled(std::int32_t lItem, bool bEnabled) override
-    {
-        Call("PopupMenu.Enabled");
-        At(lItem).enabled = bEnabled;
-    }
+    void Enabled(std::int32_t lItem, bool b) override { Call("PopupMenu.Enabled"), At(lItem).enabled = b; }
     void OnClick(std::function<void(std::int32_t lItem)> handler) override { mHandler = std::move(handler); }
     void Show(std::optional<Point> at, std::optional<std::int32_t> lDefaultItem) override
     {
@@ -44,13 +39,8 @@ public:
             if (lDefaultItem == static_cast<std::int32_t>(i)) line += "*";
         }
         shown.push_back(line);
-        if (choose) Click(*choose);
-    }
-
-    void Click(std::string_view name)
-    {
         for (std::size_t i = 0; i < items.size(); ++i)
-            if (items[i].name == name && items[i].enabled) mHandler(static_cast<std::int32_t>(i));
+            if (items[i].name == choose && items[i].enabled) mHandler(static_cast<std::int32_t>(i));
     }
 
     std::vector<Item> items;

@@ -3,11 +3,9 @@
 #include "platform/Tooltips.h"
 #include "tests/support/services/CallLog.h"
 
-#include <map>
-
 namespace zqbchwcx::testing {
 
-/// Knows who answers for which window.
+/// Knows who connected last, and whether that is still so.
 class RecordingTooltips : public TooltipService, public Logged {
 public:
     using Logged::Logged;
@@ -15,32 +13,26 @@ public:
     TooltipConnectionPtr Connect(std::intptr_t hWnd, TooltipCallback& callback) override
     {
         Call("TooltipService.Connect");
-        return std::make_unique<Connection>(mcolCallbacks, hWnd, callback);
+        auto connection = std::make_unique<Connection>();
+        connection->callback = std::make_shared<TooltipCallback*>(&callback);
+        mpCallback = connection->callback;
+        mhWnd = hWnd;
+        return connection;
     }
 
-    bool IsConnected(std::intptr_t hWnd) const { return mcolCallbacks->contains(hWnd); }
-    Tooltip Hover(std::intptr_t hWnd, Point at) const { return mcolCallbacks->at(hWnd)->GetTooltip(at); }
+    bool IsConnected() const { return !mpCallback.expired(); }
+    Tooltip Hover(std::intptr_t hWnd, Point at) const
+    {
+        return hWnd == mhWnd ? (*mpCallback.lock())->GetTooltip(at) : Tooltip{"another window", {}};
+    }
 
 private:
-    using Callbacks = std::map<std::intptr_t, TooltipCallback*>;
-
-    class Connection : public TooltipConnection {
-    public:
-        Connection(std::shared_ptr<Callbacks> callbacks, std::intptr_t hWnd, TooltipCallback& callback)
-            : mcolCallbacks(std::move(callbacks)), mhWnd(hWnd)
-        {
-            mcolCallbacks->emplace(mhWnd, &callback);
-        }
-        ~Connection() override { mcolCallbacks->erase(mhWnd); }
-        Connection(const Connection&) = delete;
-        Connection& operator=(const Connection&) = delete;
-
-    private:
-        std::shared_ptr<Callbacks> mcolCallbacks;
-        std::intptr_t mhWnd;
+    struct Connection : TooltipConnection {
+        std::shared_ptr<TooltipCallback*> callback;
     };
 
-    std::shared_ptr<Callbacks> mcolCallbacks = std::make_shared<Callbacks>();
+    std::weak_ptr<TooltipCallback*> mpCallback;
+    std::intptr_t mhWnd = 0;
 };
 
 } // namespace zqbchwcx::testing

@@ -7,6 +7,7 @@
 #include "foundation/model/VxHWModule.h"
 #include "foundation/model/VxHWModules.h"
 
+#include <QBitmap>
 #include <QDirIterator>
 #include <QMimeData>
 
@@ -66,7 +67,6 @@ TEST_F(CatalogueTest, FindsAllWordsInNumberNameAndDescriptionWhateverTheirCase)
     filter.Search(QStringLiteral("PRECISION ai"));
     EXPECT_EQ(Found(), std::set<QString>{QStringLiteral("Q3-AI08-P")});
     filter.Search(QStringLiteral("no such thing"));
-    EXPECT_EQ(filter.TypeCount(), 0);
     EXPECT_FALSE(filter.FirstType().isValid());
 }
 
@@ -83,27 +83,15 @@ TEST_F(CatalogueTest, ADraggedTypeIsReadBackAsTheModuleThatItIs)
         const auto modules = station.ModulesFromConfigText(text.toStdString(), nullptr);
         ASSERT_EQ(modules->Count(), std::max(type.placeCount, 1)) << type.orderNumber;
         EXPECT_EQ(modules->Item(0)->OrderNumber(), type.orderNumber);
+        EXPECT_FALSE(services.Pictures().Picture(type, 1.5, 2.0).isNull()) << type.orderNumber;
     }
 }
 
-TEST_F(CatalogueTest, EveryTypeHasAPicture)
-{
-    for (const ModuleType& type : services.Catalogue().Types()) {
-        const QImage picture = services.Pictures().Picture(type, 1.5, 2.0).toImage();
-        EXPECT_FALSE(picture.isNull()) << type.orderNumber;
-    }
-}
-
-TEST_F(CatalogueTest, IconsTakeTheInkOfThePalette)
+TEST_F(CatalogueTest, EveryIconDrawsSomething)
 {
     for (QDirIterator icons(QStringLiteral(":/icons")); icons.hasNext();) {
-        icons.next();
-        const QImage picture = SvgIcon(icons.fileInfo().baseName()).pixmap(20, 20).toImage();
-        int drawn = 0;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) drawn += picture.pixelColor(x, y).alpha() > 128;
-        }
-        EXPECT_GT(drawn, 20) << icons.filePath().toStdString();
+        const QString name = QFileInfo(icons.next()).baseName();
+        EXPECT_FALSE(QRegion(SvgIcon(name).pixmap(20, 20).mask()).isEmpty()) << name.toStdString();
     }
 }
 

@@ -25,11 +25,7 @@ protected:
         module.parameters = {{"highLimit", 15.0}, {"limitInterrupt", true}};
     }
 
-    ParameterDialog& Open()
-    {
-        dialog = std::make_unique<ParameterDialog>(module, context, nullptr);
-        return *dialog;
-    }
+    void Open() { dialog = std::make_unique<ParameterDialog>(module, context, nullptr); }
     /// The input with that accessible name: the label in the window's language.
     template <class Widget = QLineEdit>
     Widget* Input(const char* label)
@@ -39,12 +35,11 @@ protected:
         }
         return nullptr;
     }
-    const ParameterDefinition& Definition(const char* key) const
+    const char* Label(const char* key) const
     {
         const auto& all = services.Catalogue().Find(module.orderNumber)->parameters;
-        return *std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.key == key; });
+        return std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.key == key; })->label.en.c_str();
     }
-    const char* Label(const char* key) const { return Definition(key).label.en.c_str(); }
     QPushButton* Button(QDialogButtonBox::StandardButton which)
     {
         return dialog->findChild<QDialogButtonBox*>()->button(which);
@@ -58,20 +53,19 @@ protected:
 
 TEST_F(ParameterDialogTest, ChangesNothingByBeingOpenForAnyTypeOfTheCatalogue)
 {
+    const auto makeModule = [&](const std::string& orderNumber, std::int32_t address) {
+        const ModuleType& type = *services.Catalogue().Find(orderNumber);
+        ModuleData made;
+        made.orderNumber = orderNumber;
+        if (type.inputBytes > 0) made.inputAddress = address;
+        if (type.outputBytes > 0) made.outputAddress = address;
+        return made;
+    };
     for (const ModuleType& type : services.Catalogue().Types()) {
-        module = {};
-        module.orderNumber = type.orderNumber;
-        if (type.inputBytes > 0) module.inputAddress = 8;
-        if (type.outputBytes > 0) module.outputAddress = 8;
-        for (const std::string& orderNumber : type.subModules) {
-            ModuleData subModule;
-            subModule.orderNumber = orderNumber;
-            const ModuleType* subType = services.Catalogue().Find(orderNumber);
-            if (subType->inputBytes > 0) subModule.inputAddress = 64;
-            if (subType->outputBytes > 0) subModule.outputAddress = 64;
-            module.subModules.push_back(subModule);
-        }
-        EXPECT_EQ(Open().Result(), module) << type.orderNumber;
+        module = makeModule(type.orderNumber, 8);
+        for (const std::string& orderNumber : type.subModules) module.subModules.push_back(makeModule(orderNumber, 64));
+        Open();
+        EXPECT_EQ(dialog->Result(), module) << type.orderNumber;
         EXPECT_TRUE(IsOkEnabled()) << type.orderNumber;
         EXPECT_FALSE(Button(QDialogButtonBox::RestoreDefaults)->isEnabled()) << type.orderNumber;
     }
@@ -84,12 +78,10 @@ TEST_F(ParameterDialogTest, GivesBackWhatWasTyped)
     Input("Input address")->setText(QStringLiteral("12"));
     Input(Label("highLimit"))->setText(QStringLiteral("10.5"));
     Input<QCheckBox>(Label("limitInterrupt"))->setChecked(false);
-    ModuleData expected = module;
-    expected.name = "Levels";
-    expected.inputAddress = 12;
-    expected.parameters["highLimit"] = 10.5;
-    expected.parameters.erase("limitInterrupt"); // its default
-    EXPECT_EQ(dialog->Result(), expected);
+    module.name = "Levels";
+    module.inputAddress = 12;
+    module.parameters = {{"highLimit", 10.5}}; // the other one has its default
+    EXPECT_EQ(dialog->Result(), module);
 }
 
 TEST_F(ParameterDialogTest, IsNotAcceptedWhileSomethingIsInvalidAndSaysWhereAndWhy)
@@ -121,9 +113,8 @@ TEST_F(ParameterDialogTest, RestoresTheDefaultsOfParametersOnly)
 {
     Open();
     Button(QDialogButtonBox::RestoreDefaults)->click();
-    ModuleData expected = module;
-    expected.parameters.clear();
-    EXPECT_EQ(dialog->Result(), expected);
+    module.parameters.clear();
+    EXPECT_EQ(dialog->Result(), module);
     EXPECT_FALSE(Button(QDialogButtonBox::RestoreDefaults)->isEnabled());
 }
 
@@ -144,19 +135,15 @@ TEST_F(ParameterDialogTest, EditsSubModulesOnPagesOfTheirOwn)
 {
     module = {};
     module.orderNumber = "Q3-CP30-C";
-    for (const std::string& orderNumber : services.Catalogue().Find(module.orderNumber)->subModules) {
+    for (const std::string& orderNumber : services.Catalogue().Find(module.orderNumber)->subModules)
         module.subModules.emplace_back().orderNumber = orderNumber;
-    }
     Open();
     auto* pages = dialog->findChild<QStackedWidget*>();
     ASSERT_EQ(pages->count(), static_cast<int>(module.subModules.size()) + 1);
-    for (auto* edit : pages->widget(2)->findChildren<QLineEdit*>()) {
+    for (auto* edit : pages->widget(2)->findChildren<QLineEdit*>())
         if (edit->accessibleName() == QStringLiteral("Comment")) edit->setText(QStringLiteral("second"));
-    }
-    const ModuleData result = dialog->Result();
-    EXPECT_EQ(result.comment, "");
-    EXPECT_EQ(result.subModules[0].comment, "");
-    EXPECT_EQ(result.subModules[1].comment, "second");
+    module.subModules[1].comment = "second";
+    EXPECT_EQ(dialog->Result(), module);
 }
 
 } // namespace

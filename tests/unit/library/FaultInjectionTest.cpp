@@ -1,4 +1,5 @@
-#include "tests/unit/library/ConfigWorld.h"
+#include "managers/VxHWConfigManager.h"
+#include "tests/support/StationStage.h"
 
 // Every operation of the configuration mode is run again and again, and each time another one of the calls that it
 // makes to the model and the host fails.
@@ -6,66 +7,90 @@
 namespace zqbchwcx::testing {
 namespace {
 
-enum class Mode { Editable, ReadOnlyOnline, ReadOnlyOffline };
+/// Configuration mode as a host sets it up: a station with some modules, two views, and the manager between them.
+class ConfigWorld : public StationStage {
+public:
+    explicit ConfigWorld(bool bReadOnly = false, std::int32_t lDisplayMode = vxDisplayModeOffline)
+    {
+        station->readOnly = bReadOnly;
+        station->displayMode = lDisplayMode;
+        station->Put(0, 2, "A")->hasParamDialog = true;
+        station->Put(0, 3, "B");
+        station->Put(0, 5, "W", 3);
+    }
+
+    void Initialize()
+    {
+        manager = std::make_shared<VxHWConfigManager>();
+        manager->Initialize(vxStationTypeCentral, overview, table, station);
+        handler = manager->VxHWSelectionHandler();
+    }
+    IVxHWMouseInputController& Mouse() const { return *overview->VxHWMouseInputController(); }
+    IVxHWKeyInputController& Key() const { return *overview->VxHWKeyInputController(); }
+    IVxHWDragDropController& DragDrop() const { return *overview->VxHWDragDropController(); }
+
+    /// Selects place 2, which holds module A, and place 3, which holds B; the focus is on the first.
+    void SelectTwoModules()
+    {
+        FocusAndAnchor(4, 4);
+        Select({{0, 2}, {0, 3}});
+    }
+    /// Selects a member of the module W, which spans the places 5 to 7.
+    void SelectMember()
+    {
+        handler->FocusPosition(12);
+        Select({{0, 6}});
+    }
+    void StartDrag(std::int32_t lPosition) const
+    {
+        std::int32_t lEffect = 0;
+        DragDrop().OLEStartDrag(data, lEffect);
+        DragDrop().OLESetData(data, FakeExchangeData::Format);
+        Over(lPosition, vxDragEnter);
+    }
+    void Over(std::int32_t lPosition, std::int16_t nState) const
+    {
+        std::int32_t lEffect = vxDropEffectCopyOrMove;
+        DragDrop().OLEDragOver(lPosition, data, lEffect, vxButtonLeft, 0, nState);
+    }
+    void Drop(std::int32_t lPosition, std::int16_t nShift) const
+    {
+        std::int32_t lEffect = vxDropEffectCopyOrMove;
+        DragDrop().OLEDragDrop(lPosition, data, lEffect, vxButtonLeft, nShift);
+    }
+    void Complete() const
+    {
+        std::int32_t lEffect = vxDropEffectMove;
+        DragDrop().OLECompleteDrag(lEffect);
+    }
+    std::shared_ptr<VxHWConfigManager> manager;
+};
+
+enum Trait : unsigned {
+    ReadOnlyOnline = 1,
+    ReadOnlyOffline = 2,
+    MayLeaveDrawingOff = 4,
+    /// The operation connects or disconnects the world, so the next event comes after connecting it anew.
+    IsConnection = 8,
+    EndsDrag = 16,
+    /// Whatever fails, every module is still in the station or on the clipboard.
+    KeepsModules = 32,
+};
+
+using Step = std::function<void(ConfigWorld&)>;
 
 struct Scenario {
     const char* name;
-    std::function<void(ConfigWorld&)> prepare;
-    std::function<void(ConfigWorld&)> operate;
-    Mode mode = Mode::Editable;
-    /// An error may leave the station's drawing switched off.
-    bool mayLeaveDrawingOff = false;
-    /// The operation connects or disconnects the world, so the next event comes after connecting it anew.
-    bool isConnection = false;
-    /// Whatever fails, every module is still in the station or on the clipboard.
-    bool mustKeepModules = false;
+    Step prepare;
+    Step operate;
+    unsigned traits = 0;
+
+    bool Has(Trait trait) const { return (traits & trait) != 0; }
 };
 
 void PrintTo(const Scenario& scenario, std::ostream* stream)
 {
     *stream << scenario.name;
-}
-
-void Nothing(ConfigWorld& /*world*/) {}
-
-void TwoModules(ConfigWorld& world)
-{
-    world.SelectTwoModules();
-}
-
-void Member(ConfigWorld& world)
-{
-    world.SelectMember();
-}
-
-std::function<void(ConfigWorld&)> Click(std::int32_t lPosition, std::int16_t nShift = 0)
-{
-    return [=](ConfigWorld& world) {
-        world.Mouse().MouseDown(lPosition, vxButtonLeft, nShift);
-        world.Mouse().MouseUp(lPosition, vxButtonLeft, nShift);
-    };
-}
-
-std::function<void(ConfigWorld&)> Key(void (IVxHWKeyInputController::*command)() noexcept)
-{
-    return [=](ConfigWorld& world) { (world.Key().*command)(); };
-}
-
-std::function<void(ConfigWorld&)> Cursor(std::int32_t lPosition, std::int16_t nShift)
-{
-    return [=](ConfigWorld& world) { world.Key().CursorKeyDown(lPosition, nShift); };
-}
-
-std::function<void(ConfigWorld&)> Space(std::int16_t nShift)
-{
-    return [=](ConfigWorld& world) { world.Key().SpaceKeyDown(nShift); };
-}
-
-void CopyThenGoToPlaceNine(ConfigWorld& world)
-{
-    world.SelectTwoModules();
-    world.Key().Copy();
-    world.Key().CursorKeyDown(18, 0);
 }
 
 void DragOverPlaceNine(ConfigWorld& world)
@@ -74,7 +99,35 @@ void DragOverPlaceNine(ConfigWorld& world)
     world.StartDrag(18);
 }
 
-std::function<void(ConfigWorld&)> Insert(std::int32_t lPlaceCount)
+Step Click(std::int32_t lPosition, std::int16_t nShift = 0)
+{
+    return [=](ConfigWorld& world) {
+        world.Mouse().MouseDown(lPosition, vxButtonLeft, nShift);
+        world.Mouse().MouseUp(lPosition, vxButtonLeft, nShift);
+    };
+}
+
+Step Key(void (IVxHWKeyInputController::*command)() noexcept)
+{
+    return [=](ConfigWorld& world) { (world.Key().*command)(); };
+}
+
+Step Cursor(std::int32_t lPosition, std::int16_t nShift = 0)
+{
+    return [=](ConfigWorld& world) { world.Key().CursorKeyDown(lPosition, nShift); };
+}
+
+Step Space(std::int16_t nShift)
+{
+    return [=](ConfigWorld& world) { world.Key().SpaceKeyDown(nShift); };
+}
+
+Step Drop(std::int32_t lPosition, std::int16_t nShift = 0)
+{
+    return [=](ConfigWorld& world) { world.Drop(lPosition, nShift); };
+}
+
+Step Insert(std::int32_t lPlaceCount)
 {
     return [=](ConfigWorld& world) {
         auto module = world.station->MakeModule("M");
@@ -84,42 +137,47 @@ std::function<void(ConfigWorld&)> Insert(std::int32_t lPlaceCount)
     };
 }
 
-void Initialize(ConfigWorld& world)
-{
-    world.Initialize();
-}
-
 std::vector<Scenario> Scenarios()
 {
     constexpr std::int16_t Shift = vxShiftMask;
     constexpr std::int16_t Ctrl = vxCtrlMask;
     using Keys = IVxHWKeyInputController;
+    const Step nothing = [](ConfigWorld&) {};
+    const Step twoModules = &ConfigWorld::SelectTwoModules;
+    const Step member = &ConfigWorld::SelectMember;
+    const Step initialize = &ConfigWorld::Initialize;
     return {
-        {"ClickOutside", TwoModules, Click(-1)},
-        {"ClickOnPlace", TwoModules, Click(4)},
-        {"ClickOnOtherPlace", TwoModules, Click(10)},
-        {"ClickOnGap", TwoModules, Click(5)},
-        {"ClickOnRack", TwoModules, Click(1000)},
-        {"ShiftClick", TwoModules, Click(1008, Shift)},
-        {"CtrlClickOnSelected", TwoModules, Click(6, Ctrl)},
-        {"CtrlClickInOtherRack", TwoModules, Click(1006, Ctrl)},
-        {"CtrlClickOnGap", TwoModules, Click(1007, Ctrl)},
-        {"DoubleClick", Nothing, [](ConfigWorld& world) { world.Mouse().DblClick(4); }},
-        {"Cursor", TwoModules, Cursor(8, 0)},
-        {"ShiftCursor", TwoModules, Cursor(8, Shift)},
-        {"CursorOnline", TwoModules, Cursor(8, 0), Mode::ReadOnlyOnline},
-        {"Space", TwoModules, Space(0)},
-        {"ShiftSpace", TwoModules, Space(Shift)},
-        {"CtrlSpace", TwoModules, Space(Ctrl)},
-        {"Delete", Member, Key(&Keys::Delete)},
-        {"Cut", Member, Key(&Keys::Cut), Mode::Editable, false, false, true},
-        {"Copy", Member, Key(&Keys::Copy)},
-        {"CopyOffline", TwoModules, Key(&Keys::Copy), Mode::ReadOnlyOffline},
-        {"Paste", CopyThenGoToPlaceNine, Key(&Keys::Paste)},
-        {"KeyReturn", TwoModules, Key(&Keys::KeyReturn)},
-        {"KeyReturnOnline", TwoModules, Key(&Keys::KeyReturn), Mode::ReadOnlyOnline},
-        {"IsValidDragPosition", TwoModules, [](ConfigWorld& world) { world.DragDrop().IsValidDragPosition(5); }},
-        {"DragIntoView", Member, [](ConfigWorld& world) { world.StartDrag(18); }},
+        {"ClickOutside", twoModules, Click(-1)},
+        {"ClickOnPlace", twoModules, Click(4)},
+        {"ClickOnOtherPlace", twoModules, Click(10)},
+        {"ClickOnGap", twoModules, Click(5)},
+        {"ClickOnRack", twoModules, Click(1000)},
+        {"ShiftClick", twoModules, Click(1008, Shift)},
+        {"CtrlClickOnSelected", twoModules, Click(6, Ctrl)},
+        {"CtrlClickInOtherRack", twoModules, Click(1006, Ctrl)},
+        {"CtrlClickOnGap", twoModules, Click(1007, Ctrl)},
+        {"DoubleClick", nothing, [](ConfigWorld& world) { world.Mouse().DblClick(4); }},
+        {"Cursor", twoModules, Cursor(8)},
+        {"ShiftCursor", twoModules, Cursor(8, Shift)},
+        {"CursorOnline", twoModules, Cursor(8), ReadOnlyOnline},
+        {"Space", twoModules, Space(0)},
+        {"ShiftSpace", twoModules, Space(Shift)},
+        {"CtrlSpace", twoModules, Space(Ctrl)},
+        {"Delete", member, Key(&Keys::Delete)},
+        {"Cut", member, Key(&Keys::Cut), KeepsModules},
+        {"Copy", member, Key(&Keys::Copy)},
+        {"CopyOffline", twoModules, Key(&Keys::Copy), ReadOnlyOffline},
+        {"Paste",
+         [](ConfigWorld& world) {
+             world.SelectTwoModules();
+             world.Key().Copy();
+             world.Key().CursorKeyDown(18, 0);
+         },
+         Key(&Keys::Paste)},
+        {"KeyReturn", twoModules, Key(&Keys::KeyReturn)},
+        {"KeyReturnOnline", twoModules, Key(&Keys::KeyReturn), ReadOnlyOnline},
+        {"IsValidDragPosition", twoModules, [](ConfigWorld& world) { world.DragDrop().IsValidDragPosition(5); }},
+        {"DragIntoView", member, [](ConfigWorld& world) { world.StartDrag(18); }},
         {"DragOver", DragOverPlaceNine, [](ConfigWorld& world) { world.Over(1006, vxDragOver); }},
         {"IsDropPlace", DragOverPlaceNine,
          [](ConfigWorld& world) { world.DragDrop().IsDropPlace(world.station->Place(0, 9)); }},
@@ -128,36 +186,35 @@ std::vector<Scenario> Scenarios()
              world.Over(18, vxDragLeave);
              world.services.toolkit->clock.Advance(20);
          }},
-        {"DropMove", DragOverPlaceNine, [](ConfigWorld& world) { world.Drop(18, 0); }},
-        {"DropCopy", DragOverPlaceNine, [](ConfigWorld& world) { world.Drop(1008, vxCtrlMask); }},
-        {"DropOnRack", DragOverPlaceNine, [](ConfigWorld& world) { world.Drop(1000, 0); }},
-        {"CompleteMove", DragOverPlaceNine, [](ConfigWorld& world) { world.Complete(); }},
-        {"DragAndDrop", TwoModules,
+        {"DropMove", DragOverPlaceNine, Drop(18), EndsDrag},
+        {"DropCopy", DragOverPlaceNine, Drop(1008, Ctrl), EndsDrag},
+        {"DropOnRack", DragOverPlaceNine, Drop(1000), EndsDrag},
+        {"CompleteMove", DragOverPlaceNine, &ConfigWorld::Complete},
+        {"DragAndDrop", twoModules,
          [](ConfigWorld& world) {
              world.StartDrag(18);
              world.Drop(18, 0);
              world.Complete();
          },
-         Mode::Editable, false, false, true},
-        {"SelectRack", Nothing, [](ConfigWorld& world) { world.handler->SelectRack(world.station->Rack(1)); }},
-        {"IsParentModuleSelected", Member,
+         KeepsModules},
+        {"SelectRack", nothing, [](ConfigWorld& world) { world.handler->SelectRack(world.station->Rack(1)); }},
+        {"IsParentModuleSelected", member,
          [](ConfigWorld& world) { world.handler->IsParentModuleSelected(world.station->Module(0, 6)->parent); }},
-        {"IsModuleInFocus", TwoModules, [](ConfigWorld& world) { world.handler->IsModuleInFocus(); }},
-        {"InsertModule", [](ConfigWorld& world) { world.Key().CursorKeyDown(8, 0); }, Insert(0), Mode::Editable, true},
-        {"InsertModuleAtGap", [](ConfigWorld& world) { world.Key().CursorKeyDown(17, 0); }, Insert(2), Mode::Editable,
-         true},
-        {"Initialize", Nothing, Initialize, Mode::Editable, false, true},
-        {"InitializeOnline", Nothing, Initialize, Mode::ReadOnlyOnline, false, true},
-        {"InitializeOffline", Nothing, Initialize, Mode::ReadOnlyOffline, false, true},
-        {"Terminate", Nothing, [](ConfigWorld& world) { world.manager->Terminate(); }, Mode::Editable, false, true},
+        {"IsModuleInFocus", twoModules, [](ConfigWorld& world) { world.handler->IsModuleInFocus(); }},
+        {"InsertModule", Cursor(8), Insert(0), MayLeaveDrawingOff},
+        {"InsertModuleAtGap", Cursor(17), Insert(2), MayLeaveDrawingOff},
+        {"Initialize", nothing, initialize, IsConnection},
+        {"InitializeOnline", nothing, initialize, IsConnection | ReadOnlyOnline},
+        {"InitializeOffline", nothing, initialize, IsConnection | ReadOnlyOffline},
+        {"Terminate", nothing, [](ConfigWorld& world) { world.manager->Terminate(); }, IsConnection},
     };
 }
 
 std::unique_ptr<ConfigWorld> MakeWorld(const Scenario& scenario)
 {
-    auto world = std::make_unique<ConfigWorld>(scenario.mode != Mode::Editable, scenario.mode == Mode::ReadOnlyOnline
-                                                                                    ? vxDisplayModeOnline1
-                                                                                    : vxDisplayModeOffline);
+    const bool bOnline = scenario.Has(ReadOnlyOnline);
+    auto world = std::make_unique<ConfigWorld>(bOnline || scenario.Has(ReadOnlyOffline),
+                                               bOnline ? vxDisplayModeOnline1 : vxDisplayModeOffline);
     world->Initialize();
     scenario.prepare(*world);
     EXPECT_TRUE(world->services.host->reports.empty());
@@ -166,20 +223,16 @@ std::unique_ptr<ConfigWorld> MakeWorld(const Scenario& scenario)
     return world;
 }
 
-/// Errors in looking up the host application are no errors of the library: the wait cursor then is the screen's.
-bool IsReportedAtAll(const std::string& call)
-{
-    return call != "ObjectLookup.Create";
-}
-
 void ExpectBracketsClosed(const ConfigWorld& world, const Scenario& scenario)
 {
-    EXPECT_EQ(world.LineCount("DoWaitCursor 1") + world.LineCount("Pointer hourglass"),
-              world.LineCount("DoWaitCursor -1") + world.LineCount("Pointer default"));
+    const auto count = [&](std::string_view line) {
+        return std::count(world.services.Lines().begin(), world.services.Lines().end(), line);
+    };
+    EXPECT_EQ(count("DoWaitCursor 1") + count("Pointer hourglass"),
+              count("DoWaitCursor -1") + count("Pointer default"));
     EXPECT_EQ(world.services.host->openActions, 0);
-    EXPECT_TRUE(world.station->drawable || scenario.mayLeaveDrawingOff);
-    const bool bDragEnded = std::string_view(scenario.name).starts_with("Drop");
-    EXPECT_TRUE(!bDragEnded || world.DragDrop().State() == vxDragDropStateInactive);
+    EXPECT_TRUE(world.station->drawable || scenario.Has(MayLeaveDrawingOff));
+    EXPECT_TRUE(!scenario.Has(EndsDrag) || world.DragDrop().State() == vxDragDropStateInactive);
 }
 
 void ExpectReport(const ConfigWorld& world)
@@ -187,10 +240,7 @@ void ExpectReport(const ConfigWorld& world)
     const auto& reports = world.services.host->reports;
     ASSERT_FALSE(reports.empty());
     EXPECT_EQ(reports.front().number, FaultPoints::InjectedNumber);
-    const std::string& source = reports.front().source;
-    EXPECT_TRUE(source.starts_with("zqbchwcx.VxHW") || source.starts_with("zqbchwcx.mdl_")) << source;
-    EXPECT_EQ(std::count(source.begin(), source.end(), '.'), 2) << source;
-    EXPECT_FALSE(source.ends_with('.')) << source;
+    EXPECT_THAT(reports.front().source, ::testing::MatchesRegex("zqbchwcx\\.(VxHW|mdl_)\\w+\\.\\w+"));
 }
 
 void ExpectNoModuleLost(const ConfigWorld& world)
@@ -203,12 +253,12 @@ void ExpectNoModuleLost(const ConfigWorld& world)
 void ExpectNextEventWorks(ConfigWorld& world, const Scenario& scenario)
 {
     world.services.Faults().Restart();
-    world.services.host->reports.clear();
-    if (scenario.isConnection) Initialize(world);
+    world.TakeReports();
+    if (scenario.Has(IsConnection)) world.Initialize();
     world.Key().CursorKeyDown(1010, 0);
-    EXPECT_EQ(world.SelPlaces().Keys(), "1/5");
+    EXPECT_EQ(world.Selection(), "1/5");
     EXPECT_EQ(world.handler->FocusPosition(), 1010);
-    EXPECT_TRUE(world.services.host->reports.empty()) << world.services.host->reports.front().source;
+    EXPECT_EQ(world.TakeReports(), Lines{});
 }
 
 class EveryCall : public ::testing::TestWithParam<Scenario> {};
@@ -219,20 +269,20 @@ TEST_P(EveryCall, MayFail)
     const auto undisturbed = MakeWorld(scenario);
     scenario.operate(*undisturbed);
     const std::int32_t lCalls = undisturbed->services.Faults().Count();
-    EXPECT_TRUE(undisturbed->services.host->reports.empty());
+    EXPECT_EQ(undisturbed->TakeReports(), Lines{});
     ASSERT_GT(lCalls, 0);
-    for (std::int32_t lCall = 1; lCall <= lCalls; ++lCall) {
+    for (std::int32_t lCall = 1; lCall <= lCalls && !HasFailure(); ++lCall) {
         const auto world = MakeWorld(scenario);
         world->services.Faults().ThrowAt(lCall);
         scenario.operate(*world);
         const std::string call = world->services.Faults().Thrown();
-        SCOPED_TRACE(std::string(scenario.name) + ", call " + std::to_string(lCall) + ": " + call);
+        SCOPED_TRACE("call " + std::to_string(lCall) + ": " + call);
         ASSERT_FALSE(call.empty());
         ExpectBracketsClosed(*world, scenario);
-        if (IsReportedAtAll(call)) ExpectReport(*world);
-        if (scenario.mustKeepModules) ExpectNoModuleLost(*world);
+        // Without the host application the wait cursor is the screen's, which is nobody's error.
+        if (call != "ObjectLookup.Create") ExpectReport(*world);
+        if (scenario.Has(KeepsModules)) ExpectNoModuleLost(*world);
         ExpectNextEventWorks(*world, scenario);
-        if (HasFailure()) return;
     }
 }
 

@@ -11,29 +11,42 @@ using ::testing::IsEmpty;
 
 class ConfigKey : public StationFixture {
 protected:
-    std::string Cursor(IVxHWKeyInputController& controller, std::int32_t lPosition, std::int16_t nShift = 0)
+    using Controller = IVxHWKeyInputController;
+
+    std::string Cursor(Controller& controller, std::int32_t lPosition, std::int16_t nShift = 0)
     {
         controller.CursorKeyDown(lPosition, nShift);
         return Marks();
     }
-    std::string Space(IVxHWKeyInputController& controller, std::int16_t nShift = 0)
+    std::string Space(std::int16_t nShift = 0)
     {
-        controller.SpaceKeyDown(nShift);
+        key->SpaceKeyDown(nShift);
         return Marks();
+    }
+    /// What the command does within the brackets of its user action.
+    Lines ActionOf(void (Controller::*command)() noexcept, const std::string& text)
+    {
+        TakeLines();
+        (key.get()->*command)();
+        Lines lines = TakeLines();
+        EXPECT_GE(lines.size(), 4U);
+        EXPECT_EQ((Lines{lines[0], lines[1], lines.end()[-2], lines.back()}),
+                  (Lines{"BeginUserAction " + text, "DoWaitCursor 1", "DoWaitCursor -1", "EndUserAction"}));
+        return {lines.begin() + 2, lines.end() - 2};
     }
 
     std::shared_ptr<VxHWConfigCtrlKey> key = MakeController<VxHWConfigCtrlKey>();
+    std::shared_ptr<VxHWConfigROOfflineCtrlKey> offline = MakeController<VxHWConfigROOfflineCtrlKey>();
+    std::shared_ptr<VxHWConfigROCtrlKey> online = MakeController<VxHWConfigROCtrlKey>();
 };
 
 TEST_F(ConfigKey, CursorKeysMoveFocusAndSelection)
 {
-    const auto offline = MakeController<VxHWConfigROOfflineCtrlKey>();
-    for (IVxHWKeyInputController* each : std::initializer_list<IVxHWKeyInputController*>{key.get(), offline.get()}) {
+    for (Controller* each : std::initializer_list<Controller*>{key.get(), offline.get()}) {
         EXPECT_EQ(Cursor(*each, 8), "0/4 | 8 | 8");
         EXPECT_EQ(Cursor(*each, 12, vxShiftMask), "0/4 0/5 0/6 | 12 | 8");
         EXPECT_EQ(Cursor(*each, 5, vxShiftMask | vxCtrlMask), "0/4 0/3 | 5 | 8");
         EXPECT_EQ(Cursor(*each, 14, vxCtrlMask), "0/4 0/3 | 14 | 8") << "the focus moves alone";
-        EXPECT_EQ(Cursor(*each, 16, vxAltMask), "0/4 0/3 | 16 | 8");
         EXPECT_EQ(Cursor(*each, 9), " | 9 | 9");
         EXPECT_EQ(Cursor(*each, 1000), " | 1000 | 1000");
         EXPECT_EQ(Cursor(*each, 4, vxShiftMask), " | 4 | 1000") << "no range across racks";
@@ -42,11 +55,10 @@ TEST_F(ConfigKey, CursorKeysMoveFocusAndSelection)
 
 TEST_F(ConfigKey, TheOnlineReadOnlyOneSelectsTheFocusedPlaceAlone)
 {
-    const auto online = MakeController<VxHWConfigROCtrlKey>();
     EXPECT_EQ(Cursor(*online, 8), "0/4 | 8 | 8");
     EXPECT_EQ(Cursor(*online, 12, vxShiftMask), "0/6 | 12 | 12");
+    online->SpaceKeyDown(vxCtrlMask);
     EXPECT_EQ(Cursor(*online, 14, vxCtrlMask), "0/7 | 14 | 14");
-    EXPECT_EQ(Space(*online, vxCtrlMask), "0/7 | 14 | 14");
     EXPECT_EQ(Cursor(*online, 9, vxShiftMask), " | 9 | 9");
 }
 
@@ -55,75 +67,45 @@ TEST_F(ConfigKey, SpaceSelectsAtTheFocus)
     int announcements = 0;
     const EventConnection connection = handler->SelChange.Connect([&] { ++announcements; });
     FocusAndAnchor(8, 4);
-    EXPECT_EQ(Space(*key), "0/4 | 8 | 4");
-    EXPECT_EQ(Space(*key), "0/4 | 8 | 4");
+    EXPECT_EQ(Space(), "0/4 | 8 | 4");
+    EXPECT_EQ(Space(), "0/4 | 8 | 4");
     EXPECT_EQ(announcements, 2) << "announced even when nothing changes";
-    EXPECT_EQ(Space(*key, vxShiftMask), "0/2 0/3 0/4 | 8 | 4");
-    EXPECT_EQ(Space(*key, vxCtrlMask), "0/2 0/3 | 8 | 4");
-    EXPECT_EQ(Space(*key, vxCtrlMask), "0/2 0/3 0/4 | 8 | 4");
-    EXPECT_EQ(Space(*key, vxAltMask), "0/2 0/3 0/4 | 8 | 4");
+    EXPECT_EQ(Space(vxShiftMask), "0/2 0/3 0/4 | 8 | 4");
+    EXPECT_EQ(Space(vxCtrlMask), "0/2 0/3 | 8 | 4");
+    EXPECT_EQ(Space(vxCtrlMask), "0/2 0/3 0/4 | 8 | 4");
+    EXPECT_EQ(Space(vxAltMask), "0/2 0/3 0/4 | 8 | 4");
     EXPECT_EQ(announcements, 6);
     for (const std::int32_t lFocus : {9, 1000, -1}) {
         handler->FocusPosition(lFocus);
-        Space(*key, vxCtrlMask);
+        Space(vxCtrlMask);
     }
     EXPECT_EQ(Selection(), "0/2 0/3 0/4");
     EXPECT_EQ(announcements, 6);
 }
 
-TEST_F(ConfigKey, DeleteRunsAsOneActionWithDrawingOff)
-{
-    station->Put(0, 2, "A");
-    station->Put(0, 3, "B");
-    Select({{0, 1}, {0, 2}});
-    key->Delete();
-    EXPECT_THAT(TakeLines(),
-                ElementsAre("BeginUserAction T4002", "DoWaitCursor 1", "IsDrawable False", "DeleteModules [0/1 0/2]",
-                            "IsDrawable True", "DoWaitCursor -1", "EndUserAction"));
-    EXPECT_EQ(station->Content(), "0/3=B");
-    key->Delete();
-    EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4002", "DoWaitCursor 1", "DoWaitCursor -1", "EndUserAction"))
-        << "a selection of empty places deletes nothing";
-}
-
-TEST_F(ConfigKey, CutCopyAndPasteGoThroughTheClipboard)
+TEST_F(ConfigKey, DeleteCutCopyAndPasteRunAsActions)
 {
     station->Put(0, 2, "A");
     station->Put(0, 3, "B");
     Select({{0, 2}});
-    key->Copy();
-    EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4004", "DoWaitCursor 1", "WriteModulesToExchange [A]",
-                                         "PutOnClipboard", "DoWaitCursor -1", "EndUserAction"));
+    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"), IsEmpty()) << "nothing on the clipboard";
+    EXPECT_THAT(ActionOf(&Controller::Copy, "T4004"), ElementsAre("WriteModulesToExchange [A]", "PutOnClipboard"));
+    handler->FocusPosition(4);
+    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"), ElementsAre("CanBePlaced 4 [A] copy nothing")) << "no room";
     Select({{0, 2}, {0, 3}});
-    key->Cut();
-    EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4003", "DoWaitCursor 1", "WriteModulesToExchange [A B]",
-                                         "PutOnClipboard", "IsDrawable False", "DeleteModules [0/2 0/3]",
-                                         "IsDrawable True", "DoWaitCursor -1", "EndUserAction"));
-    EXPECT_EQ(station->Content(), "");
+    EXPECT_THAT(ActionOf(&Controller::Cut, "T4003"),
+                ElementsAre("WriteModulesToExchange [A B]", "PutOnClipboard", "IsDrawable False",
+                            "DeleteModules [0/2 0/3]", "IsDrawable True"));
     FocusAndAnchor(1008, 4);
-    key->Paste();
-    EXPECT_THAT(TakeLines(),
-                ElementsAre("BeginUserAction T4005", "DoWaitCursor 1", "CanBePlaced 1008 [A B] copy nothing",
-                            "IsDrawable False", "PlaceModules 1008 [A B]", "IsDrawable True", "DoWaitCursor -1",
-                            "EndUserAction"));
+    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"),
+                ElementsAre("CanBePlaced 1008 [A B] copy nothing", "IsDrawable False", "PlaceModules 1008 [A B]",
+                            "IsDrawable True"));
     EXPECT_EQ(station->Content(), "1/4=A 1/5=B");
     EXPECT_EQ(Marks(), "1/4 1/5 | 1008 | 4");
-}
-
-TEST_F(ConfigKey, PasteChangesNothingWithoutModulesOrRoom)
-{
-    key->Paste();
-    EXPECT_THAT(TakeLines(),
-                ElementsAre("BeginUserAction T4005", "DoWaitCursor 1", "DoWaitCursor -1", "EndUserAction"));
-    station->Put(0, 2, "A");
-    Select({{0, 2}});
-    key->Copy();
-    handler->FocusPosition(4);
-    TakeLines();
-    key->Paste();
-    EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4005", "DoWaitCursor 1", "CanBePlaced 4 [A] copy nothing",
-                                         "DoWaitCursor -1", "EndUserAction"));
-    EXPECT_EQ(station->Content(), "0/2=A");
+    Select({{1, 3}, {1, 4}});
+    EXPECT_THAT(ActionOf(&Controller::Delete, "T4002"),
+                ElementsAre("IsDrawable False", "DeleteModules [1/3 1/4]", "IsDrawable True"));
+    EXPECT_THAT(ActionOf(&Controller::Delete, "T4002"), IsEmpty()) << "a selection of empty places";
 }
 
 TEST_F(ConfigKey, ReturnOpensTheFirstParameterDialogOfTheSelection)
@@ -132,25 +114,19 @@ TEST_F(ConfigKey, ReturnOpensTheFirstParameterDialogOfTheSelection)
     station->Put(0, 3, "B")->hasParamDialog = true;
     station->Put(0, 4, "C")->hasParamDialog = true;
     Select({{0, 1}, {0, 2}, {0, 4}, {0, 3}});
-    const auto offline = MakeController<VxHWConfigROOfflineCtrlKey>();
-    const auto online = MakeController<VxHWConfigROCtrlKey>();
-    for (IVxHWKeyInputController* each :
-         std::initializer_list<IVxHWKeyInputController*>{key.get(), offline.get(), online.get()}) {
+    TakeLines();
+    for (Controller* each : std::initializer_list<Controller*>{key.get(), offline.get(), online.get()}) {
         each->KeyReturn();
         EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4006", "OpenModuleParamDialog 0/4", "EndUserAction"));
     }
-    Select({{0, 2}});
-    key->KeyReturn();
-    EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4006", "EndUserAction"));
 }
 
 TEST_F(ConfigKey, TheReadOnlyOnesChangeNothingInTheStation)
 {
     station->Put(0, 2, "A");
     Select({{0, 2}});
-    const auto offline = MakeController<VxHWConfigROOfflineCtrlKey>();
-    const auto online = MakeController<VxHWConfigROCtrlKey>();
-    for (IVxHWKeyInputController* each : std::initializer_list<IVxHWKeyInputController*>{offline.get(), online.get()}) {
+    TakeLines();
+    for (Controller* each : std::initializer_list<Controller*>{offline.get(), online.get()}) {
         each->Delete();
         each->Cut();
         each->Paste();
@@ -164,13 +140,10 @@ TEST_F(ConfigKey, TheReadOnlyOnesChangeNothingInTheStation)
 TEST_F(ConfigKey, AnErrorIsReportedBeforeTheActionIsClosed)
 {
     key->VxHWStation(nullptr);
-    station->Put(0, 2, "A");
+    station->Put(0, 2, "A")->hasParamDialog = true;
     Select({{0, 2}});
-    key->Delete();
-    EXPECT_THAT(TakeLines(), ElementsAre("BeginUserAction T4002", "DoWaitCursor 1",
-                                         "LogError zqbchwcx.VxHWConfigCtrlKey.IVxHWKeyInputController_Delete",
-                                         "DoWaitCursor -1", "EndUserAction"));
-    station->Module(0, 2)->hasParamDialog = true;
+    EXPECT_THAT(ActionOf(&Controller::Delete, "T4002"),
+                ElementsAre("LogError zqbchwcx.VxHWConfigCtrlKey.IVxHWKeyInputController_Delete"));
     key->KeyReturn();
     EXPECT_THAT(TakeLines(),
                 ElementsAre("BeginUserAction T4006",

@@ -13,13 +13,11 @@ TEST(Event, CallsHandlersInConnectionOrderUntilTheyDisconnect)
     Event<int> event;
     std::string calls;
     EventConnection a = event.Connect([&](int value) { calls += "a" + std::to_string(value); });
-    {
-        const EventConnection b = event.Connect([&](int) { calls += "b"; });
-        event.Raise(1);
-    }
-    EventConnection moved = std::move(a);
+    EventConnection b = event.Connect([&](int) { calls += "b"; });
+    event.Raise(1);
+    b = std::move(a);
     event.Raise(2);
-    moved.Disconnect();
+    b.Disconnect();
     event.Raise(3);
     EXPECT_EQ(calls, "a1ba2");
 }

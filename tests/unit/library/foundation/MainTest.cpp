@@ -7,41 +7,31 @@
 #include <gmock/gmock.h>
 
 #include <stdexcept>
+#include <tuple>
 
 namespace zqbchwcx::testing {
 namespace {
 
 using ::testing::ElementsAre;
 
-TEST(PlacePosition, IsTakenApart)
+TEST(PlacePosition, IsTakenApartAndANegativeOneLeavesTheSubPositionAsItWas)
 {
-    struct Case {
-        std::int32_t lPosition;
-        VxEnumPositionType eType;
-        std::int32_t lRack, lNumber, lSubPosition;
-    };
-    for (const Case& c : {Case{3000, vxPositionRack, 3, 0, 0}, Case{2023, vxPositionGap, 2, 11, 0},
-                          Case{8, vxPositionPlace, 0, 4, 0}, Case{1, vxPositionGap, 0, 0, 0},
-                          Case{201010, vxPositionPlace, 1, 5, 2}, Case{2147483647, vxPositionGap, 83, 323, 21474}}) {
-        const PositionInfo info = G_PositionInfo(c.lPosition);
-        EXPECT_EQ(info.eType, c.eType) << c.lPosition;
-        EXPECT_EQ(info.lRack, c.lRack) << c.lPosition;
-        EXPECT_EQ(info.lNumber, c.lNumber) << c.lPosition;
-        EXPECT_EQ(info.lSubPosition, c.lSubPosition) << c.lPosition;
+    VxEnumPositionType eType = vxPositionNone;
+    std::int32_t lRack = 0;
+    std::int32_t lNumber = 0;
+    std::int32_t lSub = 0;
+    using Parts = std::tuple<int, std::int32_t, std::int32_t, std::int32_t>;
+    const std::pair<std::int32_t, Parts> cases[] = {{3000, {vxPositionRack, 3, 0, 0}},
+                                                    {2023, {vxPositionGap, 2, 11, 0}},
+                                                    {8, {vxPositionPlace, 0, 4, 0}},
+                                                    {1, {vxPositionGap, 0, 0, 0}},
+                                                    {201010, {vxPositionPlace, 1, 5, 2}},
+                                                    {-1, {vxPositionNone, 0, 0, 2}},
+                                                    {2147483647, {vxPositionGap, 83, 323, 21474}}};
+    for (const auto& [lPosition, parts] : cases) {
+        G_PositionInfo(lPosition, eType, lRack, lNumber, lSub);
+        EXPECT_EQ(Parts(eType, lRack, lNumber, lSub), parts) << lPosition;
     }
-}
-
-TEST(PlacePosition, ANegativeOneLeavesTheSubPositionAsItWas)
-{
-    VxEnumPositionType eType = vxPositionPlace;
-    std::int32_t lRack = 7;
-    std::int32_t lNumber = 7;
-    std::int32_t lSubPosition = 7;
-    G_PositionInfo(-1, eType, lRack, lNumber, lSubPosition);
-    EXPECT_EQ(eType, vxPositionNone);
-    EXPECT_EQ(lRack, 0);
-    EXPECT_EQ(lNumber, 0);
-    EXPECT_EQ(lSubPosition, 7);
 }
 
 TEST(Main, PictureDirectoryEndsInOneBackslash)
@@ -56,21 +46,14 @@ TEST(Main, PictureDirectoryEndsInOneBackslash)
     EXPECT_EQ(G_HWPicDir(), "C:\\Library\\HWPics\\");
 }
 
-TEST(Main, MiddleColorRoundsTowardsTheLargerChannel)
-{
-    const TestServices services;
-    EXPECT_EQ(G_GetMiddleColor(G_Rgb(0, 0, 0), G_Rgb(255, 255, 255)), G_Rgb(128, 128, 128));
-    EXPECT_EQ(G_GetMiddleColor(G_Rgb(10, 200, 3), G_Rgb(13, 100, 3)), G_Rgb(12, 150, 3));
-}
-
 TEST(Main, DisabledBackgroundFallsBackToAMixWhenTheLightColorIsTheButtonFace)
 {
     const TestServices services;
     auto& colors = services.toolkit->desktop.systemColors;
     EXPECT_EQ(G_ColorDisabledBackground(), vxColorLight3D);
-    colors[vxColorLight3D] = colors[vxColorButtonFace] = G_Rgb(200, 200, 200);
-    colors[vxColorButtonHighlight] = G_Rgb(255, 255, 255);
-    EXPECT_EQ(G_ColorDisabledBackground(), G_Rgb(228, 228, 228));
+    colors[vxColorLight3D] = colors[vxColorButtonFace] = G_Rgb(10, 200, 3);
+    colors[vxColorButtonHighlight] = G_Rgb(13, 100, 3);
+    EXPECT_EQ(G_ColorDisabledBackground(), G_Rgb(12, 150, 3)) << "rounded towards the larger channel";
     EXPECT_EQ(G_TranslateColor(G_SystemColor(99), 0), -1);
 }
 
@@ -94,13 +77,13 @@ TEST(ErrorReport, NamesLibraryModuleAndProcedureAndKeepsTheRest)
     EXPECT_FALSE(G_IgnoreErrors([] { throw std::bad_alloc(); }));
     const auto& reports = services.host->reports;
     ASSERT_EQ(reports.size(), 3U);
-    EXPECT_EQ(reports[0].source, "zqbchwcx.mdl_Main.G_PositionInfo");
-    EXPECT_EQ(reports[0].number, 12);
-    EXPECT_EQ(reports[0].description, "text");
-    EXPECT_EQ(reports[0].helpFile, "a.hlp");
-    EXPECT_EQ(reports[0].helpContext, 34);
-    EXPECT_EQ(reports[1].number, vxErrorUnexpected);
-    EXPECT_EQ(reports[1].description, "other");
+    using Report = std::tuple<std::string, int, std::string, std::string, int>;
+    const auto reported = [&](std::size_t i) {
+        const VxError& r = reports[i];
+        return Report(r.source, r.number, r.description, r.helpFile, r.helpContext);
+    };
+    EXPECT_EQ(reported(0), Report("zqbchwcx.mdl_Main.G_PositionInfo", 12, "text", "a.hlp", 34));
+    EXPECT_EQ(reported(1), Report("zqbchwcx.A.B", vxErrorUnexpected, "other", "", 0));
     EXPECT_EQ(reports[2].source, "zqbchwcx.A.C");
 }
 

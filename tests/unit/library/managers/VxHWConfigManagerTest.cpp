@@ -7,6 +7,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::IsSupersetOf;
 
 class ConfigManager : public StationFixture {
 protected:
@@ -18,29 +19,31 @@ protected:
         manager->Initialize(vxStationTypeDistributed2, overview, table, station);
         handler = manager->VxHWSelectionHandler();
     }
-    Lines Registered() const
+    Lines LinesOf(const std::function<void()>& operation)
     {
-        Lines classes;
-        for (const auto& [lId, category] : services.host->live) classes.push_back(category.second);
-        return classes;
+        services.Lines().clear();
+        operation();
+        return TakeLines();
     }
+    bool Insert(const FakeModulePtr& module) { return manager->SetSingleModuleToCurPos(module); }
 
     std::shared_ptr<VxHWConfigManager> manager = std::make_shared<VxHWConfigManager>();
 };
 
 TEST_F(ConfigManager, ConnectsViewsThenStartsConfiguration)
 {
-    services.Lines().clear();
-    Initialize();
-    EXPECT_THAT(TakeLines(), ElementsAre("Register VxHWSelectionHandler", "Register VxHWConfigCtrlMouse",
-                                         "Register VxHWConfigCtrlKey", "Open zqhwuim", "Register VxHWConfigCtrlDD",
-                                         "overview.StationType 2", "overview.Style 1", "overview.VxHWStation set",
-                                         "overview.VxHWSelectionHandler set", "overview.VxHWMouseInputController set",
-                                         "overview.VxHWKeyInputController set", "overview.VxHWDragDropController set",
-                                         "table.StationType 2", "table.Style 1", "table.VxHWStation set",
-                                         "table.VxHWSelectionHandler set", "table.VxHWMouseInputController set",
-                                         "table.VxHWKeyInputController set", "table.VxHWDragDropController set",
-                                         "StartConfiguration"));
+    for (const auto& view : {overview, table}) view->Style(vxStyleHWCompare);
+    EXPECT_THAT(LinesOf([&] { Initialize(); }),
+                ElementsAre("Register VxHWSelectionHandler", "Register VxHWConfigCtrlMouse",
+                            "Register VxHWConfigCtrlKey", "Open zqhwuim", "Register VxHWConfigCtrlDD",
+                            "overview.VxHWStation set", "table.VxHWStation set", "StartConfiguration"));
+    for (const auto& view : {overview, table}) {
+        EXPECT_EQ(view->StationType(), vxStationTypeDistributed2);
+        EXPECT_EQ(view->Style(), vxStyleHWConfig);
+        EXPECT_EQ(view->VxHWSelectionHandler(), handler);
+        EXPECT_TRUE(view->VxHWMouseInputController() && view->VxHWKeyInputController());
+        EXPECT_TRUE(view->VxHWDragDropController());
+    }
 }
 
 TEST_F(ConfigManager, FocusesAndSelectsTheFirstUsablePlaceOfRackZero)
@@ -50,10 +53,6 @@ TEST_F(ConfigManager, FocusesAndSelectsTheFirstUsablePlaceOfRackZero)
     Initialize();
     EXPECT_EQ(Marks(), "0/2 | 4 | 4");
     EXPECT_TRUE(handler->SelPlacesArray().Get(0, 2));
-}
-
-TEST_F(ConfigManager, ReportsARackWithoutUsablePlaces)
-{
     for (const auto& place : station->Rack(0)->places->members) place->usability = vxPlaceNotUsable;
     Initialize();
     EXPECT_EQ(Marks(), " | 0 | 0");
@@ -69,16 +68,15 @@ TEST_F(ConfigManager, ChoosesTheControllersByTheState)
         const char* sKey;
         const char* sDragDrop;
     };
-    for (const Case& c : {Case{false, 0, "VxHWConfigCtrlMouse", "VxHWConfigCtrlKey", "VxHWConfigCtrlDD"},
-                          Case{false, 2, "VxHWConfigCtrlMouse", "VxHWConfigCtrlKey", "VxHWConfigCtrlDD"},
+    for (const Case& c : {Case{false, 2, "VxHWConfigCtrlMouse", "VxHWConfigCtrlKey", "VxHWConfigCtrlDD"},
                           Case{true, 0, "VxHWConfigROCtrlMouse", "VxHWConfigROOfflineCtrlKey", "VxHWConfigROCtrlDD"},
                           Case{true, 1, "VxHWConfigROCtrlMouse", "VxHWConfigROCtrlKey", "VxHWConfigROCtrlDD"},
                           Case{true, 2, "VxHWConfigROCtrlMouse", "VxHWConfigROCtrlKey", "VxHWConfigROCtrlDD"}}) {
         station->readOnly = c.bReadOnly;
         station->displayMode = c.lDisplayMode;
-        Initialize();
-        EXPECT_THAT(Registered(),
-                    ElementsAre("VxHWConfigManager", "VxHWSelectionHandler", c.sMouse, c.sKey, c.sDragDrop));
+        const auto registered = [](const char* name) { return std::string("Register ") + name; };
+        EXPECT_THAT(LinesOf([&] { Initialize(); }),
+                    IsSupersetOf({registered(c.sMouse), registered(c.sKey), registered(c.sDragDrop)}));
         manager->Terminate();
         handler = nullptr;
     }
@@ -87,16 +85,12 @@ TEST_F(ConfigManager, ChoosesTheControllersByTheState)
 TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
 {
     Initialize();
-    const auto oDragDrop = overview->dragDrop;
-    services.Lines().clear();
-    manager->Terminate();
-    EXPECT_THAT(TakeLines(),
-                ElementsAre("overview.VxHWStation nothing", "overview.VxHWSelectionHandler nothing",
-                            "overview.VxHWMouseInputController nothing", "overview.VxHWKeyInputController nothing",
-                            "overview.VxHWDragDropController nothing", "table.VxHWStation nothing",
-                            "table.VxHWSelectionHandler nothing", "table.VxHWMouseInputController nothing",
-                            "table.VxHWKeyInputController nothing", "table.VxHWDragDropController nothing",
-                            "Unregister VxHWConfigCtrlMouse", "Release zqhwuim", "Unregister VxHWConfigCtrlKey"));
+    const auto oDragDrop = overview->VxHWDragDropController();
+    EXPECT_THAT(LinesOf([&] { manager->Terminate(); }),
+                ElementsAre("overview.VxHWStation nothing", "table.VxHWStation nothing",
+                            "Unregister VxHWConfigCtrlMouse", "Release zqhwuim", "Unregister VxHWConfigCtrlKey"))
+        << "only the held drag and drop controller and the handler live";
+    EXPECT_FALSE(overview->VxHWSelectionHandler() || table->VxHWSelectionHandler());
     EXPECT_EQ(dynamic_cast<const IVxHWController&>(*oDragDrop).VxHWStation(), nullptr);
     EXPECT_EQ(manager->VxHWSelectionHandler(), nullptr);
     EXPECT_TRUE(handler->SelPlacesArray().IsEmpty());
@@ -108,55 +102,44 @@ TEST_F(ConfigManager, BothViewsAreToldOfADragUntilTheModeTerminates)
     Initialize();
     station->Put(0, 1, "A");
     std::int32_t lEffect = 0;
-    const auto oDragDrop = overview->dragDrop;
+    const auto oDragDrop = overview->VxHWDragDropController();
     oDragDrop->OLEStartDrag(data, lEffect);
     oDragDrop->OLEDragOver(8, data, lEffect, vxButtonLeft, 0, vxDragEnter);
-    EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"overview.StateChange from 0", "table.StateChange from 0"}));
+    EXPECT_THAT(TakeLines(), IsSupersetOf({"overview.StateChange from 0", "table.StateChange from 0"}));
     oDragDrop->OLEDragOver(8, data, lEffect, vxButtonLeft, 0, vxDragLeave);
     manager->Terminate();
-    services.Lines().clear();
-    services.toolkit->clock.Advance(20);
+    EXPECT_THAT(LinesOf([&] { services.toolkit->clock.Advance(20); }), IsEmpty());
     EXPECT_EQ(oDragDrop->State(), vxDragDropStateInactive);
-    EXPECT_THAT(TakeLines(), IsEmpty());
 }
 
 TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
 {
     Initialize();
     station->Put(0, 1, "A")->hasParamDialog = true;
-    services.Lines().clear();
-    const auto actions = [&] {
-        Lines begun;
-        for (const auto& line : TakeLines())
-            if (line.starts_with("Begin") || line.starts_with("Open")) begun.push_back(line);
-        return begun;
-    };
-    manager->EditModuleParams();
-    manager->Copy();
-    manager->Cut();
-    manager->Paste();
-    manager->Delete();
-    EXPECT_THAT(actions(), ElementsAre("BeginUserAction T4006", "OpenModuleParamDialog 0/1", "BeginUserAction T4004",
-                                       "BeginUserAction T4003", "BeginUserAction T4005", "BeginUserAction T4002"));
+    const std::pair<void (VxHWConfigManager::*)() noexcept, const char*> commands[] = {
+        {&VxHWConfigManager::EditModuleParams, "BeginUserAction T4006"},
+        {&VxHWConfigManager::Copy, "BeginUserAction T4004"},
+        {&VxHWConfigManager::Cut, "BeginUserAction T4003"},
+        {&VxHWConfigManager::Paste, "BeginUserAction T4005"},
+        {&VxHWConfigManager::Delete, "BeginUserAction T4002"}};
+    for (const auto& [command, line] : commands) EXPECT_EQ(LinesOf([&] { ((*manager).*command)(); }).front(), line);
 }
 
 TEST_F(ConfigManager, PlacesASingleModuleOnEverySelectedPlaceThatTakesIt)
 {
     Initialize();
     station->Put(0, 3, "B");
-    Select({{0, 2}, {0, 3}, {1, 4}});
+    Select({{0, 2}, {0, 3}, {1, 4}, {1, 11}});
+    station->Put(1, 11, "B");
     handler->FocusPosition(9);
-    services.Lines().clear();
-    EXPECT_TRUE(manager->SetSingleModuleToCurPos(station->MakeModule("M")));
-    EXPECT_THAT(TakeLines(),
+    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert(station->MakeModule("M"))); }),
                 ElementsAre("PrepareModule M", "IsDrawable False", "CanBePlaced 4 [M] copy nothing",
                             "PlaceModules 4 [M]", "CanBePlaced 6 [M] copy nothing", "CanBePlaced 1008 [M] copy nothing",
-                            "PlaceModules 1008 [M]", "IsDrawable True"));
-    EXPECT_EQ(station->Content(), "0/2=M 0/3=B 1/4=M");
-    EXPECT_EQ(Marks(), "0/2 0/3 1/4 | 9 | 2") << "selection and focus stay";
+                            "PlaceModules 1008 [M]", "CanBePlaced 1022 [M] copy nothing", "IsDrawable True"));
+    EXPECT_EQ(station->Content(), "0/2=M 0/3=B 1/4=M 1/11=B");
+    EXPECT_EQ(Marks(), "0/2 0/3 1/4 1/11 | 9 | 2") << "selection and focus stay";
     Select({{0, 3}});
-    EXPECT_FALSE(manager->SetSingleModuleToCurPos(station->MakeModule("M")));
-    EXPECT_EQ(station->Content(), "0/2=M 0/3=B 1/4=M");
+    EXPECT_FALSE(Insert(station->MakeModule("M")));
 }
 
 TEST_F(ConfigManager, PlacesAtTheFocusWhenNothingIsSelected)
@@ -164,13 +147,12 @@ TEST_F(ConfigManager, PlacesAtTheFocusWhenNothingIsSelected)
     Initialize();
     Select({});
     handler->FocusPosition(7);
-    services.Lines().clear();
     auto module = station->MakeModule("M");
     module->subModuleCount = 2;
-    EXPECT_TRUE(manager->SetSingleModuleToCurPos(module));
-    EXPECT_THAT(TakeLines(), ::testing::IsSupersetOf({"CreateSubModules M", "PlaceModules 7 [M]"}));
+    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert(module)); }),
+                IsSupersetOf({"CreateSubModules M", "PlaceModules 7 [M]"}));
     handler->FocusPosition(12);
-    EXPECT_TRUE(manager->SetSingleModuleToCurPos(module));
+    EXPECT_TRUE(Insert(module));
     EXPECT_EQ(module->subModules->members.size(), 2U) << "created once";
 }
 
@@ -181,9 +163,7 @@ TEST_F(ConfigManager, PlacesAModuleOfSeveralPlacesWithItsMembers)
     module->placeCount = 2;
     module->subModuleCount = 1;
     Select({{1, 4}});
-    services.Lines().clear();
-    EXPECT_TRUE(manager->SetSingleModuleToCurPos(module));
-    EXPECT_THAT(TakeLines(),
+    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert(module)); }),
                 ElementsAre("PrepareModule W", "ExpandModule W", "CreateSubModules W", "IsDrawable False",
                             "CanBePlaced 1008 [W W] copy nothing", "PlaceModules 1008 [W W]", "IsDrawable True"));
     EXPECT_EQ(station->Content(), "1/4=W 1/5=W");
@@ -191,17 +171,15 @@ TEST_F(ConfigManager, PlacesAModuleOfSeveralPlacesWithItsMembers)
 
 TEST_F(ConfigManager, ReportsCommandsOutsideOfItsConnection)
 {
-    manager->Delete();
     manager->EditModuleParams();
-    EXPECT_FALSE(manager->SetSingleModuleToCurPos(station->MakeModule("M")));
+    EXPECT_FALSE(Insert(station->MakeModule("M")));
     manager->Terminate();
     manager->Initialize(vxStationTypeCentral, nullptr, table, station);
     manager->Initialize(vxStationTypeCentral, overview, table, nullptr);
-    EXPECT_THAT(TakeReports(),
-                ElementsAre("zqbchwcx.VxHWConfigManager.Delete", "zqbchwcx.VxHWConfigManager.EditModuleParams",
-                            "zqbchwcx.VxHWConfigManager.SetSingleModuleToCurPos",
-                            "zqbchwcx.VxHWConfigManager.Terminate", "zqbchwcx.VxHWConfigManager.Initialize",
-                            "zqbchwcx.VxHWConfigManager.Initialize"));
+    Lines procedures;
+    for (const std::string& source : TakeReports()) procedures.push_back(source.substr(source.rfind('.') + 1));
+    EXPECT_THAT(procedures,
+                ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize", "Initialize"));
 }
 
 } // namespace
