@@ -107,15 +107,6 @@ void PersistentPicture::FillBox(const Rect& rect, OleColor color)
     Fill(rect, Translate(color));
 }
 
-void PersistentPicture::DrawBox(const Rect& rect, OleColor color)
-{
-    const QColor rgb = Translate(color);
-    Fill({rect.left, rect.top, rect.right, rect.top + 1}, rgb);
-    Fill({rect.left, rect.bottom - 1, rect.right, rect.bottom}, rgb);
-    Fill({rect.left, rect.top, rect.left + 1, rect.bottom}, rgb);
-    Fill({rect.right - 1, rect.top, rect.right, rect.bottom}, rgb);
-}
-
 void PersistentPicture::DrawLine(Point from, Point to, OleColor color)
 {
     const Rect line = Normalized({from.x, from.y, to.x, to.y});

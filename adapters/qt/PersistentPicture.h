@@ -40,7 +40,6 @@ public:
     void BackColor(OleColor color);
 
     void FillBox(const Rect& rect, OleColor color) override;
-    void DrawBox(const Rect& rect, OleColor color) override;
     void DrawLine(Point from, Point to, OleColor color) override;
     void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) override;
     void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) override;

@@ -84,11 +84,6 @@ void QtPictureBox::FillBox(const Rect& rect, OleColor color)
     if (mWidget) mWidget->Picture().FillBox(rect, color);
 }
 
-void QtPictureBox::DrawBox(const Rect& rect, OleColor color)
-{
-    if (mWidget) mWidget->Picture().DrawBox(rect, color);
-}
-
 void QtPictureBox::DrawLine(Point from, Point to, OleColor color)
 {
     if (mWidget) mWidget->Picture().DrawLine(from, to, color);

@@ -31,7 +31,6 @@ public:
     std::intptr_t hWnd() const override;
 
     void FillBox(const Rect& rect, OleColor color) override;
-    void DrawBox(const Rect& rect, OleColor color) override;
     void DrawLine(Point from, Point to, OleColor color) override;
     void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) override;
     void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) override;

@@ -40,14 +40,6 @@ void PaperPicture::FillBox(const Rect& rect, OleColor color)
         [area = ToQRectF(rect), fill = PaperColor(color)](QPainter& painter) { painter.fillRect(area, fill); });
 }
 
-void PaperPicture::DrawBox(const Rect& rect, OleColor color)
-{
-    FillBox({rect.left, rect.top, rect.right, rect.top + 1}, color);
-    FillBox({rect.left, rect.bottom - 1, rect.right, rect.bottom}, color);
-    FillBox({rect.left, rect.top, rect.left + 1, rect.bottom}, color);
-    FillBox({rect.right - 1, rect.top, rect.right, rect.bottom}, color);
-}
-
 void PaperPicture::DrawLine(Point from, Point to, OleColor color)
 {
     FillBox({std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x) + 1, std::max(from.y, to.y) + 1},

@@ -21,7 +21,6 @@ public:
     void Paint(QPainter& painter) const override;
 
     void FillBox(const zqbchwcx::Rect& rect, zqbchwcx::OleColor color) override;
-    void DrawBox(const zqbchwcx::Rect& rect, zqbchwcx::OleColor color) override;
     void DrawLine(zqbchwcx::Point from, zqbchwcx::Point to, zqbchwcx::OleColor color) override;
     void DrawCenteredText(std::string_view text, const zqbchwcx::Rect& box, zqbchwcx::FontWeight weight,
                           zqbchwcx::OleColor color) override;

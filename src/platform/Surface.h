@@ -28,8 +28,6 @@ public:
 
     /// Fills the rectangle.
     virtual void FillBox(const Rect& rect, OleColor color) = 0;
-    /// Outlines the rectangle, one pixel wide, inside its edges.
-    virtual void DrawBox(const Rect& rect, OleColor color) = 0;
     /// Draws a horizontal or vertical line, one pixel wide; both end points belong to it.
     virtual void DrawLine(Point from, Point to, OleColor color) = 0;
     /// Draws one line of text centred in the box in the control's font. The cell of the text is first filled with

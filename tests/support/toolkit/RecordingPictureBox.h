@@ -50,14 +50,6 @@ public:
         Line("Fill " + At(rect) + " " + Named(color));
         raster.Fill(rect, color);
     }
-    void DrawBox(const Rect& rect, OleColor color) override
-    {
-        Line("Outline " + At(rect) + " " + Named(color));
-        raster.Fill({rect.left, rect.top, rect.right, rect.top + 1}, color);
-        raster.Fill({rect.left, rect.bottom - 1, rect.right, rect.bottom}, color);
-        raster.Fill({rect.left, rect.top, rect.left + 1, rect.bottom}, color);
-        raster.Fill({rect.right - 1, rect.top, rect.right, rect.bottom}, color);
-    }
     void DrawLine(Point from, Point to, OleColor color) override
     {
         Line("Line " + At(from.x, from.y) + " " + At(to.x, to.y) + " " + Named(color));

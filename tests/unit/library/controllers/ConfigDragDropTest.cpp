@@ -230,6 +230,16 @@ TEST_F(ConfigDragDrop, HostileTextIsReportedAndRefused)
                                            "zqbchwcx.VxHWConfigCtrlDD.P_FillDragModules"));
 }
 
+TEST_F(ConfigDragDrop, SubscribersAreToldAsOftenAsTheySubscribedUntilTheyEnd)
+{
+    dragDrop->AddSubscriber(table);
+    overview.reset();
+    StartDrag();
+    Over(8, vxDragEnter);
+    EXPECT_THAT(TakeLines(), ElementsAre("ModulesFromConfigText alone", "table.StateChange from 0",
+                                         "table.StateChange from 0", "CanBePlaced 8 [A] move from [0/2]"));
+}
+
 TEST_F(ConfigDragDrop, TheInertOnesKeepNothingAndTakeNothing)
 {
     const VxHWDiagCtrlDD diag;
