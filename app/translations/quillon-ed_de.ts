@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>In use by %1</source>
-        <translation>Belegt von %1</translation>
+        <translation>Belegt durch %1</translation>
     </message>
     <message>
         <source>Parameters (read-only)</source>

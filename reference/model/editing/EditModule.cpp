@@ -55,12 +55,12 @@ Refusal AddressInUse(const Range& range, const StationDraft& draft, PlaceRef pla
     const auto user = UserOf(range.area, range.address, range.bytes, draft.Data(), draft.ModuleTypes());
     const LocalizedText what = AreaText(range.area);
     const LocalizedText who =
-        user ? PlaceText(*user) : LocalizedText{"another part of the module", "einem anderen Teil der Baugruppe"};
+        user ? PlaceText(*user) : LocalizedText{"another part of the module", "einen anderen Teil der Baugruppe"};
     const std::string bytes = std::to_string(range.address) + ".." + std::to_string(range.address + range.bytes - 1);
     return {Rule::AddressOverlap,
             place,
             {"The " + what.en + " " + bytes + " are in use by " + who.en,
-             "Die " + what.de + " " + bytes + " sind von " + who.de + " belegt"}};
+             "Die " + what.de + " " + bytes + " sind durch " + who.de + " belegt"}};
 }
 
 /// Against new addresses that are in use, be it by the module's own other parts. The module is not in the draft.

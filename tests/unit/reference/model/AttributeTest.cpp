@@ -1,3 +1,4 @@
+#include "reference/model/editing/EditModule.h"
 #include "reference/model/rules/CheckStation.h"
 #include "tests/unit/reference/model/SampleModel.h"
 
@@ -51,6 +52,18 @@ TEST(SetAttribute, ChecksAddresses)
     }
     EXPECT_EQ(station.At({0, 4}).inputAddress, 102) << "103 overlapped the analog module";
     EXPECT_EQ(station.At({0, 4}).name, "Pump 1");
+}
+
+TEST(SetAttribute, TellsWhoUsesTheAddress)
+{
+    const PlainStation station = SampleStation();
+    const StationAddresses addresses = AddressesOf(station.Data(), *SampleCatalogue());
+    const auto reason = [&](std::int32_t place, const std::string& name, const std::string& value) {
+        return SetAttribute({station.Data(), *SampleCatalogue(), addresses}, {0, place}, name, value).Reason().text;
+    };
+    EXPECT_EQ(reason(4, "I-ADDRESS", "3").en, "The inputs 3..4 are in use by place 5 of rack 0");
+    EXPECT_EQ(reason(6, "O-ADDRESS", "6").de, "Die Ausgänge 6..7 sind durch Platz 9 von Träger 0 belegt")
+        << "a sub-module uses it";
 }
 
 TEST(SetAttribute, ReadsParametersByTheirKindAndDropsDefaults)
