@@ -6,11 +6,11 @@
 
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     QMainWindow window;
     window.resize(1000, 700);
     quillon_ed::bench::QuitAfterPaint quit;
-    quit.Watch(window);
+    quit.Watch(application);
     window.show();
     return QApplication::exec();
 }

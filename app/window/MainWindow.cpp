@@ -60,7 +60,8 @@ QString InSentence(const QString& step, Language language)
 } // namespace
 
 MainWindow::MainWindow(AppServices& services)
-    : moServices(services), moRecentFiles(services.Settings(), nullptr),
+    : PaintedFrame(services.Settings().value(GeometryKey).toByteArray()), moServices(services),
+      moRecentFiles(services.Settings(), nullptr),
       moFiles(
           services, moRecentFiles,
           [this](const reference::ModuleData& module, reference::PlaceRef place) {
@@ -84,8 +85,6 @@ MainWindow::MainWindow(AppServices& services)
     moActions.ShowLanguage(services.CurrentLanguage());
     FillRecentMenu();
     FillExamples();
-    resize(1180, 720);
-    restoreGeometry(services.Settings().value(GeometryKey).toByteArray());
     restoreState(services.Settings().value(StateKey).toByteArray());
     moMessages->hide();
     OpenDroppedFiles(*this, [this](const QString& file) { moFiles.OpenFile(file); });
@@ -99,7 +98,6 @@ MainWindow::~MainWindow()
 
 void MainWindow::Start(const QString& file)
 {
-    show();
     AfterFirstPaint(*this, [this, file] {
         // Comes too while a message tells why the file cannot be opened.
         QTimer::singleShot(0, this, [this] {

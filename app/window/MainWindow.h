@@ -2,10 +2,9 @@
 
 #include "app/document/RecentFiles.h"
 #include "app/window/FileCommands.h"
+#include "app/window/PaintedFrame.h"
 #include "app/window/WindowActions.h"
 #include "foundation/model/Fwd.h"
-
-#include <QMainWindow>
 
 class QDockWidget;
 class QStackedWidget;
@@ -19,7 +18,7 @@ class StationView;
 class StatusLine;
 
 /// The window of Quillon Ed: one station, the catalogue, the messages.
-class MainWindow : public QMainWindow {
+class MainWindow : public PaintedFrame {
     Q_OBJECT
 
 public:
@@ -27,7 +26,7 @@ public:
     explicit MainWindow(AppServices& services);
     ~MainWindow() override;
 
-    /// Shows the window at once, still empty, and opens the file, or the start page for none, when it has been painted.
+    /// Opens the file, or the start page for none, when the menus and tools have been painted.
     void Start(const QString& file);
     FileCommands& Files() { return moFiles; }
 

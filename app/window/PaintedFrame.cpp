@@ -1,0 +1,26 @@
+#include "app/window/PaintedFrame.h"
+
+#include "app/window/AfterFirstPaint.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+
+namespace quillon_ed {
+
+PaintedFrame::PaintedFrame(const QByteArray& geometry)
+{
+    resize(1180, 720);
+    restoreGeometry(geometry);
+    show();
+    QEventLoop loop;
+    AfterFirstPaint(*this, [&loop] { loop.quit(); });
+    // Nobody can answer a click or a key yet.
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void PaintedFrame::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+}
+
+} // namespace quillon_ed
