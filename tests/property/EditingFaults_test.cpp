@@ -118,7 +118,7 @@ protected:
         EXPECT_EQ(editor.WhatIsWrong(), "");
         editor.log->faults.ThrowAt(lFailingCall);
         GetParam().act(editor);
-        const Result result{editor.Text(), editor.log->faults.Thrown(), editor.log->faults.Count()};
+        Result result{editor.Text(), editor.log->faults.Thrown(), editor.log->faults.Count()};
         editor.log->faults.Restart();
         return result;
     }

@@ -24,7 +24,7 @@ public:
         lines.push_back(std::move(line));
     }
     /// A call that ends something: the line is left even when it fails, because the end was asked for.
-    void NoteEnd(std::string line)
+    void NoteEnd(const std::string& line)
     {
         lines.push_back(line);
         faults.Hit(line);

@@ -13,7 +13,7 @@ public:
     /// With a toolkit of the caller, that one is installed instead of the recording one.
     explicit TestServices(const std::shared_ptr<Toolkit>& oToolkit = nullptr)
     {
-        const ServiceRoot services{oToolkit ? oToolkit : toolkit, host, host, host, host, host, host, "C:\\Library"};
+        ServiceRoot services{oToolkit ? oToolkit : toolkit, host, host, host, host, host, host, "C:\\Library"};
         G_InstallServiceRoot([services] { return services; });
     }
     ~TestServices() { G_InstallServiceRoot(nullptr); }

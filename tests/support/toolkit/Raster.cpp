@@ -33,7 +33,7 @@ void Raster::Fill(const Rect& rect, OleColor color)
     const std::int32_t left = std::clamp(rect.left, 0, mSize.width);
     const std::int32_t right = std::clamp(rect.right, left, mSize.width);
     for (std::int32_t y = std::max(rect.top, 0); y < std::min(rect.bottom, mSize.height); ++y)
-        std::fill_n(mcolInks.begin() + y * mSize.width + left, right - left, ColorInk(color));
+        std::fill_n(At(left, y), right - left, ColorInk(color));
 }
 
 void Raster::Text(std::string_view text, const Rect& box, FontWeight weight, OleColor color, OleColor background)
@@ -83,7 +83,8 @@ void Raster::Paint(const Rect& part, Point corner, Ink drawing)
     for (std::int32_t y = part.top; y < part.bottom; ++y) {
         for (std::int32_t x = part.left; x < part.right; ++x) {
             Ink* const ink = At(corner.x + x, corner.y + y);
-            if (ink != nullptr) *ink = Mixed(drawing, static_cast<std::uint64_t>(x * 4096 + y));
+            if (ink != nullptr)
+                *ink = Mixed(drawing, static_cast<std::uint64_t>(x) * 4096 + static_cast<std::uint64_t>(y));
         }
     }
 }
@@ -91,7 +92,7 @@ void Raster::Paint(const Rect& part, Point corner, Ink drawing)
 Raster::Ink* Raster::At(std::int32_t x, std::int32_t y)
 {
     const bool bInside = x >= 0 && y >= 0 && x < mSize.width && y < mSize.height;
-    return bInside ? &mcolInks[static_cast<std::size_t>(y * mSize.width + x)] : nullptr;
+    return bInside ? &mcolInks[static_cast<std::size_t>(std::ptrdiff_t{y} * mSize.width + x)] : nullptr;
 }
 
 } // namespace zqbchwcx::testing

@@ -122,7 +122,8 @@ TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
         {&VxHWConfigManager::Cut, "BeginUserAction T4003"},
         {&VxHWConfigManager::Paste, "BeginUserAction T4005"},
         {&VxHWConfigManager::Delete, "BeginUserAction T4002"}};
-    for (const auto& [command, line] : commands) EXPECT_EQ(LinesOf([&] { ((*manager).*command)(); }).front(), line);
+    for (const auto& command : commands)
+        EXPECT_EQ(LinesOf([&] { ((*manager).*command.first)(); }).front(), command.second);
 }
 
 TEST_F(ConfigManager, PlacesASingleModuleOnEverySelectedPlaceThatTakesIt)

@@ -113,9 +113,11 @@ TEST(AtomicWrite, SurvivesAKilledProgramAHundredTimes)
     for (int i = 0; i < 100; ++i) {
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
-        while (child == 0) {
-            SaveStation(large, file);
-            SaveStation(small, file);
+        if (child == 0) {
+            for (;;) {
+                SaveStation(large, file);
+                SaveStation(small, file);
+            }
         }
         std::this_thread::sleep_for(std::chrono::microseconds(delay(random)));
         ::kill(child, SIGKILL);

@@ -26,9 +26,10 @@ void ExpectFits(const json& root, const json& schema, const json& value, const s
     const json properties = schema.value("properties", json::object());
     const json others = schema.value("additionalProperties", json(true));
     for (const auto& [name, member] : value.items()) {
-        if (properties.contains(name)) ExpectFits(root, properties[name], member, at + "/" + name);
-        else if (others.is_object()) ExpectFits(root, others, member, at + "/" + name);
-        else if (others == false) ADD_FAILURE() << at << "/" << name << " is unknown to the schema";
+        const std::string where = std::string(at).append("/").append(name);
+        if (properties.contains(name)) ExpectFits(root, properties[name], member, where);
+        else if (others.is_object()) ExpectFits(root, others, member, where);
+        else if (others == false) ADD_FAILURE() << where << " is unknown to the schema";
     }
 }
 
