@@ -117,6 +117,22 @@ TEST_F(MainWindowTest, OpensItsStationWhenItHasBeenPainted)
     EXPECT_TRUE(window->findChild<StationView*>()->isVisible());
 }
 
+TEST_F(MainWindowTest, ComesBackAsItWasLeft)
+{
+    QCoreApplication::processEvents();
+    const QSize size(850, 610);
+    window->resize(size);
+    Action("Catalogue")->trigger();
+    EXPECT_TRUE(window->close());
+    window = std::make_unique<MainWindow>(services);
+    EXPECT_TRUE(window->isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->size(), size);
+    EXPECT_FALSE(Action("Catalogue")->isChecked());
+    EXPECT_TRUE(Action("Toolbar")->isChecked());
+    EXPECT_FALSE(Action("Messages")->isChecked()) << "they come when there is one";
+}
+
 TEST_F(MainWindowTest, OpensAFileThatIsDroppedAnywhereOnIt)
 {
     const QString path = Path("dropped.station.json");
