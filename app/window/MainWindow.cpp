@@ -85,6 +85,9 @@ MainWindow::MainWindow(AppServices& services)
     moActions.ShowLanguage(services.CurrentLanguage());
     FillRecentMenu();
     FillExamples();
+    // What is put into a window that is visible already shows when events are handled, and only what shows can get
+    // its size back.
+    QCoreApplication::sendPostedEvents();
     restoreState(services.Settings().value(StateKey).toByteArray());
     moMessages->hide();
     OpenDroppedFiles(*this, [this](const QString& file) { moFiles.OpenFile(file); });

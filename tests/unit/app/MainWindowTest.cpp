@@ -119,15 +119,22 @@ TEST_F(MainWindowTest, OpensItsStationWhenItHasBeenPainted)
 
 TEST_F(MainWindowTest, ComesBackAsItWasLeft)
 {
+    const auto dock = [&] { return window->findChild<QDockWidget*>(QStringLiteral("catalogueDock")); };
+    const auto restart = [&] {
+        EXPECT_TRUE(window->close());
+        window = std::make_unique<MainWindow>(services);
+        EXPECT_TRUE(window->isVisible());
+        QCoreApplication::processEvents();
+    };
     QCoreApplication::processEvents();
-    const QSize size(850, 610);
+    const QSize size(1400, 610);
     window->resize(size);
-    Action("Catalogue")->trigger();
-    EXPECT_TRUE(window->close());
-    window = std::make_unique<MainWindow>(services);
-    EXPECT_TRUE(window->isVisible());
-    QCoreApplication::processEvents();
+    window->resizeDocks({dock()}, {400}, Qt::Horizontal);
+    restart();
     EXPECT_EQ(window->size(), size);
+    EXPECT_EQ(dock()->width(), 400);
+    Action("Catalogue")->trigger();
+    restart();
     EXPECT_FALSE(Action("Catalogue")->isChecked());
     EXPECT_TRUE(Action("Toolbar")->isChecked());
     EXPECT_FALSE(Action("Messages")->isChecked()) << "they come when there is one";
