@@ -1,5 +1,7 @@
 // Starts as Quillon Ed does with a station, and ends after the first picture of its window, of what it offers before
-// the station is open, or of the station in it. Usage: first_window STATION window|tools|station
+// the station is open, or of the station in it.
+//
+// Usage: first_window STATION window|tools|station
 
 #include "app/host/AppServices.h"
 #include "app/window/MainWindow.h"
@@ -8,6 +10,8 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QTemporaryDir>
+
+#include <string_view>
 
 using namespace quillon_ed;
 

@@ -15,16 +15,12 @@ namespace {
 constexpr double PictureScale = 1.25;
 
 /// Against addresses that other modules use. The module's own ones are free for it.
-AddressCheck MakeAddressCheck(const EditContext& context, const ModuleData& module, PlaceRef place, Language language)
+AddressCheck MakeAddressCheck(const EditContext& context, PlaceRef place, Language language)
 {
-    StationAddresses others = context.addresses;
-    others.Release(module, context.catalogue);
-    return [=, others = std::move(others)](AddressArea area, std::int32_t address, std::int32_t bytes) {
-        const AddressMap& map = others.Of(area);
-        if (address + bytes > map.AreaSize()) {
-            return ParameterDialog::tr("The last address of this station is %1").arg(map.AreaSize() - 1);
-        }
-        if (map.IsFree(address, bytes)) return QString();
+    return [context, place, language](AddressArea area, std::int32_t address, std::int32_t bytes) {
+        const std::int32_t size = context.addresses.Of(area).AreaSize();
+        if (std::int64_t{address} + bytes > size)
+            return ParameterDialog::tr("The last address of this station is %1").arg(size - 1);
         const auto user = UserOf(area, address, bytes, context.data, context.catalogue, place);
         return user ? ParameterDialog::tr("In use by %1").arg(ToQString(PlaceText(*user), language)) : QString();
     };
@@ -47,7 +43,7 @@ std::optional<ModuleData> EditParameters(AppServices& services, const Station& s
     context.picture =
         services.Pictures().Picture(*catalogue.Find(module.orderNumber), PictureScale, parent->devicePixelRatioF());
     context.readOnly = station.IsReadOnly();
-    context.addressCheck = MakeAddressCheck(edit, module, place, language);
+    context.addressCheck = MakeAddressCheck(edit, place, language);
     context.moduleCheck = [&](const ModuleData& edited) {
         const auto outcome = ReplaceModule(edit, place, edited);
         return outcome ? QString() : ToQString(outcome.Reason().text, language);

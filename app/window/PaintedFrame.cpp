@@ -5,6 +5,8 @@
 #include <QCloseEvent>
 #include <QEventLoop>
 
+#include <memory>
+
 namespace quillon_ed {
 
 PaintedFrame::PaintedFrame(const QByteArray& geometry)
@@ -12,10 +14,11 @@ PaintedFrame::PaintedFrame(const QByteArray& geometry)
     resize(1180, 720);
     restoreGeometry(geometry);
     show();
-    QEventLoop loop;
-    AfterFirstPaint(*this, [&loop] { loop.quit(); });
+    // Shared, because the application may end the loop before the window is painted.
+    const auto loop = std::make_shared<QEventLoop>();
+    AfterFirstPaint(*this, [loop] { loop->quit(); });
     // Nobody can answer a click or a key yet.
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    loop->exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void PaintedFrame::closeEvent(QCloseEvent* event)

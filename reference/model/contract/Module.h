@@ -23,7 +23,7 @@ struct ModuleBody {
     const void* station = nullptr;
     PlaceRef firstPlace;
     std::int32_t subModule = 0;              ///< 1-based slot when it is a sub-module of the module there
-    std::optional<std::int32_t> stationKind; ///< of that station; a module that stands nowhere fits everywhere
+    std::optional<std::int32_t> stationKind; ///< of that station, or of the one that it is meant for
 };
 using ModuleBodyPtr = std::shared_ptr<ModuleBody>;
 

@@ -43,12 +43,14 @@ private:
 
 Modules::Modules(ModelContextPtr oContext) : moContext(std::move(oContext)) {}
 
-Modules::Modules(ModelContextPtr oContext, const ModuleBlock& block) : Modules(std::move(oContext))
+Modules::Modules(ModelContextPtr oContext, const ModuleBlock& block, std::int32_t stationKind)
+    : Modules(std::move(oContext))
 {
     for (const ModuleDataPtr& data : block) {
         auto body = std::make_shared<ModuleBody>();
         body->context = moContext;
         body->data = data;
+        body->stationKind = stationKind;
         for (VxHWModulePtr& member : MembersOf(body)) mcolModules.push_back(std::move(member));
     }
 }

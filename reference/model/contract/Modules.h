@@ -12,8 +12,9 @@ namespace zqbchwcx::reference {
 class Modules : public VxHWModules {
 public:
     explicit Modules(ModelContextPtr oContext);
-    /// The modules of the block, each with its members, as modules that stand nowhere.
-    Modules(ModelContextPtr oContext, const ModuleBlock& block);
+    /// The modules of the block, each with its members, as modules that stand nowhere yet and are meant for a station
+    /// of the kind.
+    Modules(ModelContextPtr oContext, const ModuleBlock& block, std::int32_t stationKind);
 
     VxHWModulePtr Item(std::int32_t lIndex) const override;
     std::int32_t Count() const override { return static_cast<std::int32_t>(mcolModules.size()); }

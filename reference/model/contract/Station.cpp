@@ -121,7 +121,8 @@ VxHWModulesPtr Station::ClipboardModules() const
 VxHWModulesPtr Station::ModulesFromConfigText(std::string_view text, const ExchangeDataPtr& oExchange) const
 {
     const std::string exchanged = text.empty() && oExchange ? G_DecodeConfigText(oExchange->Data()) : std::string();
-    return std::make_shared<Modules>(Context(), ReadConfigText(text.empty() ? exchanged : text, ModuleTypes()));
+    return std::make_shared<Modules>(Context(), ReadConfigText(text.empty() ? exchanged : text, ModuleTypes()),
+                                     StationKind());
 }
 
 void Station::WriteModulesToExchange(const VxHWModulesPtr& oModules, const ExchangeDataPtr& oExchange) const

@@ -68,7 +68,7 @@ struct StationAddresses {
 StationAddresses AddressesOf(const StationData& data, const Catalogue& catalogue);
 
 /// The place of the first module that uses any of the addresses, by itself or with a sub-module; the module at one
-/// place can be left out. Reads the whole station: for telling why, not for finding out whether.
+/// place can be left out. Reads the whole station.
 std::optional<PlaceRef> UserOf(AddressArea area, std::int32_t address, std::int32_t bytes, const StationData& data,
                                const Catalogue& catalogue, PlaceRef leftOut = {});
 

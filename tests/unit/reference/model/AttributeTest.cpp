@@ -64,6 +64,13 @@ TEST(SetAttribute, TellsWhoUsesTheAddress)
     EXPECT_EQ(reason(4, "I-ADDRESS", "3").en, "The inputs 3..4 are in use by place 5 of rack 0");
     EXPECT_EQ(reason(6, "O-ADDRESS", "6").de, "Die Ausgänge 6..7 sind durch Platz 9 von Träger 0 belegt")
         << "a sub-module uses it";
+
+    const auto user = [&](std::int32_t address, PlaceRef leftOut) {
+        return UserOf(AddressArea::Input, address, 2, station.Data(), *SampleCatalogue(), leftOut);
+    };
+    EXPECT_EQ(user(1, {}), (PlaceRef{0, 4}));
+    EXPECT_EQ(user(1, {0, 4}), (PlaceRef{0, 5})) << "the other one that is touched";
+    EXPECT_EQ(user(2, {0, 5}), std::nullopt);
 }
 
 TEST(SetAttribute, ReadsParametersByTheirKindAndDropsDefaults)

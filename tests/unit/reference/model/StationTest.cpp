@@ -89,6 +89,16 @@ TEST(ReferenceModules, HaveAPictureWhereTheirKindOfStationShowsThem)
     EXPECT_EQ(pictureIn(1, "HEAD2"), "HEAD2");
     EXPECT_EQ(pictureIn(0, "HEAD2"), "");
     EXPECT_EQ(pictureIn(0, "UNKNOWN"), "");
+
+    const auto carriedTo = [](std::int32_t kind) {
+        const std::string text = WriteConfigText(Block("HEAD2"));
+        return Station(SampleContext(), EmptyStation(kind, 1))
+            .ModulesFromConfigText(text, nullptr)
+            ->Item(0)
+            ->PictureName();
+    };
+    EXPECT_EQ(carriedTo(1), "HEAD2");
+    EXPECT_EQ(carriedTo(0), "") << "a drag draws it, too";
 }
 
 TEST_F(ReferenceStation, TellsEachPlaceThatDiffersAndEverythingAfterABatch)
