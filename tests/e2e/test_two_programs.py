@@ -16,18 +16,18 @@ class TwoPrograms(OnDisplay):
         self.target, self.to_overview = self.open(self.target_path, area=RIGHT)
 
     def saved(self, program, path):
-        self.display.activate(program.window)
+        program.activate()
         self.display.keys("ctrl+s")
         until(lambda: not program.is_unsaved(), "the station is saved")
         return numbers_by_place(self.modules(path))
 
     def test_copy_and_paste(self):
-        self.display.activate(self.source.window)
+        self.source.activate()
         self.from_overview.click(FEEDBACK)
         self.from_overview.wait_focus(FEEDBACK)
         self.display.keys("ctrl+c")
         until(lambda: self.before[FEEDBACK] in self.clipboard_modules(), "the module is on the clipboard")
-        self.display.activate(self.target.window)
+        self.target.activate()
         self.to_overview.click(EMPTY)
         self.to_overview.wait_focus(EMPTY)
         self.display.keys("ctrl+v")

@@ -5,6 +5,7 @@ import shutil
 import struct
 import subprocess
 import tempfile
+import time
 
 from .picture import Picture
 from .waiting import until
@@ -64,6 +65,18 @@ class Display:
             rows.append(bytes(colours))
         return Picture(width, height, rows)
 
+    def until_still(self, x, y, width, height, seconds=0.25):
+        """Waits until a part of the screen does not change for a while."""
+        shown, since = self.picture(x, y, width, height), time.monotonic()
+
+        def still():
+            nonlocal shown, since
+            now = self.picture(x, y, width, height)
+            if now != shown:
+                shown, since = now, time.monotonic()
+            return time.monotonic() - since > seconds
+        until(still, "the screen stands still")
+
     # Pointer and keys
 
     def _run(self, *command, **more):
@@ -121,8 +134,14 @@ class Display:
     def title_of(self, window):
         return self.xdotool("getwindowname", window).rstrip("\n")
 
-    def activate(self, window):
-        self.xdotool("windowactivate", "--sync", window)
+    def is_transient(self, window):
+        """Whether the window belongs to another one, as dialogs, menus and tooltips do."""
+        return "window id" in self._run("xprop", "-id", window, "WM_TRANSIENT_FOR")
+
+    def activate(self, window, instead=lambda: ()):
+        """Gives a window the keys; done also when one of the windows that may come before it has them."""
+        self.xdotool("windowactivate", window)
+        until(lambda: self.xdotool("getactivewindow").strip() in (window, *instead()), "the window is active")
 
     def geometry(self, window):
         """Left, top, width and height on the screen."""

@@ -86,13 +86,17 @@ class Overview:
         if keys:
             display.hold(*keys)
         try:
+            # The dragged module hangs below the rack there, where the pointer's own picture does not reach.
+            below = (end[0] - 10, end[1] + 38, 20, 12)
+
             # Each move is a new event for the program under the pointer, until it has drawn the dragged module.
             def shown():
                 for offset in (-1, 0):
                     display.move(end[0] + offset, end[1])
-                box = (end[0] - 20, end[1] - 20, 40, 40)
-                return display.picture(*box).differing(before.cut(*box)) > 60
+                return display.picture(*below).differing(before.cut(*below)) > 60
             until(shown, "the drag is shown at its target")
+            # The program that drags hears of the answer, and changes the pointer, a little later.
+            display.until_still(end[0] - 40, end[1] - 40, 80, 80)
         finally:
             display.release()
             if keys:

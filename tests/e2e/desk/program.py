@@ -49,14 +49,18 @@ class Program:
         test.addCleanup(self.kill)
         self.window = until(self.main_window, "the program shows its window")
         self.display.place(self.window, *area)
-        self.display.activate(self.window)
+        self.activate()
 
     # Windows
 
     def main_window(self):
-        windows = [window for window in self.display.windows_of(self.process.pid)
-                   if "Quillon Ed" in self.display.title_of(window)]
-        return windows[0] if windows else None
+        """The window that belongs to no other; a dialog may be there as early as it."""
+        return next((window for window in self.display.windows_of(self.process.pid)
+                     if "Quillon Ed" in self.display.title_of(window) and not self.display.is_transient(window)), None)
+
+    def activate(self):
+        """Gives the keys to the window, or to the dialog that it has opened meanwhile."""
+        self.display.activate(self.window, self.other_windows)
 
     def title(self):
         return self.display.title_of(self.window)
