@@ -25,6 +25,12 @@ class Report(unittest.TextTestResult):
         super().startTest(test)
         self.started = time.monotonic()
 
+    def addFailure(self, test, err):
+        super().addFailure(test, err)
+        if hasattr(test, "situation"):
+            name, text = self.failures[-1]
+            self.failures[-1] = (name, f"{text}\n{test.situation()}")
+
     def stopTest(self, test):
         self.cases.append((test.id(), time.monotonic() - self.started))
         super().stopTest(test)

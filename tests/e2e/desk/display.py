@@ -134,6 +134,11 @@ class Display:
     def title_of(self, window):
         return self.xdotool("getwindowname", window).rstrip("\n")
 
+    def titles(self):
+        """The titles of all visible windows, with their places and sizes."""
+        windows = self.xdotool("search", "--onlyvisible", "--name", ".").split()
+        return [f"'{self.title_of(window)}' at {self.geometry(window)}" for window in windows]
+
     def is_transient(self, window):
         """Whether the window belongs to another one, as dialogs, menus and tooltips do."""
         return "window id" in self._run("xprop", "-id", window, "WM_TRANSIENT_FOR")

@@ -33,6 +33,10 @@ class OnDisplay(Home):
         """The text of the modules on the clipboard."""
         return self.display.clipboard(MODULES_TYPE).decode("utf-16-le").rstrip("\0")
 
+    def situation(self):
+        """What the screen shows, for the report of a failure."""
+        return "On the screen: " + "; ".join(self.display.titles())
+
     def setUp(self):
         super().setUp()
         self.display.move(self.display.WIDTH - 2, self.display.HEIGHT - 2)
