@@ -4,8 +4,8 @@
 #include "app/catalogue/CatalogueTree.h"
 #include "app/catalogue/ModuleTypeCard.h"
 #include "app/host/SvgIcon.h"
+#include "foundation/model/Enumerations.h"
 
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,6 +21,7 @@ using namespace zqbchwcx::reference;
 namespace {
 
 constexpr double CardScale = 1.5;
+constexpr int SmallestWidthInCharacters = 47; ///< names and order numbers are whole
 
 } // namespace
 
@@ -44,6 +45,7 @@ CataloguePanel::CataloguePanel(const Catalogue& catalogue, ModulePictures& pictu
     moSearch->installEventFilter(this);
     moCount->setForegroundRole(QPalette::PlaceholderText);
     moInsert->setAutoDefault(false);
+    setMinimumWidth(SmallestWidthInCharacters * fontMetrics().averageCharWidth());
 
     auto* cardScroll = new QScrollArea(this);
     cardScroll->setWidgetResizable(true);
@@ -86,9 +88,7 @@ void CataloguePanel::Show(std::int32_t stationKind, Language language)
     meLanguage = language;
     const QString current = moTree->CurrentOrderNumber();
     moModel->Fill(stationKind, language);
-    moTree->header()->setStretchLastSection(true);
-    moTree->header()->resizeSection(0, 190);
-    moTree->expandAll();
+    moTree->ShowAll();
     const auto found = moModel->match(moModel->index(0, 0), CatalogueModel::OrderNumberRole, current, 1,
                                       Qt::MatchExactly | Qt::MatchRecursive);
     if (!current.isEmpty() && !found.isEmpty()) moTree->setCurrentIndex(moFilter->mapFromSource(found.front()));
@@ -139,7 +139,7 @@ bool CataloguePanel::eventFilter(QObject* watched, QEvent* event)
 void CataloguePanel::Search()
 {
     moFilter->Search(moSearch->text());
-    moTree->expandAll();
+    moTree->ShowAll();
     // Enter takes what the search has found first.
     if (!moSearch->text().isEmpty()) moTree->setCurrentIndex(moFilter->FirstType());
     moTree->scrollTo(moTree->currentIndex());
@@ -155,8 +155,16 @@ void CataloguePanel::ShowCount()
 void CataloguePanel::ShowType()
 {
     const ModuleType* type = moCatalogue.Find(moTree->CurrentOrderNumber().toStdString());
-    moCard->Show(type, type ? moPictures.Picture(*type, CardScale, devicePixelRatioF()) : QPixmap(), meLanguage);
+    if (type) moCard->Show(*type, moPictures.Picture(*type, CardScale, devicePixelRatioF()), meLanguage);
+    else moCard->ShowHint(Hint());
     InsertEnabled(mbInsertEnabled);
+}
+
+QString CataloguePanel::Hint() const
+{
+    return mlStationKind == zqbchwcx::vxStationKindCentral
+               ? tr("Drag a module onto a place, or double-click it to insert it at the focus.")
+               : tr("Double-click a module to insert it at the place that the list has selected.");
 }
 
 void CataloguePanel::Choose()

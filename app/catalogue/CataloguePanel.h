@@ -45,6 +45,7 @@ private:
     void Search();
     void ShowCount();
     void ShowType();
+    QString Hint() const;
     void Choose();
 
     const zqbchwcx::reference::Catalogue& moCatalogue;

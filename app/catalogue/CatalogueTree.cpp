@@ -3,12 +3,15 @@
 #include "app/catalogue/CatalogueModel.h"
 
 #include <QDrag>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 
 namespace quillon_ed {
 
 namespace {
+
+constexpr int Indentation = 14;
 
 QString OrderNumberAt(const QModelIndex& index)
 {
@@ -26,11 +29,23 @@ CatalogueTree::CatalogueTree(DragPicture dragPicture, QWidget* parent)
     setAllColumnsShowFocus(true);
     setExpandsOnDoubleClick(true);
     setTextElideMode(Qt::ElideMiddle);
+    setIndentation(Indentation);
+    header()->setStretchLastSection(false);
 }
 
 QString CatalogueTree::CurrentOrderNumber() const
 {
     return OrderNumberAt(currentIndex());
+}
+
+void CatalogueTree::ShowAll()
+{
+    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    expandAll();
+    for (QModelIndex row = model()->index(0, 0); row.isValid(); row = indexBelow(row)) {
+        setFirstColumnSpanned(row.row(), row.parent(), OrderNumberAt(row).isEmpty());
+    }
 }
 
 void CatalogueTree::startDrag(Qt::DropActions)

@@ -18,6 +18,8 @@ public:
 
     /// Empty for a group.
     QString CurrentOrderNumber() const;
+    /// Unfolds every group, after the model has changed.
+    void ShowAll();
 
 signals:
     void chosen(const QString& orderNumber);

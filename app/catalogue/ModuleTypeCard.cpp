@@ -47,24 +47,30 @@ ModuleTypeCard::ModuleTypeCard(QWidget* parent)
     line->addLayout(texts, 1);
 }
 
-void ModuleTypeCard::Show(const ModuleType* type, const QPixmap& picture, Language language)
+void ModuleTypeCard::ShowText(const QString& text, bool isHint)
 {
-    for (QLabel* label : {moPicture, moName, moOrderNumber, moFacts}) label->setVisible(type != nullptr);
-    moDescription->setForegroundRole(type ? QPalette::WindowText : QPalette::PlaceholderText);
-    if (!type) {
-        moDescription->setText(tr("Drag a module onto a place, or double-click it to insert it at the focus."));
-        return;
-    }
+    for (QLabel* label : {moPicture, moName, moOrderNumber, moFacts}) label->setHidden(isHint);
+    moDescription->setForegroundRole(isHint ? QPalette::PlaceholderText : QPalette::WindowText);
+    moDescription->setText(text);
+}
+
+void ModuleTypeCard::ShowHint(const QString& text)
+{
+    ShowText(text, true);
+}
+
+void ModuleTypeCard::Show(const ModuleType& type, const QPixmap& picture, Language language)
+{
+    ShowText(ToQString(type.description, language), false);
     moPicture->setPixmap(picture);
-    moName->setText(ToQString(type->name, language));
-    moOrderNumber->setText(ToQString(type->orderNumber));
-    moDescription->setText(ToQString(type->description, language));
+    moName->setText(ToQString(type.name, language));
+    moOrderNumber->setText(ToQString(type.orderNumber));
 
     QString rows;
-    if (type->placeCount > 1) rows += FactRow(tr("Places"), QString::number(type->placeCount));
-    if (type->inputBytes > 0) rows += FactRow(tr("Inputs"), tr("%n byte(s)", nullptr, type->inputBytes));
-    if (type->outputBytes > 0) rows += FactRow(tr("Outputs"), tr("%n byte(s)", nullptr, type->outputBytes));
-    for (const auto& [name, value] : type->facts) {
+    if (type.placeCount > 1) rows += FactRow(tr("Places"), QString::number(type.placeCount));
+    if (type.inputBytes > 0) rows += FactRow(tr("Inputs"), tr("%n byte(s)", nullptr, type.inputBytes));
+    if (type.outputBytes > 0) rows += FactRow(tr("Outputs"), tr("%n byte(s)", nullptr, type.outputBytes));
+    for (const auto& [name, value] : type.facts) {
         rows += FactRow(ToQString(name, language), ToQString(value, language));
     }
     moFacts->setText(QStringLiteral("<table cellspacing='0'>%1</table>").arg(rows));

@@ -15,11 +15,14 @@ class ModuleTypeCard : public QWidget {
 public:
     explicit ModuleTypeCard(QWidget* parent);
 
-    /// Null shows a hint instead.
-    void Show(const zqbchwcx::reference::ModuleType* type, const QPixmap& picture,
+    void Show(const zqbchwcx::reference::ModuleType& type, const QPixmap& picture,
               zqbchwcx::reference::Language language);
+    /// In the place of a type.
+    void ShowHint(const QString& text);
 
 private:
+    void ShowText(const QString& text, bool isHint);
+
     QLabel* moPicture;
     QLabel* moName;
     QLabel* moOrderNumber;

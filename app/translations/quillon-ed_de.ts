@@ -30,6 +30,14 @@
 <context>
     <name>quillon_ed::CataloguePanel</name>
     <message>
+        <source>Drag a module onto a place, or double-click it to insert it at the focus.</source>
+        <translation>Ziehen Sie eine Baugruppe auf einen Platz, oder fügen Sie sie mit einem Doppelklick am Fokus ein.</translation>
+    </message>
+    <message>
+        <source>Double-click a module to insert it at the place that the list has selected.</source>
+        <translation>Fügen Sie eine Baugruppe mit einem Doppelklick an dem Platz ein, der in der Liste gewählt ist.</translation>
+    </message>
+    <message>
         <source>Search name, order number, description</source>
         <translation>Name, Bestellnummer, Beschreibung suchen</translation>
     </message>
@@ -390,10 +398,6 @@
 </context>
 <context>
     <name>quillon_ed::ModuleTypeCard</name>
-    <message>
-        <source>Drag a module onto a place, or double-click it to insert it at the focus.</source>
-        <translation>Ziehen Sie eine Baugruppe auf einen Platz, oder fügen Sie sie mit einem Doppelklick am Fokus ein.</translation>
-    </message>
     <message>
         <source>Places</source>
         <translation>Plätze</translation>

@@ -17,27 +17,6 @@ namespace {
 
 constexpr int ContentWidth = 720;
 
-QLabel* MakeHeading(QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    return label;
-}
-
-QListWidget* MakeList(QWidget* parent)
-{
-    auto* list = new QListWidget(parent);
-    list->setFrameShape(QFrame::NoFrame);
-    list->viewport()->setAutoFillBackground(false);
-    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    list->setTextElideMode(Qt::ElideMiddle);
-    list->setSpacing(2);
-    list->setMinimumHeight(260);
-    return list;
-}
-
 QToolButton* MakeButton(QAction& action, QWidget* parent)
 {
     auto* button = new QToolButton(parent);
@@ -52,9 +31,58 @@ QToolButton* MakeButton(QAction& action, QWidget* parent)
 
 } // namespace
 
+/// Stations to choose from, under a heading.
+class StartPage::TitledList : public QWidget {
+public:
+    explicit TitledList(QWidget* parent) : QWidget(parent), moHeading(new QLabel(this)), moList(new QListWidget(this))
+    {
+        QFont bold = moHeading->font();
+        bold.setBold(true);
+        moHeading->setFont(bold);
+        moList->setFrameShape(QFrame::NoFrame);
+        moList->viewport()->setAutoFillBackground(false);
+        moList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        moList->setTextElideMode(Qt::ElideMiddle);
+        moList->setSpacing(2);
+        moList->setMinimumHeight(260);
+
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->addWidget(moHeading);
+        column->addWidget(moList, 1);
+    }
+
+    void SetTitle(const QString& title)
+    {
+        moHeading->setText(title);
+        moList->setAccessibleName(title);
+    }
+
+    void Clear() { moList->clear(); }
+
+    void Add(const QString& text, const QString& target, const QString& toolTip = {})
+    {
+        auto* item = new QListWidgetItem(text, moList);
+        item->setToolTip(toolTip);
+        item->setData(Qt::UserRole, target);
+    }
+
+    /// Calls with the target that the user chooses.
+    template <class Chosen>
+    void OnChosen(Chosen chosen)
+    {
+        connect(moList, &QListWidget::itemActivated, this,
+                [chosen](const QListWidgetItem* item) { chosen(item->data(Qt::UserRole).toString()); });
+    }
+
+private:
+    QLabel* moHeading;
+    QListWidget* moList;
+};
+
 StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
-    : QWidget(parent), moHeading(new QLabel(this)), moHint(new QLabel(this)), moRecentHeading(MakeHeading(this)),
-      moRecent(MakeList(this)), moExamplesHeading(MakeHeading(this)), moExamples(MakeList(this))
+    : QWidget(parent), moHeading(new QLabel(this)), moHint(new QLabel(this)),
+      moRecent(new TitledList(this)), moExamples(new TitledList(this))
 {
     auto* picture = new QLabel(this);
     picture->setPixmap(SvgIcon(QStringLiteral("quillon-ed")).pixmap(56, 56));
@@ -64,7 +92,7 @@ StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
     moHint->setForegroundRole(QPalette::PlaceholderText);
 
     auto* content = new QWidget(this);
-    content->setFixedWidth(ContentWidth);
+    content->setMaximumWidth(ContentWidth);
     auto* grid = new QGridLayout(content);
     grid->setHorizontalSpacing(32);
     grid->setColumnStretch(0, 1);
@@ -87,28 +115,21 @@ StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
     // Without recent files the examples have the whole width.
     auto* lists = new QHBoxLayout;
     lists->setSpacing(32);
-    for (const auto& [heading, list] :
-         {std::pair{moRecentHeading, moRecent}, std::pair{moExamplesHeading, moExamples}}) {
-        auto* part = new QVBoxLayout;
-        part->addWidget(heading);
-        part->addWidget(list);
-        lists->addLayout(part, 1);
-    }
+    lists->addWidget(moRecent, 1);
+    lists->addWidget(moExamples, 1);
     grid->addLayout(lists, 4, 0, 1, 2);
 
     auto* column = new QVBoxLayout(this);
     column->addStretch(2);
-    column->addWidget(content, 0, Qt::AlignHCenter);
+    auto* middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(content, ContentWidth); // far more than the margins get, up to its maximum
+    middle->addStretch(1);
+    column->addLayout(middle);
     column->addStretch(3);
 
-    const auto connectList = [this](QListWidget* list, void (StartPage::*chosen)(const QString&)) {
-        connect(list, &QListWidget::itemActivated, this, [this, chosen](QListWidgetItem* item) {
-            const QString target = item->data(Qt::UserRole).toString();
-            if (!target.isEmpty()) (this->*chosen)(target);
-        });
-    };
-    connectList(moRecent, &StartPage::fileChosen);
-    connectList(moExamples, &StartPage::exampleChosen);
+    moRecent->OnChosen([this](const QString& file) { emit fileChosen(file); });
+    moExamples->OnChosen([this](const QString& resource) { emit exampleChosen(resource); });
     RetranslateUi();
 }
 
@@ -116,10 +137,8 @@ void StartPage::RetranslateUi()
 {
     moHeading->setText(QStringLiteral("Quillon Ed"));
     moHint->setText(tr("Begin a station, open one, or drop a station file on this window."));
-    moRecentHeading->setText(tr("Opened last"));
-    moExamplesHeading->setText(tr("Examples"));
-    moRecent->setAccessibleName(moRecentHeading->text());
-    moExamples->setAccessibleName(moExamplesHeading->text());
+    moRecent->SetTitle(tr("Opened last"));
+    moExamples->SetTitle(tr("Examples"));
 }
 
 void StartPage::changeEvent(QEvent* event)
@@ -130,25 +149,18 @@ void StartPage::changeEvent(QEvent* event)
 
 void StartPage::RecentFiles(const QStringList& files)
 {
-    moRecent->clear();
+    moRecent->Clear();
     for (const QString& file : files) {
         const QFileInfo info(file);
-        auto* item = new QListWidgetItem(info.fileName(), moRecent);
-        item->setToolTip(info.absoluteFilePath());
-        item->setData(Qt::UserRole, file);
+        moRecent->Add(info.fileName(), file, info.absoluteFilePath());
     }
-    const bool any = !files.isEmpty();
-    moRecent->setVisible(any);
-    moRecentHeading->setVisible(any);
+    moRecent->setVisible(!files.isEmpty());
 }
 
 void StartPage::Examples(const QList<std::pair<QString, QString>>& examples)
 {
-    moExamples->clear();
-    for (const auto& [name, resource] : examples) {
-        auto* item = new QListWidgetItem(name, moExamples);
-        item->setData(Qt::UserRole, resource);
-    }
+    moExamples->Clear();
+    for (const auto& [name, resource] : examples) moExamples->Add(name, resource);
 }
 
 } // namespace quillon_ed

@@ -4,8 +4,6 @@
 
 class QAction;
 class QLabel;
-class QListWidget;
-class QListWidgetItem;
 
 namespace quillon_ed {
 
@@ -28,14 +26,14 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    class TitledList;
+
     void RetranslateUi();
 
     QLabel* moHeading;
     QLabel* moHint;
-    QLabel* moRecentHeading;
-    QListWidget* moRecent;
-    QLabel* moExamplesHeading;
-    QListWidget* moExamples;
+    TitledList* moRecent;
+    TitledList* moExamples;
 };
 
 } // namespace quillon_ed

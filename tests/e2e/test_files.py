@@ -1,5 +1,6 @@
 """Nothing is lost: questions, failures of the disk, other programs, and the end of the program itself."""
 from desk.commandline import AS_ORDINARY_USER
+from desk.picture import read_png
 from desk.program import OnDisplay
 from desk.stations import EXAMPLE, FEEDBACK, numbers_by_place
 from desk.waiting import stays, until
@@ -126,3 +127,25 @@ class Files(OnDisplay):
         self.display.keys("Delete", "ctrl+x", "ctrl+v")
         stays(lambda: not program.is_unsaved(), "nothing has changed")
         self.assertEqual(self.path.read_bytes(), text)
+
+    def test_the_window_exports_and_prints_what_it_shows(self):
+        program, _ = self.open_and_change()
+        drawn, exported = self.folder / "drawn.png", self.folder / "exported.png"
+        printed = self.home / "waterworks.station.pdf"
+
+        self.display.keys("ctrl+e")
+        question = program.dialog("Export picture")
+        self.display.keys("ctrl+a")
+        self.display.type(str(exported))
+        self.display.keys("Return")
+        program.wait_closed(question)
+        self.display.keys("ctrl+p")
+        question = program.dialog("Print")
+        self.display.keys("Return")
+        program.wait_closed(question)
+        until(lambda: printed.exists() and printed.read_bytes().rstrip().endswith(b"%%EOF"), "the pages are written")
+
+        self.display.keys("ctrl+s")
+        until(lambda: not program.is_unsaved(), "the station is saved")
+        self.succeed("render", self.path, "-o", drawn, "--scale", "2")
+        self.assertEqual(read_png(exported), read_png(drawn))

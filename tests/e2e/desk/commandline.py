@@ -32,7 +32,8 @@ class Home(unittest.TestCase):
                     XDG_DATA_HOME=str(self.home / "data"), XDG_STATE_HOME=str(self.home / "state"),
                     XDG_CACHE_HOME=str(self.home / "cache"))
         if display:
-            kept.update(DISPLAY=display, XDG_RUNTIME_DIR=str(self.home))
+            # Without a print server no test reaches a real printer: printing goes to files.
+            kept.update(DISPLAY=display, XDG_RUNTIME_DIR=str(self.home), CUPS_SERVER="localhost:1")
         return kept
 
     def run_command(self, *arguments, before=(), **more):
