@@ -81,8 +81,8 @@ private:
 };
 
 StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
-    : QWidget(parent), moHeading(new QLabel(this)), moHint(new QLabel(this)),
-      moRecent(new TitledList(this)), moExamples(new TitledList(this))
+    : QWidget(parent), moHeading(new QLabel(this)), moHint(new QLabel(this)), moRecent(new TitledList(this)),
+      moExamples(new TitledList(this))
 {
     auto* picture = new QLabel(this);
     picture->setPixmap(SvgIcon(QStringLiteral("quillon-ed")).pixmap(56, 56));
