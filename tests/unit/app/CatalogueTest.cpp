@@ -2,6 +2,9 @@
 
 #include "app/catalogue/CatalogueFilter.h"
 #include "app/catalogue/CatalogueModel.h"
+#include "app/catalogue/CataloguePanel.h"
+#include "app/catalogue/CatalogueTree.h"
+#include "app/catalogue/ModuleTypeCard.h"
 #include "app/host/SvgIcon.h"
 #include "app/window/ModuleInserter.h"
 #include "foundation/model/VxHWModule.h"
@@ -9,6 +12,7 @@
 
 #include <QBitmap>
 #include <QDirIterator>
+#include <QLabel>
 #include <QMimeData>
 
 #include <set>
@@ -84,6 +88,30 @@ TEST_F(CatalogueTest, ADraggedTypeIsReadBackAsTheModuleThatItIs)
         ASSERT_EQ(modules->Count(), std::max(type.placeCount, 1)) << type.orderNumber;
         EXPECT_EQ(modules->Item(0)->OrderNumber(), type.orderNumber);
         EXPECT_FALSE(services.Pictures().Picture(type, 1.5, 2.0).isNull()) << type.orderNumber;
+    }
+}
+
+TEST_F(CatalogueTest, TheSmallestPanelShowsTypesWholeAndHintsAtWhatTheStationCanDo)
+{
+    CataloguePanel panel(
+        services.Catalogue(), services.Pictures(), [](const QString&) { return nullptr; }, nullptr);
+    const auto* tree = panel.findChild<CatalogueTree*>();
+    const auto* card = panel.findChild<ModuleTypeCard*>();
+    for (const std::int32_t kind : {0, 1, 2}) {
+        panel.Show(kind, Language::English);
+        panel.resize(panel.minimumSizeHint());
+        panel.grab();
+        for (QModelIndex row = tree->model()->index(0, 0); row.isValid(); row = tree->indexBelow(row)) {
+            if (row.data(CatalogueModel::OrderNumberRole).toString().isEmpty()) continue;
+            for (const int column : {0, 1}) {
+                const QModelIndex cell = row.siblingAtColumn(column);
+                EXPECT_LE(tree->fontMetrics().horizontalAdvance(cell.data().toString()), tree->visualRect(cell).width())
+                    << cell.data().toString().toStdString();
+            }
+        }
+        QString hints;
+        for (const QLabel* label : card->findChildren<QLabel*>()) hints += label->text();
+        EXPECT_EQ(hints.contains(QStringLiteral("Drag")), kind == 0);
     }
 }
 
