@@ -2,7 +2,6 @@
 
 #include "app/host/Strings.h"
 #include "reference/files/AtomicWrite.h"
-#include "reference/files/StationReader.h"
 #include "reference/files/StationWriter.h"
 #include "reference/json/FileError.h"
 
@@ -20,15 +19,23 @@ Document::Document(ModelContextPtr context, StationData data, JournalOrigin orig
 {
     HistoryServices asked;
     asked.editName = [this](EditKind kind) { return EditName(kind); };
-    asked.captureView = [this] { return moView.capture ? moView.capture() : ViewState(); };
-    asked.restoreView = [this](const ViewState& state) {
-        if (moView.restore) moView.restore(state);
-    };
+    asked.captureView = [this] { return CaptureView(); };
+    asked.restoreView = [this](const ViewState& state) { RestoreView(state); };
     moHistory = std::make_shared<zqbchwcx::reference::History>(moStation, std::move(asked));
     moHistoryChanged = moHistory->Changed.Connect([this] { emit changed(); });
 }
 
 Document::~Document() = default;
+
+ViewState Document::CaptureView() const
+{
+    return moView.capture ? moView.capture() : ViewState();
+}
+
+void Document::RestoreView(const ViewState& state) const
+{
+    if (moView.restore) moView.restore(state);
+}
 
 std::string Document::EditName(EditKind kind) const
 {
@@ -115,9 +122,8 @@ void Document::KeepOwnContent()
     MarkModified();
 }
 
-void Document::Reload()
+void Document::TakeOver(LoadedStation loaded)
 {
-    LoadedStation loaded = LoadStation(moOrigin.stationFile, moStation->ModuleTypes());
     moOrigin.stamp = loaded.stamp;
     mbModifiedAnyway = false;
     moStation->Restore(std::move(loaded.data));

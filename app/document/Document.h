@@ -2,6 +2,7 @@
 
 #include "reference/files/FileStamp.h"
 #include "reference/files/JournalEntry.h"
+#include "reference/files/StationReader.h"
 #include "reference/history/History.h"
 #include "reference/model/contract/Station.h"
 
@@ -17,7 +18,7 @@ class Document : public QObject {
     Q_OBJECT
 
 public:
-    /// The view that undo and redo bring back; an empty function is left out.
+    /// The selection and focus that undo and redo bring back; an empty function is left out.
     struct View {
         std::function<zqbchwcx::reference::ViewState()> capture;
         std::function<void(const zqbchwcx::reference::ViewState&)> restore;
@@ -35,6 +36,9 @@ public:
     /// What the host's error service passes user actions to.
     std::weak_ptr<zqbchwcx::reference::History> Actions() const { return moHistory; }
     void ShownBy(View view) { moView = std::move(view); }
+    /// The selection and focus of whoever shows the document.
+    zqbchwcx::reference::ViewState CaptureView() const;
+    void RestoreView(const zqbchwcx::reference::ViewState& state) const;
 
     const zqbchwcx::reference::JournalOrigin& Origin() const { return moOrigin; }
     /// Empty when the station was never saved.
@@ -54,8 +58,9 @@ public:
     zqbchwcx::reference::FileChange FileChange() const;
     /// Makes the file's present state the one to compare with, and keeps the own content as a change of it.
     void KeepOwnContent();
-    /// Takes the file's content over and forgets the history. Throws FileError; nothing has changed then.
-    void Reload();
+    /// What was read from its file again becomes its content, without history. It can be another kind of station, or
+    /// have other racks: whoever shows the document begins anew.
+    void TakeOver(zqbchwcx::reference::LoadedStation loaded);
 
 signals:
     /// Modified mark, file name, undo or redo have changed.

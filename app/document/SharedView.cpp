@@ -13,13 +13,19 @@ using namespace zqbchwcx;
 
 namespace {
 
+bool HasPosition(const VxHWStation& station, std::int32_t lPosition)
+{
+    const PositionInfo info = G_PositionInfo(lPosition);
+    if (info.eType == vxPositionNone) return true;
+    return info.lRack < station.Racks()->Count() && info.lNumber <= station.Racks()->Item(info.lRack)->Places()->Count();
+}
+
 /// Null when the station has no such place.
 VxHWRackPlacePtr FindPlace(const VxHWStation& station, std::int32_t lPosition)
 {
     const PositionInfo info = G_PositionInfo(lPosition);
-    if (info.eType != vxPositionPlace || info.lRack >= station.Racks()->Count()) return nullptr;
-    const VxHWRackPlacesPtr places = station.Racks()->Item(info.lRack)->Places();
-    return info.lNumber <= places->Count() ? places->Item(info.lNumber) : nullptr;
+    if (info.eType != vxPositionPlace || !HasPosition(station, lPosition)) return nullptr;
+    return station.Racks()->Item(info.lRack)->Places()->Item(info.lNumber);
 }
 
 } // namespace
@@ -27,11 +33,13 @@ VxHWRackPlacePtr FindPlace(const VxHWStation& station, std::int32_t lPosition)
 reference::ViewState CaptureView(const VxHWSelectionHandler& handler)
 {
     reference::ViewState state;
-    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
-        state.selection.push_back(G_PlacePosition(place->Rack()->Number(), place->Number()));
-    }
     state.focus = handler.FocusPosition();
     state.anchor = handler.ShiftSelPosition();
+    G_Trap("SharedView", "CaptureView", [&] {
+        for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
+            state.selection.push_back(G_PlacePosition(place->Rack()->Number(), place->Number()));
+        }
+    });
     return state;
 }
 
@@ -43,8 +51,8 @@ void ShowView(VxHWSelectionHandler& handler, const VxHWStation& station, const r
         for (const std::int32_t position : state.selection) {
             if (const VxHWRackPlacePtr place = FindPlace(station, position)) selected->Add(place);
         }
-        handler.ShiftSelPosition(state.anchor);
-        handler.FocusPosition(state.focus);
+        if (HasPosition(station, state.anchor)) handler.ShiftSelPosition(state.anchor);
+        if (HasPosition(station, state.focus)) handler.FocusPosition(state.focus);
         handler.SelChangeComplete();
     });
 }

@@ -6,7 +6,7 @@
 
 namespace quillon_ed {
 
-/// Selection, focus and anchor as they are now.
+/// Selection, focus and anchor as they are now. Reports errors.
 zqbchwcx::reference::ViewState CaptureView(const zqbchwcx::VxHWSelectionHandler& handler);
 
 /// Selects and focuses as the state says; positions that the station does not have are left out. Reports errors.

@@ -8,6 +8,7 @@
 #include "reference/files/StationReader.h"
 #include "reference/json/FileError.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -212,7 +213,8 @@ bool FileCommands::MayLeave()
 
 void FileCommands::CheckFile()
 {
-    if (!moDocument || mbAsking) return;
+    // Another dialog may be about the very station that the answer would replace.
+    if (!moDocument || mbAsking || QApplication::activeModalWidget() != nullptr) return;
     const QScopedValueRollback<bool> guard(mbAsking, true);
     try {
         const FileChange change = moDocument->FileChange();
@@ -239,7 +241,7 @@ void FileCommands::AnswerForeignChange(FileChange change)
     box.exec();
     if (reload && box.clickedButton() == reload) {
         try {
-            moDocument->Reload();
+            Reload();
             return;
         } catch (const FileError& error) {
             Tell(tr("“%1” cannot be opened.").arg(title), ReasonOf(error, moServices.CurrentLanguage()));
@@ -248,6 +250,16 @@ void FileCommands::AnswerForeignChange(FileChange change)
     // Whatever comes next, the same change is not asked about twice.
     moDocument->KeepOwnContent();
     if (box.clickedButton() == elsewhere) SaveAs();
+}
+
+void FileCommands::Reload()
+{
+    LoadedStation loaded = LoadStation(moDocument->FileName().toStdString(), moServices.Catalogue());
+    const ViewState view = moDocument->CaptureView();
+    emit aboutToClose();
+    moDocument->TakeOver(std::move(loaded));
+    emit opened();
+    moDocument->RestoreView(view);
 }
 
 void FileCommands::OfferRecovery(bool telling)

@@ -47,7 +47,7 @@ public:
 
 signals:
     void aboutToClose();
-    /// Another document is open, or none.
+    /// Another document is open, another content of the same one, or none.
     void opened();
     /// Title, modified mark, undo or redo of the document have changed.
     void changed();
@@ -61,6 +61,7 @@ private:
                                            zqbchwcx::reference::JournalOrigin origin) const;
     bool SaveTo(const QString& fileName);
     bool MayOverwriteForeignChange();
+    void Reload();
     void AnswerForeignChange(zqbchwcx::reference::FileChange change);
     void Recover(const zqbchwcx::reference::RecoverableJournal& journal);
     void Tell(const QString& what, const QString& reason);

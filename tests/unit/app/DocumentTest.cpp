@@ -82,7 +82,7 @@ TEST_F(DocumentTest, NoticesWhatAnotherProgramDidToTheFile)
     WriteFile(path, text.replace("Waterworks", "Steelworks"));
     EXPECT_EQ(document->FileChange(), FileChange::Changed);
     SetComment(*document, Input, "mine");
-    document->Reload();
+    document->TakeOver(LoadStation(path.toStdString(), services.Catalogue()));
     EXPECT_EQ(document->FileChange(), FileChange::Unchanged);
     EXPECT_FALSE(document->IsModified() || document->History().CanUndo());
     EXPECT_EQ(document->Station()->Data().name.substr(0, 10), "Steelworks");
@@ -96,16 +96,6 @@ TEST_F(DocumentTest, NoticesWhatAnotherProgramDidToTheFile)
     EXPECT_EQ(document->FileChange(), FileChange::Missing);
     document->KeepOwnContent();
     EXPECT_EQ(document->FileChange(), FileChange::Unchanged);
-}
-
-TEST_F(DocumentTest, ReloadingADamagedFileChangesNothing)
-{
-    SetComment(*document, Input, "mine");
-    WriteFile(path, "{");
-    EXPECT_THROW(document->Reload(), FileError);
-    EXPECT_TRUE(document->History().CanUndo());
-    document->History().Undo();
-    EXPECT_FALSE(document->IsModified());
 }
 
 TEST_F(DocumentTest, AJournalHoldsWhatADyingProgramHadNotSaved)

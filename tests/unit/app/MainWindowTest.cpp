@@ -6,13 +6,16 @@
 #include "foundation/PlacePosition.h"
 #include "selection/VxHWSelectionHandler.h"
 
-#include <QCoreApplication>
+#include <QAbstractButton>
+#include <QApplication>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QTimer>
 
 namespace quillon_ed {
 namespace {
@@ -45,6 +48,18 @@ protected:
     void Open(const char* resource = testing::Waterworks)
     {
         window->Files().OpenExample(QString::fromLatin1(resource));
+    }
+
+    /// Presses the button of the next question.
+    static void Answer(const char* button)
+    {
+        QTimer::singleShot(0, qApp, [text = QString::fromLatin1(button)] {
+            const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            for (auto* candidate : box->buttons())
+                if (candidate->text().remove(u'&') == text) return candidate->click();
+            FAIL() << text.toStdString();
+        });
     }
 
     std::unique_ptr<MainWindow> window;
@@ -156,6 +171,47 @@ TEST_F(MainWindowTest, OpensAFileThatIsDroppedAnywhereOnIt)
     EXPECT_TRUE(window->Files().Current()->FileName().isEmpty()) << "the drop has to end first";
     for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents();
     EXPECT_EQ(window->Files().Current()->FileName(), path);
+}
+
+TEST_F(MainWindowTest, ReloadsWhateverAnotherProgramHasPutIntoTheFile)
+{
+    const QString path = Path("shared.station.json");
+    const auto write = [&](const char* example) { WriteFile(path, ReadWhole(QString::fromLatin1(example))); };
+    write(":/examples/packaging-line.station.json");
+    ASSERT_TRUE(window->Files().OpenFile(path));
+    const auto handler = [&] { return window->findChild<StationView*>()->Handler(); };
+    const auto reload = [&] {
+        Answer("Reload");
+        window->Files().CheckFile();
+        QCoreApplication::processEvents();
+    };
+    handler()->FocusPosition(zqbchwcx::G_PlacePosition(3, 5));
+    Action("Select all of the rack")->trigger();
+
+    write(testing::Waterworks);
+    reload();
+    EXPECT_EQ(handler()->FocusPosition(), zqbchwcx::G_PlacePosition(0, 1)) << "rack 3 is gone";
+    handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 4));
+    write(":/examples/packaging-line.station.json");
+    reload();
+    EXPECT_EQ(handler()->FocusPosition(), zqbchwcx::G_PlacePosition(0, 4));
+    handler()->FocusPosition(zqbchwcx::G_PlacePosition(3, 5));
+    Action("Select all of the rack")->trigger();
+    EXPECT_TRUE(StatusTexts().contains(QStringLiteral("11 places selected"))) << StatusTexts().join(u'|').toStdString();
+    Action("Delete")->trigger();
+    EXPECT_TRUE(IsEnabled("Undo delete"));
+
+    WriteFile(path, "{");
+    Answer("Reload");
+    QTimer::singleShot(50, window.get(), [this] { Answer("Close"); });
+    window->Files().CheckFile();
+    EXPECT_TRUE(IsEnabled("Undo delete")) << "a damaged file takes nothing away";
+    write(":/examples/sewage-aeration.station.json");
+    reload();
+    EXPECT_FALSE(IsEnabled("Delete")) << "it is read-only";
+    write(":/examples/assembly-cell.station.json");
+    reload();
+    EXPECT_FALSE(window->findChild<QWidget*>(QStringLiteral("rackOverview"))) << "a distributed station";
 }
 
 TEST_F(MainWindowTest, AReadOnlyStationOffersNoChange)
