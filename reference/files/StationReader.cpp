@@ -71,6 +71,7 @@ public:
         if (moError || mcolRacks.size() == MaxRacks) return;
         try {
             mcolRacks.push_back(ReadRack(cursor, moCatalogue));
+            CheckLength(cursor);
         } catch (const FileError& error) {
             moError = error;
         }
@@ -83,6 +84,16 @@ public:
     }
 
 private:
+    /// Selections are kept in a table of racks and places: a longer rack would have places that nobody can select.
+    void CheckLength(const JsonCursor& cursor) const
+    {
+        const std::string length = std::to_string(mcolRacks.front()->places.size());
+        if (mcolRacks.back()->places.size() == mcolRacks.front()->places.size()) return;
+        cursor.Member("placeCount")
+            .Fail("every rack has as many places as rack 0: " + length,
+                  "jeder Träger hat so viele Plätze wie Träger 0: " + length);
+    }
+
     const Catalogue& moCatalogue;
     std::vector<RackDataPtr> mcolRacks;
     std::optional<FileError> moError;

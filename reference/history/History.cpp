@@ -8,7 +8,7 @@ namespace zqbchwcx::reference {
 
 History::History(StationPtr oStation, HistoryServices services)
     : moStation(std::move(oStation)), moServices(std::move(services)),
-      moSaved(G_Require(moStation, "The station").Data())
+      moSaved(G_Require(moStation, "The station")->Data())
 {
     moChanging = moStation->Changing.Connect([this](EditKind kind) { OnChanging(kind); });
     moChanged = moStation->Changed.Connect([this](EditKind) { OnChanged(); });

@@ -47,8 +47,8 @@ VxHWRackPtr RackPlace::Rack() const
 
 PlaceRef RefOf(const VxHWRackPlacePtr& oPlace)
 {
-    const VxHWRackPlace& place = G_Require(oPlace, "The place");
-    return {G_Require(place.Rack(), "The place's rack").Number(), place.Number()};
+    const VxHWRackPlace& place = *G_Require(oPlace, "The place");
+    return {G_Require(place.Rack(), "The place's rack")->Number(), place.Number()};
 }
 
 } // namespace zqbchwcx::reference

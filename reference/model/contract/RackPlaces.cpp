@@ -16,7 +16,7 @@ VxHWRackPlacePtr RackPlaces::Item(std::int32_t lIndex) const
 
 void RackPlaces::Add(const VxHWRackPlacePtr& oPlace)
 {
-    ++mcolCountByKey[G_Require(oPlace, "The place").Key()];
+    ++mcolCountByKey[G_Require(oPlace, "The place")->Key()];
     mcolPlaces.push_back(oPlace);
 }
 
@@ -39,7 +39,7 @@ void RackPlaces::Clear()
 
 bool RackPlaces::Contains(const VxHWRackPlacePtr& oPlace) const
 {
-    return mcolCountByKey.contains(G_Require(oPlace, "The place").Key());
+    return mcolCountByKey.contains(G_Require(oPlace, "The place")->Key());
 }
 
 } // namespace zqbchwcx::reference

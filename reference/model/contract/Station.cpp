@@ -31,7 +31,7 @@ std::vector<PlaceRef> RefsOf(const VxHWRackPlaces& places)
 
 ByteArray ConfigBytes(const VxHWModulesPtr& oModules)
 {
-    return G_EncodeConfigText(G_Require(oModules, "The modules").ConfigText());
+    return G_EncodeConfigText(G_Require(oModules, "The modules")->ConfigText());
 }
 
 } // namespace
@@ -75,12 +75,12 @@ bool Station::MoveModules(std::int32_t lPosition, const VxHWModulesPtr& oModules
 
 void Station::DeleteModules(const VxHWRackPlacesPtr& oPlaces)
 {
-    Finish(DeleteAt(EditFrom(), RefsOf(G_Require(oPlaces, "The places"))), EditKind::Delete);
+    Finish(DeleteAt(EditFrom(), RefsOf(*G_Require(oPlaces, "The places"))), EditKind::Delete);
 }
 
 std::int32_t Station::OpenModuleParamDialog(const VxHWRackPlacePtr& oPlace)
 {
-    const Module module = Module::Of(G_Require(oPlace, "The place").Module());
+    const Module module = Module::Of(G_Require(oPlace, "The place")->Module());
     if (module.IsEmpty() || !moServices.parameterDialog) return 0;
     const PlaceRef firstPlace = module.Body()->firstPlace;
     const std::optional<ModuleData> edited = moServices.parameterDialog(*module.Body()->data, firstPlace);
@@ -90,7 +90,12 @@ std::int32_t Station::OpenModuleParamDialog(const VxHWRackPlacePtr& oPlace)
 
 bool Station::SetModuleAttribute(const VxHWRackPlacePtr& oPlace, std::string_view name, std::string_view value)
 {
-    return Finish(SetAttribute(EditFrom(), RefOf(oPlace), name, value), EditKind::Attribute);
+    const Outcome<Edit> edit = SetAttribute(EditFrom(), RefOf(oPlace), name, value);
+    const bool bChanges = edit && !SameStation(edit.Result().data, Data());
+    const bool bAccepted = Finish(edit, EditKind::Attribute);
+    // Whoever shows the typed value has to show the module's again.
+    if (!bChanges) RackPlaceChange.Raise(oPlace);
+    return bAccepted;
 }
 
 bool Station::CanBePlaced(std::int32_t lPosition, const VxHWModulesPtr& oModules, bool bMove,
@@ -127,7 +132,7 @@ VxHWModulesPtr Station::ModulesFromConfigText(std::string_view text, const Excha
 
 void Station::WriteModulesToExchange(const VxHWModulesPtr& oModules, const ExchangeDataPtr& oExchange) const
 {
-    G_Require(oExchange, "The exchange object").LoadData(ConfigBytes(oModules));
+    G_Require(oExchange, "The exchange object")->LoadData(ConfigBytes(oModules));
 }
 
 void Station::PrepareModule(const VxHWModulePtr& oModule)
@@ -172,7 +177,7 @@ VxHWRackPlacesPtr Station::ParentModulePlaces(const VxHWModulePtr& oParentModule
 
 bool Station::HasGroupFrame(const VxHWRackPlacePtr& oPlace) const
 {
-    return G_Require(oPlace, "The place").Module()->IndexInParent() > 0;
+    return G_Require(oPlace, "The place")->Module()->IndexInParent() > 0;
 }
 
 void Station::RefreshDiagnostics()
@@ -258,9 +263,9 @@ bool Station::FinishPlacing(const Outcome<Edit>& edit, EditKind kind, const VxHW
 Outcome<Edit> Station::TryPlacing(std::int32_t lPosition, const VxHWModulesPtr& oModules, bool bMove,
                                   const VxHWRackPlacesPtr& oSourcePlaces) const
 {
-    const ModuleBlock block = BlockOf(G_Require(oModules, "The modules"));
+    const ModuleBlock block = BlockOf(*G_Require(oModules, "The modules"));
     if (!bMove) return PlaceBlock(EditFrom(), lPosition, block);
-    return MoveBlock(EditFrom(), lPosition, block, RefsOf(G_Require(oSourcePlaces, "The source places")));
+    return MoveBlock(EditFrom(), lPosition, block, RefsOf(*G_Require(oSourcePlaces, "The source places")));
 }
 
 void Station::Tell(const StationChange& change)

@@ -23,7 +23,7 @@ void TypeExchange::LoadData(const ByteArray& data)
 void TypeExchange::PutOnClipboard()
 {
     if (mcolBytes.empty()) throw VxError(vxErrorInvalidArgument, "There is nothing to be put on the clipboard");
-    G_Require(moClipboard, "The clipboard").Write(ConfigTextName, mcolBytes);
+    G_Require(moClipboard, "The clipboard")->Write(ConfigTextName, mcolBytes);
 }
 
 } // namespace zqbchwcx::reference

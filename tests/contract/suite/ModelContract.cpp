@@ -26,6 +26,7 @@ void RacksAndPlacesAreNumbered(const ContractHost& host)
             EXPECT_TRUE(keys.insert(place->Key()).second) << place->Key() << " names two places";
         }
         EXPECT_EQ(placeNumber, places->Count());
+        EXPECT_EQ(placeNumber, racks->Item(0)->Places()->Count()) << "selections take racks as equally long";
     }
     EXPECT_EQ(rackNumber, racks->Count());
     EXPECT_ANY_THROW(racks->Item(racks->Count()));
@@ -182,6 +183,10 @@ void AttributesAreWrittenAndTold(const ContractHost& host)
     EXPECT_TRUE(host.station->SetModuleAttribute(PlaceOf(host, host.firstPlace), host.textAttribute, "päper"));
     EXPECT_EQ(ModuleOf(host, host.firstPlace)->GetAttribute(host.textAttribute), "päper");
     EXPECT_TRUE(told.Has(PlaceOf(host, host.firstPlace)));
+
+    ToldPlaces toldAgain(*host.station);
+    EXPECT_TRUE(host.station->SetModuleAttribute(PlaceOf(host, host.firstPlace), host.textAttribute, "päper"));
+    EXPECT_TRUE(toldAgain.Has(PlaceOf(host, host.firstPlace))) << "what was typed may look different";
 }
 
 void BatchIsToldWhenItIsOver(const ContractHost& host)

@@ -80,6 +80,10 @@ TEST(StationReader, RefusesDamagedAndHostileJson)
     ordered_json manyRacks = ValidStation();
     for (int i = 0; i < MaxRacks; ++i) manyRacks["racks"].push_back(manyRacks["racks"][0]);
     EXPECT_EQ(ParseError(manyRacks.dump()).pointer, "/racks");
+    ordered_json uneven = ValidStation();
+    uneven["racks"].push_back({{"placeCount", 12}, {"places", ordered_json::array()}});
+    EXPECT_EQ(ParseError(uneven.dump()).pointer, "/racks/1/placeCount");
+    EXPECT_THAT(ParseError(uneven.dump()).reason, HasSubstr("as rack 0: 11"));
     ordered_json secondBroken = ValidStation();
     secondBroken["racks"].push_back({{"placeCount", 4}, {"places", "none"}});
     EXPECT_EQ(ParseError(secondBroken.dump()).pointer, "/racks/1/places");
