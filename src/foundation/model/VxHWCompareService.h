@@ -9,6 +9,13 @@
 
 namespace zqbchwcx {
 
+/// One parameter that differs.
+class ParameterDifference {
+public:
+    virtual ~ParameterDifference() = default;
+};
+using ParameterDifferencePtr = std::shared_ptr<ParameterDifference>;
+
 /// The parameter differences of a place.
 class ParameterDifferences {
 public:
@@ -27,8 +34,8 @@ public:
     /// One of the vxCompare… values.
     virtual std::int32_t PlaceResult(const VxHWRackPlacePtr& oPlace) const = 0;
     virtual ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& oPlace) const = 0;
-    /// Opens the host's parameter comparison of the place as a whole.
-    virtual void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace) = 0;
+    /// Opens the host's parameter comparison of the place: at one of its differences, or as a whole for nothing.
+    virtual void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace, const ParameterDifferencePtr& oDifference) = 0;
     /// A text about the place for its compare tooltip.
     virtual std::string PlaceText(const VxHWRackPlacePtr& oPlace) const = 0;
 };

@@ -36,7 +36,10 @@ public:
     }
     void Compare() override {}
     ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& /*oPlace*/) const override { return {}; }
-    void ShowParameterDifferences(const VxHWRackPlacePtr& /*oPlace*/) override {}
+    void ShowParameterDifferences(const VxHWRackPlacePtr& /*oPlace*/,
+                                  const ParameterDifferencePtr& /*oDifference*/) override
+    {
+    }
 
     std::int32_t compareType = 0;
     ResultsByPlace results;
