@@ -17,7 +17,8 @@ bool HasPosition(const VxHWStation& station, std::int32_t lPosition)
 {
     const PositionInfo info = G_PositionInfo(lPosition);
     if (info.eType == vxPositionNone) return true;
-    return info.lRack < station.Racks()->Count() && info.lNumber <= station.Racks()->Item(info.lRack)->Places()->Count();
+    return info.lRack < station.Racks()->Count() &&
+           info.lNumber <= station.Racks()->Item(info.lRack)->Places()->Count();
 }
 
 /// Null when the station has no such place.

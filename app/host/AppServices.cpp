@@ -57,7 +57,8 @@ std::shared_ptr<reference::MemoryStore> DesktopStore()
 
 HostApplicationPtr MakeApplication()
 {
-    return std::make_shared<reference::WaitingApplication>([](bool wait) {
+    return std::make_shared<reference::WaitingApplication>([shown = false](bool wait) mutable {
+        if (std::exchange(shown, wait) == wait) return;
         if (wait) QApplication::setOverrideCursor(Qt::WaitCursor);
         else QApplication::restoreOverrideCursor();
     });
