@@ -8,9 +8,7 @@ namespace zqbchwcx {
 
 VxHWRackPlacesPtr G_SelPlaces(const VxHWSelectionHandlerPtr& oHandler)
 {
-    auto oPlaces = G_Require(oHandler, "The selection handler").SelPlaces();
-    static_cast<void>(G_Require(oPlaces, "The selection"));
-    return oPlaces;
+    return G_Require(G_Require(oHandler, "The selection handler")->SelPlaces(), "The selection");
 }
 
 void G_ClearSelection(const VxHWSelectionHandlerPtr& oHandler)
@@ -51,7 +49,7 @@ void G_ToggleInSelection(const VxHWSelectionHandlerPtr& oHandler, const VxHWRack
 
 void G_FocusAndAnchor(const VxHWSelectionHandlerPtr& oHandler, std::int32_t lPosition)
 {
-    G_Require(oHandler, "The selection handler").FocusPosition(lPosition);
+    G_Require(oHandler, "The selection handler")->FocusPosition(lPosition);
     oHandler->ShiftSelPosition(lPosition);
 }
 

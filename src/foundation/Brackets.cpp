@@ -33,7 +33,7 @@ UserAction::~UserAction()
 DrawingOff::DrawingOff(VxHWStationPtr oStation, std::string_view className, std::string_view procedureName)
     : moStation(std::move(oStation)), msClassName(className), msProcedureName(procedureName)
 {
-    G_Require(moStation, "The station").IsDrawable(false);
+    G_Require(moStation, "The station")->IsDrawable(false);
 }
 
 DrawingOff::~DrawingOff()

@@ -11,7 +11,7 @@ namespace zqbchwcx {
 
 VxHWRackPtr G_RackByNumber(const VxHWStationPtr& oStation, std::int32_t lRack)
 {
-    return G_Require(oStation, "The station").Racks()->Item(lRack);
+    return G_Require(oStation, "The station")->Racks()->Item(lRack);
 }
 
 VxHWRackPlacePtr G_PlaceByNumber(const VxHWStationPtr& oStation, std::int32_t lRack, std::int32_t lPlace)
@@ -21,7 +21,7 @@ VxHWRackPlacePtr G_PlaceByNumber(const VxHWStationPtr& oStation, std::int32_t lR
 
 bool G_Exists(const VxHWStationPtr& oStation, const PositionInfo& info)
 {
-    const auto oRacks = G_Require(oStation, "The station").Racks();
+    const auto oRacks = G_Require(oStation, "The station")->Racks();
     return info.lRack < oRacks->Count() && info.lNumber <= oRacks->Item(info.lRack)->Places()->Count();
 }
 

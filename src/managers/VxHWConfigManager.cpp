@@ -48,7 +48,9 @@ void DisconnectView(IVxHWControl& view)
 
 void CreateMissingSubModules(VxHWStation& station, const VxHWModulePtr& oModule)
 {
-    if (oModule->SubModuleCount() >= 1 && oModule->SubModules()->Count() == 0) station.CreateSubModules(oModule);
+    if (oModule->SubModuleCount() < 1) return;
+    const auto oSubModules = oModule->SubModules();
+    if (G_Require(oSubModules, "The collection of sub-modules")->Count() == 0) station.CreateSubModules(oModule);
 }
 
 } // namespace
@@ -71,16 +73,16 @@ void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlP
         moiRackTable = std::move(oiRackTable);
         moSelHandler = std::make_shared<zqbchwcx::VxHWSelectionHandler>();
         CreateControllers();
-        ConnectView(G_Require(moiRackOverview, "The rack overview"), eStationType);
-        ConnectView(G_Require(moiRackTable, "The rack table"), eStationType);
-        moSelHandler->VxHWStation(moHWStation);
+        ConnectView(*G_Require(moiRackOverview, "The rack overview"), eStationType);
+        ConnectView(*G_Require(moiRackTable, "The rack table"), eStationType);
+        G_Require(moSelHandler, "The selection handler")->VxHWStation(moHWStation);
         for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
-            oController->VxHWStation(moHWStation);
+            G_Require(oController, "A controller")->VxHWStation(moHWStation);
             oController->VxHWSelectionHandler(moSelHandler);
         }
         Subscribe(moiRackOverview);
         Subscribe(moiRackTable);
-        moHWStation->StartConfiguration();
+        G_Require(moHWStation, "The station")->StartConfiguration();
         P_InitSelection();
     });
 }
@@ -88,9 +90,9 @@ void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlP
 void VxHWConfigManager::Terminate() noexcept
 {
     G_Trap(ClassName, "Terminate", [&] {
-        DisconnectView(G_Require(moiRackOverview, "The rack overview"));
-        DisconnectView(G_Require(moiRackTable, "The rack table"));
-        G_Require(moSelHandler, "The selection handler").VxHWStation(nullptr);
+        DisconnectView(*G_Require(moiRackOverview, "The rack overview"));
+        DisconnectView(*G_Require(moiRackTable, "The rack table"));
+        G_Require(moSelHandler, "The selection handler")->VxHWStation(nullptr);
         for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
             if (!oController) continue; // an initialisation that failed made none
             oController->VxHWStation(nullptr);
@@ -114,13 +116,13 @@ bool VxHWConfigManager::SetSingleModuleToCurPos(const VxHWModulePtr& oModule) no
 {
     bool bPlaced = false;
     const bool bCompleted = G_Trap(ClassName, "SetSingleModuleToCurPos", [&] {
-        auto& station = G_Require(moHWStation, "The station");
-        station.PrepareModule(oModule);
+        const auto oStation = G_Require(moHWStation, "The station");
+        oStation->PrepareModule(oModule);
         const auto oModules = ModulesToInsert(oModule);
         const auto oPlaces = G_ServiceRoot().modelFactory->CreateRackPlaces();
-        station.IsDrawable(false);
+        oStation->IsDrawable(false);
         bPlaced = PlaceAtSelectionOrFocus(oModules, oPlaces);
-        station.IsDrawable(true);
+        oStation->IsDrawable(true);
     });
     return bCompleted && bPlaced;
 }
@@ -152,10 +154,10 @@ void VxHWConfigManager::EditModuleParams() noexcept
 
 void VxHWConfigManager::CreateControllers()
 {
-    const auto& station = G_Require(moHWStation, "The station");
-    if (station.IsReadOnly()) {
+    const auto oStation = G_Require(moHWStation, "The station");
+    if (oStation->IsReadOnly()) {
         Create<VxHWConfigROCtrlMouse>(moCtrlMouse, moiMouseInput);
-        if (station.DisplayMode() != vxDisplayModeOffline) Create<VxHWConfigROCtrlKey>(moCtrlKey, moiKeyInput);
+        if (oStation->DisplayMode() != vxDisplayModeOffline) Create<VxHWConfigROCtrlKey>(moCtrlKey, moiKeyInput);
         else Create<VxHWConfigROOfflineCtrlKey>(moCtrlKey, moiKeyInput);
         Create<VxHWConfigROCtrlDD>(moCtrlDD, moiDragDrop);
     } else {
@@ -180,7 +182,7 @@ void VxHWConfigManager::Subscribe(const IVxHWControlPtr& oiView) const
 {
     // A view of a host that draws no drop markings has nothing to subscribe.
     if (const auto oSubscriber = std::dynamic_pointer_cast<IVxHWDragDropCtrlEvents>(oiView))
-        moCtrlDD->AddSubscriber(oSubscriber);
+        G_Require(moCtrlDD, "The drag-and-drop controller")->AddSubscriber(oSubscriber);
 }
 
 void VxHWConfigManager::P_InitSelection() noexcept
@@ -193,30 +195,33 @@ void VxHWConfigManager::P_InitSelection() noexcept
             lNumber = oPlace->Number();
             break;
         }
-        moSelHandler->ShiftSelPosition(G_PlacePosition(0, lNumber));
-        moSelHandler->FocusPosition(G_PlacePosition(0, lNumber));
-        G_SelPlaces(moSelHandler)->Add(oPlaces->Item(lNumber));
-        moSelHandler->SelChangeComplete();
+        const auto oSelHandler = G_Require(moSelHandler, "The selection handler");
+        oSelHandler->ShiftSelPosition(G_PlacePosition(0, lNumber));
+        oSelHandler->FocusPosition(G_PlacePosition(0, lNumber));
+        G_SelPlaces(oSelHandler)->Add(oPlaces->Item(lNumber));
+        oSelHandler->SelChangeComplete();
     });
 }
 
 VxHWModulesPtr VxHWConfigManager::ModulesToInsert(const VxHWModulePtr& oModule) const
 {
-    if (G_Require(oModule, "The module").PlaceCount() < 1) {
-        CreateMissingSubModules(*moHWStation, oModule);
+    const auto oStation = G_Require(moHWStation, "The station");
+    if (G_Require(oModule, "The module")->PlaceCount() < 1) {
+        CreateMissingSubModules(*oStation, oModule);
         auto oModules = G_ServiceRoot().modelFactory->CreateModules();
         oModules->Add(oModule, true);
         return oModules;
     }
-    auto oModules = moHWStation->ExpandModule(oModule);
-    CreateMissingSubModules(*moHWStation, G_Require(oModules, "The collection of member modules").Item(0));
+    auto oModules = oStation->ExpandModule(oModule);
+    CreateMissingSubModules(*oStation, G_Require(oModules, "The collection of member modules")->Item(0));
     return oModules;
 }
 
 bool VxHWConfigManager::PlaceAtSelectionOrFocus(const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces) const
 {
-    const auto oSelPlaces = G_SelPlaces(moSelHandler);
-    if (oSelPlaces->Count() == 0) return PlaceAt(moSelHandler->FocusPosition(), oModules, oPlaces);
+    const auto oSelHandler = moSelHandler;
+    const auto oSelPlaces = G_SelPlaces(oSelHandler);
+    if (oSelPlaces->Count() == 0) return PlaceAt(oSelHandler->FocusPosition(), oModules, oPlaces);
     bool bPlaced = false;
     for (const auto& oPlace : *oSelPlaces) {
         const std::int32_t lPosition = G_PlacePosition(oPlace->Rack()->Number(), oPlace->Number());
@@ -228,8 +233,9 @@ bool VxHWConfigManager::PlaceAtSelectionOrFocus(const VxHWModulesPtr& oModules, 
 bool VxHWConfigManager::PlaceAt(std::int32_t lPosition, const VxHWModulesPtr& oModules,
                                 const VxHWRackPlacesPtr& oPlaces) const
 {
-    if (!moHWStation->CanBePlaced(lPosition, oModules, false, nullptr)) return false;
-    moHWStation->PlaceModules(lPosition, oModules, oPlaces);
+    const auto oStation = G_Require(moHWStation, "The station");
+    if (!oStation->CanBePlaced(lPosition, oModules, false, nullptr)) return false;
+    oStation->PlaceModules(lPosition, oModules, oPlaces);
     return true;
 }
 
@@ -237,9 +243,8 @@ template <class Command>
 void VxHWConfigManager::Forward(const char* procedureName, Command command) noexcept
 {
     G_Trap(ClassName, procedureName, [&] {
-        // Kept alive for the call: the command may make the host terminate this manager.
-        const auto oiKeyInput = moiKeyInput;
-        (G_Require(oiKeyInput, "The key controller").*command)();
+        const auto oiKeyInput = G_Require(moiKeyInput, "The key controller");
+        (*oiKeyInput.*command)();
     });
 }
 

@@ -81,7 +81,7 @@ void VxHWSelectionHandler::VxHWStation(VxHWStationPtr oStation) noexcept
         moStation = std::move(oStation);
         mabSelPlaces = {};
         if (!moStation) return;
-        const auto oRacks = moStation->Racks();
+        const auto oRacks = G_Require(moStation, "The station")->Racks();
         mabSelPlaces = {0, oRacks->Count() - 1, 1, oRacks->Item(0)->Places()->Count()};
     });
 }
@@ -89,14 +89,14 @@ void VxHWSelectionHandler::VxHWStation(VxHWStationPtr oStation) noexcept
 void VxHWSelectionHandler::SelChangeComplete() noexcept
 {
     G_Trap(ClassName, "SelChangeComplete", [&] {
-        const auto oRacks = G_Require(moStation, "The station").Racks();
+        const auto oRacks = G_Require(moStation, "The station")->Racks();
         const std::int32_t lRacks = oRacks->Count();
         for (std::int32_t lRack = 0; lRack < lRacks; ++lRack) {
             const std::int32_t lPlaces = oRacks->Item(lRack)->Places()->Count();
             for (std::int32_t lPlace = 1; lPlace <= lPlaces; ++lPlace) mabSelPlaces.Set(lRack, lPlace, false);
         }
-        for (const auto& oPlace : G_Require(moSelPlaces, "The selection"))
-            mabSelPlaces.Set(oPlace->Rack()->Number(), oPlace->Number(), true);
+        const auto oSelPlaces = G_Require(moSelPlaces, "The selection");
+        for (const auto& oPlace : *oSelPlaces) mabSelPlaces.Set(oPlace->Rack()->Number(), oPlace->Number(), true);
         SelChange.Raise();
         // Whoever marks the focus of an empty selection in a gap has to draw it anew. No focus (-1) is odd, too.
         if (mlFocusPosition % 2 != 0 && moSelPlaces->Count() == 0) FocusChange.Raise(-1);
@@ -109,7 +109,7 @@ void VxHWSelectionHandler::SelectRange(std::int32_t lFromPosition, std::int32_t 
         const std::int32_t lRack = lFromPosition / vxRackFactor;
         if (lToPosition / vxRackFactor != lRack) return;
         const auto oPlaces = G_RackByNumber(moStation, lRack)->Places();
-        const bool bSkipNotUsable = moStation->StationKind() != vxStationKindCentral;
+        const bool bSkipNotUsable = G_Require(moStation, "The station")->StationKind() != vxStationKindCentral;
         const std::int32_t lFirst = lFromPosition - lRack * vxRackFactor;
         const std::int32_t lLast = lToPosition - lRack * vxRackFactor;
         const std::int32_t lStep = lFirst <= lLast ? 1 : -1;
@@ -118,7 +118,7 @@ void VxHWSelectionHandler::SelectRange(std::int32_t lFromPosition, std::int32_t 
             if (lCode % 2 != 0 || lCode == 0) continue;
             const auto oPlace = oPlaces->Item(lCode / 2);
             if (bSkipNotUsable && oPlace->Usability() == vxPlaceNotUsable) continue;
-            if (!G_Require(moSelPlaces, "The selection").Contains(oPlace)) moSelPlaces->Add(oPlace);
+            if (!G_Require(moSelPlaces, "The selection")->Contains(oPlace)) moSelPlaces->Add(oPlace);
         }
     });
 }
@@ -126,9 +126,9 @@ void VxHWSelectionHandler::SelectRange(std::int32_t lFromPosition, std::int32_t 
 void VxHWSelectionHandler::SelectRack(const VxHWRackPtr& oRack) noexcept
 {
     G_Trap(ClassName, "SelectRack", [&] {
-        G_Require(moSelPlaces, "The selection").Clear();
-        const bool bSkipNotUsable = G_Require(moStation, "The station").StationKind() != vxStationKindCentral;
-        const auto oPlaces = G_Require(oRack, "The rack").Places();
+        G_Require(moSelPlaces, "The selection")->Clear();
+        const bool bSkipNotUsable = G_Require(moStation, "The station")->StationKind() != vxStationKindCentral;
+        const auto oPlaces = G_Require(oRack, "The rack")->Places();
         for (const auto& oPlace : *oPlaces) {
             if (bSkipNotUsable && oPlace->Usability() == vxPlaceNotUsable) continue;
             moSelPlaces->Add(oPlace);
@@ -140,10 +140,10 @@ bool VxHWSelectionHandler::IsParentModuleSelected(const VxHWModulePtr& oParentMo
 {
     bool bSelected = false;
     G_Trap(ClassName, "IsParentModuleSelected", [&] {
-        const auto oPlaces = G_Require(moStation, "The station").ParentModulePlaces(oParentModule);
+        const auto oPlaces = G_Require(moStation, "The station")->ParentModulePlaces(oParentModule);
         for (const auto& oPlace : *oPlaces) {
             if (oPlace->Module()->IndexInParent() < 1) continue;
-            bSelected = G_Require(moSelPlaces, "The selection").Contains(oPlace);
+            bSelected = G_Require(moSelPlaces, "The selection")->Contains(oPlace);
             if (bSelected) return;
         }
     });
@@ -161,7 +161,8 @@ bool VxHWSelectionHandler::FindModuleInSelection(bool& bFound) const noexcept
 {
     bFound = false;
     return G_Trap(ClassName, "IsModuleInSelection", [&] {
-        for (const auto& oPlace : G_Require(moSelPlaces, "The selection")) {
+        const auto oSelPlaces = G_Require(moSelPlaces, "The selection");
+        for (const auto& oPlace : *oSelPlaces) {
             bFound = HasModule(oPlace);
             if (bFound) return;
         }
@@ -194,7 +195,8 @@ bool VxHWSelectionHandler::CollectSelectedModules(VxHWModulesPtr& oModules) cons
         oModules = factory.CreateModules();
         const auto oGathered = factory.CreateRackPlaces();
         const auto oParents = factory.CreateModules();
-        for (const auto& oPlace : G_Require(moSelPlaces, "The selection")) {
+        const auto oSelPlaces = G_Require(moSelPlaces, "The selection");
+        for (const auto& oPlace : *oSelPlaces) {
             oGathered->Add(oPlace);
             const auto oModule = oPlace->Module();
             if (oModule->IndexInParent() <= 0) continue;
@@ -202,7 +204,7 @@ bool VxHWSelectionHandler::CollectSelectedModules(VxHWModulesPtr& oModules) cons
             if (!oParents->Contains(oParent)) oParents->Add(oParent, true);
         }
         for (const auto& oParent : *oParents) {
-            const auto oPlaces = G_Require(moStation, "The station").ParentModulePlaces(oParent);
+            const auto oPlaces = G_Require(moStation, "The station")->ParentModulePlaces(oParent);
             for (const auto& oPlace : *oPlaces)
                 if (!oGathered->Contains(oPlace)) oGathered->Add(oPlace);
         }
@@ -225,7 +227,7 @@ bool VxHWSelectionHandler::SetSelectionToClipboard() const noexcept
     return G_Trap(ClassName, "SetSelectionToClipboard", [&] {
         const auto oExchange = G_ServiceRoot().objectFactory->CreateExchangeData();
         oExchange->StartEmpty();
-        G_Require(moStation, "The station").WriteModulesToExchange(oModules, oExchange);
+        G_Require(moStation, "The station")->WriteModulesToExchange(oModules, oExchange);
         oExchange->PutOnClipboard();
     });
 }

@@ -159,6 +159,12 @@ TEST_F(OverviewDrawingTest, WhatChangesWhileDrawingIsOffIsDrawnWhenItIsOnAgain)
     station->IsDrawable(true);
     EXPECT_THAT(DrawingOf(0, 9), Contains("Image IDB_CRX_PLACE_ACTIVE 79,306 style 4"));
     EXPECT_THAT(DrawingOf(0, 9), Not(Contains(HasSubstr("79,306"))));
+    handler->FocusPosition(1009);
+    station->IsDrawable(false);
+    EXPECT_THAT(DrawnBy([&] { handler->FocusPosition(8); }), Not(Contains(HasSubstr("Image IDB_CRX_PLACE"))));
+    station->IsDrawable(true);
+    EXPECT_THAT(DrawingOf(0, 9), Contains("Image IDB_CRX_PLACE_ACTIVE 79,214 style 0"))
+        << "it held the stem of the mark";
 
     // A drop ends the drag before drawing is on again.
     controller->state = vxDragDropStateActive;
@@ -195,6 +201,9 @@ TEST_F(OverviewDrawingTest, FocusMarksAreFourTrianglesOrAnIBeam)
 TEST_F(OverviewDrawingTest, TheFocusMarkShowsWhetherThePictureHasTheKeyboard)
 {
     handler->FocusPosition(8);
+    view->VxHWStation(nullptr);
+    EXPECT_THAT(DrawnBy([&] { Pic().Focus(true), Pic().Focus(false); }), IsEmpty());
+    view->VxHWStation(station);
     EXPECT_THAT(DrawnBy([&] { Pic().Focus(true); }), Contains("Line 79,300 79,300 text"));
     EXPECT_THAT(DrawnBy([&] { handler->FocusPosition(9); }), Contains(EndsWith("5x2 text")));
     EXPECT_THAT(DrawnBy([&] { Pic().Focus(false); }), Contains(EndsWith("5x2 gray")));
@@ -271,6 +280,12 @@ TEST_F(OverviewDrawingTest, LinksJoinRacksThatBothHaveAnInterfaceModule)
     station->Place(1, 3)->Empty();
     DrawingOf(1, 3);
     EXPECT_FALSE(IsLinkVisible(1));
+    Put(3, 3, "IDB_CRX_MODULE_IM");
+    DrawingOf(3, 3);
+    EXPECT_TRUE(IsLinkVisible(2));
+    view->VxHWStation(std::make_shared<FakeStation>(log, 4, 2));
+    view->Refresh();
+    EXPECT_FALSE(IsLinkVisible(2)) << "it joined modules of another station";
 }
 
 TEST_F(OverviewDrawingTest, SmallAndHugeStationsDrawWhatFits)
@@ -288,6 +303,24 @@ TEST_F(OverviewDrawingTest, SmallAndHugeStationsDrawWhatFits)
     handler->FocusPosition(5 * 1000 + 31);
     Select({{5, 15}, {0, 12}});
     EXPECT_THAT(Pic().TakeLines(), IsEmpty());
+    refreshOf(1, 2);
+    const auto tooltipAt = [&](std::int32_t x, std::int32_t y) {
+        return toolkit->tooltips.Hover(Pic().hWnd(), Point{x, y}).text;
+    };
+    EXPECT_EQ(tooltipAt(50, 340), "T6100");
+    EXPECT_EQ(tooltipAt(90, 340), "") << "the rail is longer than the rack";
+    EXPECT_EQ(tooltipAt(50, 150), "") << "a rail without a rack";
+}
+
+TEST_F(OverviewDrawingTest, APlaceThatCannotBeDrawnKeepsNoOtherFromIt)
+{
+    Put(0, 2, "IDB_NO_SUCH_PICTURE");
+    Put(0, 4, "IDB_CRX_MODULE_IO_DIGITAL", 3);
+    const Lines lines = DrawnBy([&] { Select({{0, 2}, {0, 5}, {1, 9}}); });
+    EXPECT_THAT(
+        lines, IsSupersetOf({"Image IDB_CRX_FRAME_LEFT 79,306 style 5", "Image IDB_CRX_PLACE_ACTIVE 169,214 style 4"}));
+    EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWRackOverview.moHWStation_RackPlaceChange"));
+    TakeReports();
 }
 
 TEST_F(OverviewDrawingTest, CoordinatesAreThoseOfTheControl)

@@ -1,3 +1,4 @@
+#include "managers/VxHWConfigManager.h"
 #include "tests/views/OverviewFixture.h"
 
 #include <sstream>
@@ -135,6 +136,52 @@ TEST_F(OverviewFaultsTest, AFailingCallIsReportedAndTheViewGoesOn)
         std::istringstream procedures(event.procedures);
         for (std::string procedure; procedures >> procedure;)
             EXPECT_THAT(sources, Contains("zqbchwcx.VxHWRackOverview." + procedure));
+    }
+}
+
+TEST_F(OverviewFaultsTest, AHostMayEndTheModeInTheMiddleOfAnyCall)
+{
+    const auto key = [&](std::int16_t nKeyCode, std::int16_t nShift) {
+        return [&, nKeyCode, nShift] { site.User().KeyDown(nKeyCode, nShift); };
+    };
+    const auto overPlaceOne = [&](std::int16_t nState) { Mouse().OLEDragOver(data, mlEffect, 0, 0, 30, 340, nState); };
+    const std::function<void()> events[] = {
+        [&] { Mouse().MouseDown(vxButtonLeft, 0, 90, 340); },
+        [&] { Mouse().MouseUp(vxButtonLeft, 0, 90, 340); },
+        [&] { Mouse().MouseUp(vxButtonRight, 0, 90, 340); },
+        [&] { Mouse().DblClick(); },
+        key(vxKeyRight, 0),
+        key(vxKeySpace, 0),
+        key(vxKeyReturn, 0),
+        key(vxKeyDelete, 0),
+        [&] { Mouse().OLEStartDrag(data, mlEffect); },
+        [&] { overPlaceOne(vxDragEnter); },
+        [&] { Mouse().OLEDragDrop(data, mlEffect, 0, 0, 30, 340); },
+        [&] { Mouse().OLECompleteDrag(mlEffect); },
+        [&] { view->Refresh(); },
+    };
+    const std::int32_t lEvents = static_cast<std::int32_t>(std::size(events));
+    for (std::int32_t lEvent = 0; lEvent < lEvents; ++lEvent) {
+        // The first calls decide; many later ones draw one place like another.
+        for (std::int32_t lCall = 1;; lCall += 1 + lCall / 16) {
+            const auto manager = std::make_shared<VxHWConfigManager>();
+            manager->Initialize(vxStationTypeCentral, view, table, station);
+            Put(0, 2, "IDB_CRX_MODULE_CPU")->hasParamDialog = true;
+            manager->VxHWSelectionHandler()->FocusPosition(4);
+            Mouse().MouseDown(vxButtonLeft, 0, 50, 340);
+            if (lEvent > 8) Mouse().OLEStartDrag(data, mlEffect);
+            if (lEvent > 9) overPlaceOne(vxDragEnter);
+            ASSERT_EQ(TakeReports(), Lines{});
+            log->faults.RunAt(lCall, [&] { manager->Terminate(); });
+            events[lEvent]();
+            const bool bEnded = !log->faults.Thrown().empty();
+            log->faults.Restart();
+            manager->Terminate();
+            toolkit->clock.Advance(20);
+            Mouse().MouseUp(vxButtonLeft, 0, 0, 0);
+            TakeReports();
+            if (!bEnded) break;
+        }
     }
 }
 

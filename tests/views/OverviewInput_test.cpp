@@ -327,6 +327,16 @@ TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)
         captions.push_back(item.caption);
     }
     EXPECT_THAT(controller->Take(), ElementsAre("KeyReturn", "Cut", "Copy", "Paste", "Delete"));
+    // What a command selects while the model lets nothing be drawn comes as soon as it does.
+    controller->onPaste = [&] {
+        station->IsDrawable(false);
+        Select({{0, 9}});
+        station->drawable = true;
+    };
+    Menu().choose = "pmnu_Paste";
+    Pic().TakeLines();
+    Mouse().MouseUp(vxButtonRight, 0, 90, 340);
+    EXPECT_THAT(Pic().TakeLines(), Contains(EndsWith("169,306 style 4")));
     EXPECT_THAT(captions, ElementsAre("T41001", "-", "Ausschneiden", "T57634", "T57637", "-", "T57632"));
 }
 

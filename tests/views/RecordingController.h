@@ -4,6 +4,7 @@
 #include "controllers/interfaces/IVxHWKeyInputController.h"
 #include "controllers/interfaces/IVxHWMouseInputController.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,7 +35,11 @@ public:
     void Delete() noexcept override { Line("Delete"); }
     void Cut() noexcept override { Line("Cut"); }
     void Copy() noexcept override { Line("Copy"); }
-    void Paste() noexcept override { Line("Paste"); }
+    void Paste() noexcept override
+    {
+        Line("Paste");
+        if (onPaste) onPaste();
+    }
     void KeyReturn() noexcept override { Line("KeyReturn"); }
 
     VxEnumDragDropStates State() const noexcept override { return state; }
@@ -73,6 +78,7 @@ public:
     VxHWModulesPtr dragModules;
     VxHWRackPlacePtr dropPlace;
     std::int32_t dragPosition = -2;
+    std::function<void()> onPaste;
 
 private:
     template <class... Arguments>

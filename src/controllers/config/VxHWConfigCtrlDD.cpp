@@ -50,7 +50,11 @@ VxHWConfigCtrlDD::VxHWConfigCtrlDD() noexcept : StationController("VxHWConfigCtr
         moTimer = G_ServiceRoot().toolkit->CreateTimer();
         moTimer->Interval(StateHoldInterval);
         moTimer->Enabled(false);
-        moTimer->OnTimer([this] { moTimer_Timer(); });
+        moTimer->OnTimer([this] {
+            // Kept alive for the call: a subscriber may make the host drop this controller.
+            const auto oSelf = weak_from_this().lock();
+            moTimer_Timer();
+        });
     });
 }
 
@@ -94,9 +98,9 @@ void VxHWConfigCtrlDD::OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lA
         VxHWModulesPtr oModules;
         // A drag of some of the modules could end with all of them being taken away here.
         if (!SelHandler()->CollectSelectedModules(oModules)) return;
-        auto& data = G_Require(oData, "The data object");
-        data.SetData(ConfigTextFormat(), G_EncodeConfigText(oModules->ConfigText()));
-        data.AnnounceFormat(CreateExchangeData()->FormatId());
+        const auto oOffered = G_Require(oData, "The data object");
+        oOffered->SetData(ConfigTextFormat(), G_EncodeConfigText(oModules->ConfigText()));
+        oOffered->AnnounceFormat(CreateExchangeData()->FormatId());
         lAllowedEffects = vxDropEffectCopyOrMove;
         mbDragSource = true;
     });
@@ -110,7 +114,7 @@ void VxHWConfigCtrlDD::OLESetData(const DataObjectPtr& oData, std::int16_t nData
         VxHWModulesPtr oModules;
         if (!SelHandler()->CollectSelectedModules(oModules)) return;
         Station()->WriteModulesToExchange(oModules, oExchange);
-        G_Require(oData, "The data object").SetData(nDataFormat, oExchange->Data());
+        G_Require(oData, "The data object")->SetData(nDataFormat, oExchange->Data());
     });
 }
 
@@ -119,7 +123,7 @@ void VxHWConfigCtrlDD::OLEDragOver(std::int32_t lPosition, const DataObjectPtr& 
 {
     G_Trap(className(), "IVxHWDragDropController_OLEDragOver", [&] {
         if (nState == vxDragEnter) P_FillDragModules(oData, false);
-        if (G_Require(moDragModules, "The drag modules").Count() == 0) {
+        if (G_Require(moDragModules, "The drag modules")->Count() == 0) {
             lEffect = vxDropEffectNone;
             return;
         }
@@ -139,7 +143,7 @@ void VxHWConfigCtrlDD::OLEDragDrop(std::int32_t lPosition, const DataObjectPtr& 
         P_FillDragModules(oData, true);
         const DrawingOff drawingOff(Station(), className(), Procedure);
         // A move of nothing must never reach the station: it would only take the source modules away.
-        const bool bCarriesModules = G_Require(moDragModules, "The drag modules").Count() > 0;
+        const bool bCarriesModules = G_Require(moDragModules, "The drag modules")->Count() > 0;
         if (bCarriesModules && IsGapOrPlace(G_PositionInfo(lPosition))) bDropped = DropAt(lPosition, nShift);
         else mlDropPosition = vxNoPosition;
         if (!bDropped) RestoreFocus();
@@ -168,7 +172,7 @@ bool VxHWConfigCtrlDD::IsDropPlace(const VxHWRackPlacePtr& oPlace) const noexcep
     bool bDropPlace = false;
     G_Trap(className(), "IsDropPlace", [&] {
         if (meState != vxDragDropStateActive) return;
-        const std::int32_t lRack = G_Require(oPlace, "The place").Rack()->Number();
+        const std::int32_t lRack = G_Require(oPlace, "The place")->Rack()->Number();
         const std::int32_t lPlace = oPlace->Number();
         bDropPlace = malPossibleDropPlaces.Contains(lRack, lPlace) && malPossibleDropPlaces.Get(lRack, lPlace) == -1;
     });
@@ -194,9 +198,9 @@ bool VxHWConfigCtrlDD::IsValidDragPosition(std::int32_t lPosition) const noexcep
 void VxHWConfigCtrlDD::P_FillDragModules(const DataObjectPtr& oData, bool bWithExchange) noexcept
 {
     G_Trap(className(), "P_FillDragModules", [&] {
-        G_Require(moDragModules, "The drag modules").Clear();
+        G_Require(moDragModules, "The drag modules")->Clear();
         const std::int16_t nTextFormat = ConfigTextFormat();
-        if (!G_Require(oData, "The data object").GetFormat(nTextFormat)) return;
+        if (!G_Require(oData, "The data object")->GetFormat(nTextFormat)) return;
         const std::string sText = G_DecodeConfigText(oData->GetData(nTextFormat));
         ExchangeDataPtr oExchange;
         if (bWithExchange) {
@@ -205,9 +209,7 @@ void VxHWConfigCtrlDD::P_FillDragModules(const DataObjectPtr& oData, bool bWithE
             if (oData->GetFormat(nExchangeFormat)) oExchange->LoadData(oData->GetData(nExchangeFormat));
             else oExchange = nullptr;
         }
-        const auto oModules = Station()->ModulesFromConfigText(sText, oExchange);
-        static_cast<void>(G_Require(oModules, "The collection of modules"));
-        moDragModules = oModules;
+        moDragModules = G_Require(Station()->ModulesFromConfigText(sText, oExchange), "The collection of modules");
     });
 }
 
@@ -251,7 +253,7 @@ void VxHWConfigCtrlDD::P_State(VxEnumDragDropStates eNew) noexcept
 {
     G_Trap(className(), "P_State", [&] {
         if (meState != eNew) P_RaiseEvent_StateChange(std::exchange(meState, eNew));
-        G_Require(moTimer, "The timer").Enabled(false);
+        G_Require(moTimer, "The timer")->Enabled(false);
     });
 }
 
@@ -281,7 +283,7 @@ void VxHWConfigCtrlDD::LeaveView()
     ForgetDropDecisions();
     moDragModules->Clear();
     // The state ends with the timer: the drag may be on its way into another view.
-    G_Require(moTimer, "The timer").Enabled(true);
+    G_Require(moTimer, "The timer")->Enabled(true);
 }
 
 void VxHWConfigCtrlDD::EnterView()

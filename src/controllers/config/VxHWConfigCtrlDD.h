@@ -16,7 +16,9 @@ namespace zqbchwcx {
 
 /// Drag and drop in configuration mode. One object serves all views of the mode, so that a drag may leave one view
 /// and enter another; a short timer bridges the way between them.
-class VxHWConfigCtrlDD : public StationController, public IVxHWDragDropController {
+class VxHWConfigCtrlDD : public StationController,
+                         public IVxHWDragDropController,
+                         public std::enable_shared_from_this<VxHWConfigCtrlDD> {
 public:
     VxHWConfigCtrlDD() noexcept;
     ~VxHWConfigCtrlDD() override;

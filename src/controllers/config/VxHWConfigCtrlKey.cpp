@@ -57,7 +57,7 @@ void VxHWConfigCtrlKey::Paste() noexcept
     RunAsCommand(TextPaste, Procedure, [&] {
         const auto oStation = Station();
         const auto oModules = oStation->ClipboardModules();
-        if (G_Require(oModules, "The clipboard's collection of modules").Count() == 0) return;
+        if (G_Require(oModules, "The clipboard's collection of modules")->Count() == 0) return;
         const std::int32_t lFocus = SelHandler()->FocusPosition();
         if (!oStation->CanBePlaced(lFocus, oModules, false, nullptr)) return;
 

@@ -122,9 +122,11 @@ void VxHWConfigCtrlMouse::P_MouseDownShift(std::int32_t lPosition, std::int32_t 
 {
     G_Trap(className(), "P_MouseDownShift", [&] {
         const auto oHandler = SelHandler();
+        G_SelPlaces(oHandler)->Clear();
         const std::int32_t lAnchor = oHandler->ShiftSelPosition();
         if (lRack != lAnchor / vxRackFactor) oHandler->ShiftSelPosition(ElementCode(lAnchor) + lRack * vxRackFactor);
-        G_SelectFromAnchor(oHandler, lPosition);
+        oHandler->SelectRange(oHandler->ShiftSelPosition(), lPosition);
+        oHandler->SelChangeComplete();
         oHandler->FocusPosition(lPosition);
     });
 }

@@ -34,7 +34,7 @@ void FocusArrow::Cover(std::int32_t lWidth, std::int32_t lHeight)
 void FocusArrow::P_SetArrow() noexcept
 {
     G_Trap(mContext.className, "P_SetArrow", [&] {
-        auto& arrow = G_Require(marwArrow, "The arrow");
+        auto& arrow = *G_Require(marwArrow, "The arrow");
         const PositionInfo focus = G_PositionInfo(mContext.FocusPosition());
         if (!mContext.oStation || focus.eType != vxPositionPlace || !mLayout.Shows(focus.lRack, focus.lNumber)) {
             arrow.Hide();

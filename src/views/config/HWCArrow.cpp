@@ -33,7 +33,7 @@ constexpr Rect Run(std::int32_t left, std::int32_t right, std::int32_t y)
 
 void MoveAndShow(const ShapePtr& shape, const Rect& rect)
 {
-    auto& piece = G_Require(shape, "A piece of the arrow");
+    auto& piece = *G_Require(shape, "A piece of the arrow");
     piece.Move(rect);
     if (!piece.Visible()) piece.Visible(true);
 }

@@ -45,6 +45,7 @@ VxHWRackOverview::VxHWRackOverview(UserControl& oControl) noexcept
       mTooltips(mContext, mLayout, mTexts), mKeyInput(mContext, mMenu, G_CentralCursorTarget),
       mInput(mContext, mLayout, mCanvas, mMenu, mDragPointer, "pic_Main",
              {[this] {
+                  if (!mContext.oStation) return;
                   const DrawingBracket drawing(mCanvas);
                   mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
               },
@@ -132,9 +133,9 @@ void VxHWRackOverview::VxHWStation(VxHWStationPtr oStation) noexcept
         mSelection.Clear();
         mbRefreshPending = mbSelectionPending = false;
         mContext.oStation = std::move(oStation);
+        mLinks.Hide();
         if (!mContext.oStation) {
             mContext.backColor = vxColorWindowBackground;
-            mLinks.Hide();
             mArrow.Hide();
             const DrawingBracket drawing(mCanvas);
             mCanvas.Box().BackColor(mContext.backColor);
@@ -178,7 +179,7 @@ void VxHWRackOverview::P_LoadImageLists() noexcept
 
 void VxHWRackOverview::P_SetBackground()
 {
-    const std::int32_t lDisplayMode = mContext.Station().DisplayMode();
+    const std::int32_t lDisplayMode = mContext.Station()->DisplayMode();
     if (mContext.bLocked) mContext.backColor = G_ColorDisabledBackground();
     else if (lDisplayMode == vxDisplayModeOffline) mContext.backColor = vxColorWindowBackground;
     else if (lDisplayMode == vxDisplayModeOnline1 || lDisplayMode == vxDisplayModeOnline2)
@@ -203,10 +204,10 @@ void VxHWRackOverview::Refresh() noexcept
     const bool bRefreshInProgress = std::exchange(mbRefreshInProgress, true);
     G_Trap(ClassName, "Refresh", [&] {
         const DrawingBracket drawing(mCanvas);
-        mbRefreshPending = !mContext.Station().IsDrawable();
+        mbRefreshPending = !mContext.Station()->IsDrawable();
         mbSelectionPending = false;
         if (mContext.oSelHandler) mSelection.Take(mContext.oSelHandler->SelPlacesArray());
-        const auto oRacks = mContext.Station().Racks();
+        const auto oRacks = mContext.Station()->Racks();
         for (const auto& oRack : *oRacks) {
             moHWStation_RackChange(oRack);
             const auto oPlaces = oRack->Places();
@@ -220,7 +221,7 @@ void VxHWRackOverview::Refresh() noexcept
 
 bool VxHWRackOverview::MayDraw() const
 {
-    return mContext.Station().IsDrawable() && mbDrawOnModelEvents;
+    return mContext.Station()->IsDrawable() && mbDrawOnModelEvents;
 }
 
 void VxHWRackOverview::moHWStation_RackChange(const VxHWRackPtr& oRack) noexcept
@@ -274,17 +275,21 @@ void VxHWRackOverview::DrawCoveredGapMark(std::int32_t lRack, std::int32_t lPlac
     if (lFocus == G_GapPosition(lRack, lPlace)) mFocusMarks.Set(G_PositionInfo(lFocus));
 }
 
-void VxHWRackOverview::RedrawPlace(std::int32_t lRack, std::int32_t lPlace)
+void VxHWRackOverview::RedrawPlace(std::int32_t lRack, std::int32_t lPlace) noexcept
 {
-    if (!mbRefreshInProgress) ContentChange.Raise();
-    DrawPlace(mContext.Place(lRack, lPlace));
+    // A place that cannot be drawn does not keep the others from it.
+    G_Trap(ClassName, "moHWStation_RackPlaceChange", [&] {
+        if (!mbRefreshInProgress) ContentChange.Raise();
+        if (mContext.Station()->IsDrawable()) DrawPlace(mContext.Place(lRack, lPlace));
+        else mbRefreshPending = true;
+    });
 }
 
 void VxHWRackOverview::moSelHandler_SelChange() noexcept
 {
     G_Trap(ClassName, "moSelHandler_SelChange", [&] {
         SelChange.Raise();
-        mSelection.Take(mContext.SelHandler().SelPlacesArray());
+        mSelection.Take(mContext.SelHandler()->SelPlacesArray());
         mbSelectionPending = true;
         P_DrawPending();
     });
@@ -307,7 +312,7 @@ void VxHWRackOverview::DrawOutdatedSelection()
 void VxHWRackOverview::P_SetBorderSelection(const VxHWModulePtr& oParentModule) noexcept
 {
     G_Trap(ClassName, "P_SetBorderSelection", [&] {
-        const auto oPlaces = mContext.Station().ParentModulePlaces(oParentModule);
+        const auto oPlaces = mContext.Station()->ParentModulePlaces(oParentModule);
         for (const auto& oPlace : *oPlaces) {
             const std::int32_t lRack = oPlace->Rack()->Number();
             const std::int32_t lPlace = oPlace->Number();
@@ -370,7 +375,7 @@ void VxHWRackOverview::OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEf
                                    std::int16_t nShift, float /*x*/, float /*y*/, std::int16_t nState) noexcept
 {
     G_Trap(ClassName, "UserControl_OLEDragOver", [&] {
-        mContext.DragDropCtrl().OLEDragOver(vxNoPosition, oData, lEffect, nButton, nShift, nState);
+        mContext.DragDropCtrl()->OLEDragOver(vxNoPosition, oData, lEffect, nButton, nShift, nState);
         P_DrawPending();
     });
 }

@@ -114,7 +114,7 @@ private:
     bool MayDraw() const;
     void DrawPlace(const VxHWRackPlacePtr& oPlace);
     void DrawCoveredGapMark(std::int32_t lRack, std::int32_t lPlace);
-    void RedrawPlace(std::int32_t lRack, std::int32_t lPlace);
+    void RedrawPlace(std::int32_t lRack, std::int32_t lPlace) noexcept;
     void DrawOutdatedSelection();
     void P_SetBorderSelection(const VxHWModulePtr& oParentModule) noexcept;
     void P_DrawPending() noexcept;

@@ -7,7 +7,7 @@ namespace zqbchwcx {
 
 PictureBox& Canvas::Box() const
 {
-    return G_Require(mpicBox, "The picture box");
+    return *G_Require(mpicBox, "The picture box");
 }
 
 void Canvas::Overlay(const std::optional<Rect>& rect)

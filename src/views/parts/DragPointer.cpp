@@ -18,8 +18,8 @@ constexpr std::int32_t MouseOffset = 9;
 void DragPointer::P_SetDragPointer(Point at) noexcept
 {
     G_Trap(mContext.className, "P_SetDragPointer", [&] {
-        auto& picDrag = G_Require(mpicDrag, "The drag pointer");
-        const auto oModules = mContext.DragDropCtrl().DragModules();
+        auto& picDrag = *G_Require(mpicDrag, "The drag pointer");
+        const auto oModules = mContext.DragDropCtrl()->DragModules();
         if (!oModules || oModules->Count() == 0) return;
         const bool bCompose = !picDrag.Visible();
         const auto& picture = mCanvas.Box();

@@ -104,7 +104,7 @@ void FocusMarks::P_ResetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept
         mCanvas.Box().FillBox(MakeRect(line.left - 1, line.top - 1, 1, GapLineErasedHeight), mContext.backColor);
         mRackPainter.DrawRail(lRack);
 
-        const std::int32_t lPlaceCount = mContext.Station().Racks()->Item(lRack)->Places()->Count();
+        const std::int32_t lPlaceCount = mContext.Station()->Racks()->Item(lRack)->Places()->Count();
         for (const std::int32_t lPlace : {lGap, lGap + 1}) {
             if (lPlace >= 1 && lPlace <= lPlaceCount) mRedrawPlace(lRack, lPlace);
         }

@@ -10,7 +10,7 @@ std::string_view G_GroupFrameKey(const VxHWModule& oModule, const VxHWModulePtr&
 {
     const std::int32_t lIndex = oModule.IndexInParent();
     if (lIndex == 0) return CentralPictures::FrameMid;
-    const std::int32_t lPlaceCount = G_Require(oParentModule, "The parent module").PlaceCount();
+    const std::int32_t lPlaceCount = G_Require(oParentModule, "The parent module")->PlaceCount();
     if (lIndex == 1) return lPlaceCount == 1 ? CentralPictures::FrameTotal : CentralPictures::FrameLeft;
     return lIndex == lPlaceCount ? CentralPictures::FrameRight : CentralPictures::FrameMid;
 }

@@ -50,7 +50,7 @@ void InterfaceModuleLinks::P_CheckIMLinks() noexcept
 
 bool InterfaceModuleLinks::HasInterfaceModule(std::int32_t lRack) const
 {
-    const auto oRacks = mContext.Station().Racks();
+    const auto oRacks = mContext.Station()->Racks();
     if (lRack >= oRacks->Count()) return false;
     const auto oPlaces = oRacks->Item(lRack)->Places();
     return oPlaces->Count() >= PlaceNumber && !oPlaces->Item(PlaceNumber)->Module()->IsEmpty();

@@ -24,14 +24,14 @@ void KeyInput::KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept
             P_CursorKeyDown(nKeyCode, nShift);
             break;
         case vxKeySpace:
-            mContext.KeyCtrl().SpaceKeyDown(nShift);
+            mContext.KeyCtrl()->SpaceKeyDown(nShift);
             break;
         case vxKeyDelete:
         case vxKeyClear:
-            mContext.KeyCtrl().Delete();
+            mContext.KeyCtrl()->Delete();
             break;
         case vxKeyReturn:
-            mContext.KeyCtrl().KeyReturn();
+            mContext.KeyCtrl()->KeyReturn();
             break;
         default:
             break;
@@ -52,8 +52,8 @@ void KeyInput::P_CursorKeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexc
 {
     G_Trap(mContext.className, "P_CursorKeyDown", [&] {
         const bool bFine = nShift == 0 && mContext.eStyle == vxStyleHWConfig && !mContext.bLocked;
-        const auto lTarget = mCursorTarget(mContext.Station(), mContext.FocusPosition(), nKeyCode, nShift, bFine);
-        if (lTarget) mContext.KeyCtrl().CursorKeyDown(*lTarget, nShift);
+        const auto lTarget = mCursorTarget(*mContext.Station(), mContext.FocusPosition(), nKeyCode, nShift, bFine);
+        if (lTarget) mContext.KeyCtrl()->CursorKeyDown(*lTarget, nShift);
     });
 }
 

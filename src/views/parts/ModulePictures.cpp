@@ -25,7 +25,7 @@ void ModulePictures::Load(TextModule& textModule, const PictureStrip& strip)
 
 const ImageList& ModulePictures::List() const
 {
-    return G_Require(moImages, "The list of pictures");
+    return *G_Require(moImages, "The list of pictures");
 }
 
 std::string ModulePictures::KeyOf(const VxHWModule& oModule, std::string_view defaultKey) noexcept

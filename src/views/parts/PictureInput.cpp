@@ -41,11 +41,11 @@ void PictureInput::MouseDown(std::int16_t nButton, std::int16_t nShift, float x,
         const Point at = WholePixels(x, y);
         const std::int32_t lPosition = mLayout.PositionAt(at);
         mlLastMouseDownPosition = lPosition;
-        mContext.MouseCtrl().MouseDown(lPosition, nButton, nShift);
+        mContext.MouseCtrl()->MouseDown(lPosition, nButton, nShift);
         mHooks.controllerDone();
         if (!HasLeftOrRight(nButton)) return;
-        if (mContext.DragDropCtrl().IsValidDragPosition(lPosition)) moDragStart = at;
-        else if (lPosition == vxNoPosition && mContext.MouseCtrl().CanSelectByRubberBand()) mRubberBand.Start(at);
+        if (mContext.DragDropCtrl()->IsValidDragPosition(lPosition)) moDragStart = at;
+        else if (lPosition == vxNoPosition && mContext.MouseCtrl()->CanSelectByRubberBand()) mRubberBand.Start(at);
     });
 }
 
@@ -70,18 +70,20 @@ void PictureInput::MouseUp(std::int16_t nButton, std::int16_t nShift, float x, f
         const Point at = WholePixels(x, y);
         // The press is over, whatever its release leads to.
         if (HasLeftOrRight(nButton)) moDragStart.reset();
-        mContext.MouseCtrl().MouseUp(mLayout.PositionAt(at), nButton, nShift);
+        mContext.MouseCtrl()->MouseUp(mLayout.PositionAt(at), nButton, nShift);
         mHooks.controllerDone();
         if (!HasLeftOrRight(nButton)) return;
         if (mRubberBand.IsActive()) mRubberBand.Finish(at);
-        if (nButton == vxButtonRight) mMenu.P_OpenPopupMenu(false);
+        if (nButton != vxButtonRight) return;
+        mMenu.P_OpenPopupMenu(false);
+        mHooks.controllerDone();
     });
 }
 
 void PictureInput::DblClick() noexcept
 {
     Trap("DblClick", [&] {
-        mContext.MouseCtrl().DblClick(mlLastMouseDownPosition);
+        mContext.MouseCtrl()->DblClick(mlLastMouseDownPosition);
         mHooks.controllerDone();
     });
 }
@@ -98,12 +100,12 @@ void PictureInput::LostFocus() noexcept
 
 void PictureInput::OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lAllowedEffects) noexcept
 {
-    Trap("OLEStartDrag", [&] { mContext.DragDropCtrl().OLEStartDrag(oData, lAllowedEffects); });
+    Trap("OLEStartDrag", [&] { mContext.DragDropCtrl()->OLEStartDrag(oData, lAllowedEffects); });
 }
 
 void PictureInput::OLESetData(const DataObjectPtr& oData, std::int16_t nDataFormat) noexcept
 {
-    Trap("OLESetData", [&] { mContext.DragDropCtrl().OLESetData(oData, nDataFormat); });
+    Trap("OLESetData", [&] { mContext.DragDropCtrl()->OLESetData(oData, nDataFormat); });
 }
 
 void PictureInput::OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton,
@@ -111,7 +113,7 @@ void PictureInput::OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect
 {
     Trap("OLEDragOver", [&] {
         const Point at = WholePixels(x, y);
-        mContext.DragDropCtrl().OLEDragOver(mLayout.PositionAt(at), oData, lEffect, nButton, nShift, nState);
+        mContext.DragDropCtrl()->OLEDragOver(mLayout.PositionAt(at), oData, lEffect, nButton, nShift, nState);
         if (nState == vxDragLeave) mDragPointer.Hide();
         else if (mContext.IsDragActive()) mDragPointer.P_SetDragPointer(at);
     });
@@ -121,7 +123,7 @@ void PictureInput::OLEDragDrop(const DataObjectPtr& oData, std::int32_t& lEffect
                                std::int16_t nShift, float x, float y) noexcept
 {
     Trap("OLEDragDrop", [&] {
-        mContext.DragDropCtrl().OLEDragDrop(mLayout.PositionAt(WholePixels(x, y)), oData, lEffect, nButton, nShift);
+        mContext.DragDropCtrl()->OLEDragDrop(mLayout.PositionAt(WholePixels(x, y)), oData, lEffect, nButton, nShift);
         mDragPointer.Hide();
         mHooks.controllerDone();
     });
@@ -131,7 +133,7 @@ void PictureInput::OLECompleteDrag(std::int32_t& lEffect) noexcept
 {
     Trap("OLECompleteDrag", [&] {
         mDragPointer.Hide();
-        mContext.DragDropCtrl().OLECompleteDrag(lEffect);
+        mContext.DragDropCtrl()->OLECompleteDrag(lEffect);
         mHooks.controllerDone();
     });
 }

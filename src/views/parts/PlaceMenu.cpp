@@ -60,7 +60,7 @@ void PlaceMenu::P_OpenPopupMenu(bool bByKeyboard) noexcept
 {
     G_Trap(mContext.className, "P_OpenPopupMenu", [&] {
         if (mContext.eStyle != vxStyleHWConfig) return;
-        G_Require(mpmnuMain, "The popup menu");
+        static_cast<void>(G_Require(mpmnuMain, "The popup menu"));
         Enable({});
         const Commands commands = EnabledCommands();
         if (!commands.bEditModuleParams && !commands.bCopy && !commands.bPaste) return;
@@ -76,11 +76,11 @@ void PlaceMenu::P_OpenPopupMenu(bool bByKeyboard) noexcept
 
 PlaceMenu::Commands PlaceMenu::EnabledCommands() const
 {
-    const auto& oStation = mContext.Station();
+    const auto oStation = mContext.Station();
     Commands commands;
     commands.bEditModuleParams = P_IsEditableModuleInSelection();
-    commands.bCopy = mContext.SelHandler().IsModuleInSelection() && oStation.DisplayMode() == vxDisplayModeOffline;
-    const bool bEditable = !oStation.IsReadOnly();
+    commands.bCopy = mContext.SelHandler()->IsModuleInSelection() && oStation->DisplayMode() == vxDisplayModeOffline;
+    const bool bEditable = !oStation->IsReadOnly();
     commands.bCut = commands.bDelete = commands.bCopy && bEditable;
     commands.bPaste = bEditable && CanPaste();
     return commands;
@@ -90,7 +90,7 @@ bool PlaceMenu::P_IsEditableModuleInSelection() const noexcept
 {
     bool bFound = false;
     G_Trap(mContext.className, "P_IsEditableModuleInSelection", [&] {
-        const auto oPlaces = mContext.SelHandler().SelPlaces();
+        const auto oPlaces = mContext.SelHandler()->SelPlaces();
         for (const auto& oPlace : *oPlaces) {
             const auto oModule = oPlace->Module();
             if (oModule->IsEmpty() || !oModule->HasParamDialog()) continue;
@@ -103,9 +103,9 @@ bool PlaceMenu::P_IsEditableModuleInSelection() const noexcept
 
 bool PlaceMenu::CanPaste() const
 {
-    const auto oModules = mContext.Station().ClipboardModules();
+    const auto oModules = mContext.Station()->ClipboardModules();
     return oModules && oModules->Count() > 0 &&
-           mContext.Station().CanBePlaced(mContext.FocusPosition(), oModules, false, nullptr);
+           mContext.Station()->CanBePlaced(mContext.FocusPosition(), oModules, false, nullptr);
 }
 
 void PlaceMenu::Enable(const Commands& commands)
@@ -127,7 +127,7 @@ void PlaceMenu::Click(std::int32_t lItem) noexcept
 {
     const auto& item = Items[static_cast<std::size_t>(lItem)];
     if (item.command == nullptr) return;
-    G_Trap(mContext.className, item.procedure, [&] { (mContext.KeyCtrl().*item.command)(); });
+    G_Trap(mContext.className, item.procedure, [&] { (*mContext.KeyCtrl().*item.command)(); });
 }
 
 } // namespace zqbchwcx

@@ -41,7 +41,7 @@ void PlacePainter::Draw(const VxHWRackPlacePtr& oPlace, bool bSelected)
         DrawNumber(surface, look, oPlace->Number(), at);
         surface.DrawListImage(mModulePictures.List(), look.key, at, bSelected ? DrawStyle::Blended : DrawStyle::Normal);
     }
-    if (mContext.Station().HasGroupFrame(oPlace)) P_DrawBorder(oPlace);
+    if (mContext.Station()->HasGroupFrame(oPlace)) P_DrawBorder(oPlace);
     mStatusSymbols.Draw(surface, oPlace, at);
 }
 
@@ -59,8 +59,8 @@ PlacePainter::Look PlacePainter::LookOf(const VxHWRackPlacePtr& oPlace)
     const auto oModule = oPlace->Module();
     if (!oModule->IsEmpty()) return {mModulePictures.KeyOf(*oModule, CentralPictures::ModuleDefault)};
     if (!bDrag) return {PlaceKey(CentralPictures::PlaceActive, lPlace)};
-    return {PlaceKey(mContext.DragDropCtrl().IsDropPlace(oPlace) ? CentralPictures::PlaceDrop
-                                                                 : CentralPictures::PlaceNoDrop,
+    return {PlaceKey(mContext.DragDropCtrl()->IsDropPlace(oPlace) ? CentralPictures::PlaceDrop
+                                                                  : CentralPictures::PlaceNoDrop,
                      lPlace)};
 }
 
@@ -82,7 +82,7 @@ void PlacePainter::P_DrawBorder(const VxHWRackPlacePtr& oPlace) noexcept
         const auto oParent = oModule->IndexInParent() >= 1
                                  ? oModule->ParentModule()
                                  : oPlace->Rack()->Places()->Item(oPlace->Number() - 1)->Module()->ParentModule();
-        const bool bSelected = mContext.SelHandler().IsParentModuleSelected(oParent);
+        const bool bSelected = mContext.SelHandler()->IsParentModuleSelected(oParent);
         mCanvas.Box().DrawListImage(mModulePictures.List(), G_GroupFrameKey(*oModule, oParent), PlaceAt(*oPlace),
                                     bSelected ? DrawStyle::TransparentBlended : DrawStyle::Transparent);
     });

@@ -1,6 +1,7 @@
 #include "views/parts/PlaceTooltips.h"
 
 #include "foundation/Nothing.h"
+#include "foundation/PlaceLookup.h"
 #include "foundation/ServiceRoot.h"
 #include "foundation/mdl_ErrorHandler.h"
 #include "foundation/mdl_Main.h"
@@ -83,7 +84,8 @@ Tooltip PlaceTooltips::GetTooltip(Point at) noexcept
     G_Trap(mContext.className, "moTTCallback_GetTooltip", [&] {
         if (!mContext.oStation || mContext.IsDragActive()) return;
         const PositionInfo position = G_PositionInfo(mLayout.PositionAt(at));
-        if (position.eType != vxPositionPlace) return;
+        // The view shows four racks of eleven places, whatever the station has of them.
+        if (position.eType != vxPositionPlace || !G_Exists(mContext.oStation, position)) return;
         std::string text = TextOf(mContext.Place(position.lRack, position.lNumber));
         if (!text.empty()) tooltip = {std::move(text), mLayout.PlaceRect(position.lRack, position.lNumber)};
     });
@@ -108,10 +110,10 @@ std::string PlaceTooltips::P_GetTooltipHWConfiguration(const VxHWRackPlacePtr& o
     std::string text;
     G_Trap(mContext.className, "P_GetTooltipHWConfiguration", [&] {
         const auto oModule = oPlace->Module();
-        if (!oModule->IsEmpty()) text = mContext.Station().ModuleTooltip(oModule);
+        if (!oModule->IsEmpty()) text = mContext.Station()->ModuleTooltip(oModule);
         else if (mContext.bLocked) return;
         else if (oPlace->Usability() == vxPlaceActive) text = mTexts->Text(TextPlaceCanBeFilled);
-        else text = mContext.Station().EmptyPlaceTooltip(oPlace);
+        else text = mContext.Station()->EmptyPlaceTooltip(oPlace);
     });
     return text;
 }
@@ -121,12 +123,13 @@ std::string PlaceTooltips::P_GetTooltipHWDiagnostics(const VxHWRackPlacePtr& oPl
     std::string text;
     G_Trap(mContext.className, "P_GetTooltipHWDiagnostics", [&] {
         if (oPlace->Module()->IsEmpty()) return;
-        const auto& oDiagService = G_Require(mContext.oDiagService, "The diagnostics service");
-        const std::int32_t lCpuStateTextId = CpuStateTextId(oDiagService.CpuState(oPlace));
+        const auto oDiagService = G_Require(mContext.oDiagService, "The diagnostics service");
+        const std::int32_t lCpuStateTextId = CpuStateTextId(oDiagService->CpuState(oPlace));
         if (lCpuStateTextId != NoText) AppendLine(text, mTexts->Text(lCpuStateTextId));
-        if (oDiagService.HasFailure(oPlace) == 0) return;
+        if (oDiagService->HasFailure(oPlace) == 0) return;
         for (const auto& category : DiagCategories) {
-            if (oDiagService.HasDiagState(oPlace, category.lCategory)) AppendLine(text, mTexts->Text(category.lTextId));
+            if (oDiagService->HasDiagState(oPlace, category.lCategory))
+                AppendLine(text, mTexts->Text(category.lTextId));
         }
     });
     return text;
@@ -136,12 +139,12 @@ std::string PlaceTooltips::P_GetTooltipHWCompare(const VxHWRackPlacePtr& oPlace)
 {
     std::string text;
     G_Trap(mContext.className, "P_GetTooltipHWCompare", [&] {
-        const auto& oCompareService = G_Require(mContext.oCompareService, "The compare service");
-        const std::int32_t lResult = oCompareService.PlaceResult(oPlace);
+        const auto oCompareService = G_Require(mContext.oCompareService, "The compare service");
+        const std::int32_t lResult = oCompareService->PlaceResult(oPlace);
         if (lResult < vxCompareEqual || lResult > vxCompareParametersDiffer2) return;
-        const std::int32_t lTextId = CompareTextId(lResult, oCompareService.CompareType());
+        const std::int32_t lTextId = CompareTextId(lResult, oCompareService->CompareType());
         if (lTextId != NoText) AppendLine(text, mTexts->Text(lTextId));
-        AppendLine(text, oCompareService.PlaceText(oPlace));
+        AppendLine(text, oCompareService->PlaceText(oPlace));
     });
     return text;
 }

@@ -34,7 +34,7 @@ void RackPainter::DrawEmptyRails()
 
 void RackPainter::DrawRail(std::int32_t lRack)
 {
-    mCanvas.Box().DrawListImage(G_Require(moImages, "The rail picture"), CentralPictures::RailKey,
+    mCanvas.Box().DrawListImage(*G_Require(moImages, "The rail picture"), CentralPictures::RailKey,
                                 {RailLeft, CentralPlaceLayout::BandTop(lRack) + RailTop}, DrawStyle::Transparent);
 }
 

@@ -55,21 +55,21 @@ void RubberBand::P_RubberBand(Mode eMode, Point at) noexcept
 void RubberBand::P_SelectRubberContent(Point start, Point end) noexcept
 {
     G_Trap(mContext.className, "P_SelectRubberContent", [&] {
-        auto& oSelHandler = mContext.SelHandler();
-        oSelHandler.SelPlaces()->Clear();
+        const auto oSelHandler = mContext.SelHandler();
+        oSelHandler->SelPlaces()->Clear();
         for (const PositionRange& range : mLayout.RangesBetween(start, end)) {
             const auto oRack = PresentRack(G_PositionInfo(range.lFrom).lRack);
             if (!oRack) continue;
             const std::int32_t lEnd = G_GapPosition(oRack->Number(), oRack->Places()->Count());
-            oSelHandler.SelectRange(std::min(range.lFrom, lEnd), std::min(range.lTo, lEnd));
+            oSelHandler->SelectRange(std::min(range.lFrom, lEnd), std::min(range.lTo, lEnd));
         }
-        oSelHandler.SelChangeComplete();
+        oSelHandler->SelChangeComplete();
     });
 }
 
 VxHWRackPtr RubberBand::PresentRack(std::int32_t lRack) const
 {
-    const auto oRacks = mContext.Station().Racks();
+    const auto oRacks = mContext.Station()->Racks();
     if (lRack >= oRacks->Count()) return nullptr;
     auto oRack = oRacks->Item(lRack);
     return oRack->State() != vxRackNotPresent ? oRack : nullptr;

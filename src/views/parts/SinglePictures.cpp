@@ -9,7 +9,7 @@ void SinglePictures::P_DrawPicture(Surface& surface, std::string_view name, Poin
 {
     G_Trap(msClassName, "P_DrawPicture", [&] {
         const auto oImage = mTexts->Picture(name);
-        surface.DrawImage(G_Require(oImage, "The picture"), at, eStyle);
+        surface.DrawImage(*G_Require(oImage, "The picture"), at, eStyle);
     });
 }
 

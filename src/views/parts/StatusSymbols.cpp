@@ -63,7 +63,7 @@ void StatusSymbols::P_SetHWCompareSymbols(Surface& surface, const VxHWRackPlaceP
                                           Point placeAt) const noexcept
 {
     G_Trap(mContext.className, "P_SetHWCompareSymbols", [&] {
-        const std::int32_t lResult = G_Require(mContext.oCompareService, "The compare service").PlaceResult(oPlace);
+        const std::int32_t lResult = G_Require(mContext.oCompareService, "The compare service")->PlaceResult(oPlace);
         if (lResult == vxCompareOnlyOther)
             surface.DrawListImage(mModulePictures.List(), msDefaultModuleKey, placeAt, DrawStyle::Normal);
         DrawSymbol(surface, CompareSymbol(lResult), placeAt, mOffsets.compare);
@@ -74,9 +74,9 @@ void StatusSymbols::P_SetHWDiagSymbols(Surface& surface, const VxHWRackPlacePtr&
 {
     G_Trap(mContext.className, "P_SetHWDiagSymbols", [&] {
         if (oPlace->Module()->IsEmpty()) return;
-        const auto& oDiagService = G_Require(mContext.oDiagService, "The diagnostics service");
-        DrawSymbol(surface, CpuSymbol(oDiagService.CpuState(oPlace)), placeAt, mOffsets.cpuState);
-        if (oDiagService.HasFailure(oPlace) != 0) DrawSymbol(surface, "IDB_DIAG_FAILURE", placeAt, mOffsets.failure);
+        const auto oDiagService = G_Require(mContext.oDiagService, "The diagnostics service");
+        DrawSymbol(surface, CpuSymbol(oDiagService->CpuState(oPlace)), placeAt, mOffsets.cpuState);
+        if (oDiagService->HasFailure(oPlace) != 0) DrawSymbol(surface, "IDB_DIAG_FAILURE", placeAt, mOffsets.failure);
     });
 }
 

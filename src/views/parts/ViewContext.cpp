@@ -21,7 +21,7 @@ bool ViewContext::IsDragActive() const noexcept
 
 VxHWRackPlacePtr ViewContext::Place(std::int32_t lRack, std::int32_t lPlace) const
 {
-    return Station().Racks()->Item(lRack)->Places()->Item(lPlace);
+    return Station()->Racks()->Item(lRack)->Places()->Item(lPlace);
 }
 
 } // namespace zqbchwcx

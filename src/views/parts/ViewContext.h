@@ -33,11 +33,12 @@ struct ViewContext {
     IVxHWKeyInputControllerPtr oKeyCtrl;
     IVxHWDragDropControllerPtr oDragDropCtrl;
 
-    VxHWStation& Station() const { return G_Require(oStation, "The station"); }
-    VxHWSelectionHandler& SelHandler() const { return G_Require(oSelHandler, "The selection handler"); }
-    IVxHWMouseInputController& MouseCtrl() const { return G_Require(oMouseCtrl, "The mouse controller"); }
-    IVxHWKeyInputController& KeyCtrl() const { return G_Require(oKeyCtrl, "The key controller"); }
-    IVxHWDragDropController& DragDropCtrl() const { return G_Require(oDragDropCtrl, "The drag-and-drop controller"); }
+    // The caller keeps what these give for the call.
+    VxHWStationPtr Station() const { return G_Require(oStation, "The station"); }
+    VxHWSelectionHandlerPtr SelHandler() const { return G_Require(oSelHandler, "The selection handler"); }
+    IVxHWMouseInputControllerPtr MouseCtrl() const { return G_Require(oMouseCtrl, "The mouse controller"); }
+    IVxHWKeyInputControllerPtr KeyCtrl() const { return G_Require(oKeyCtrl, "The key controller"); }
+    IVxHWDragDropControllerPtr DragDropCtrl() const { return G_Require(oDragDropCtrl, "The drag-and-drop controller"); }
 
     /// No position without a selection handler.
     std::int32_t FocusPosition() const noexcept;

@@ -24,7 +24,10 @@ public:
     {
         for (; lMilliseconds > 0; --lMilliseconds)
             for (const auto& timer : std::vector(mcolTimers))
-                if (timer->enabled && timer->handler && ++timer->elapsed % timer->interval == 0) timer->handler();
+                if (timer->enabled && timer->handler && ++timer->elapsed % timer->interval == 0) {
+                    const auto handler = timer->handler; // it may end its own timer
+                    handler();
+                }
     }
     bool IsRunning() const
     {

@@ -3,12 +3,15 @@
 #include "foundation/VxError.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zqbchwcx::testing {
 
-/// Counts the calls that the library makes to its model and its host, and makes one of them fail.
+/// Counts the calls that the library makes to its model and its host, and makes one of them fail, or do something else
+/// first.
 class FaultPoints {
 public:
     /// Counts one call. Throws VxError when it is the armed one; later calls succeed again.
@@ -16,6 +19,7 @@ public:
     {
         if (++mlCount != mlThrowAt) return;
         msThrown = call;
+        if (mAction) return mAction();
         throw VxError(InjectedNumber, "Injected into " + msThrown, "host", "injected.hlp", 7);
     }
 
@@ -27,9 +31,16 @@ public:
         mlThrowAt = lCall;
         mlCount = 0;
         msThrown.clear();
+        mAction = nullptr;
+    }
+    /// The call with that number does this before it goes on.
+    void RunAt(std::int32_t lCall, std::function<void()> action)
+    {
+        ThrowAt(lCall);
+        mAction = std::move(action);
     }
     std::int32_t Count() const { return mlCount; }
-    /// The call that failed; empty when none has.
+    /// The armed call; empty when it has not come.
     const std::string& Thrown() const { return msThrown; }
 
     static constexpr std::int32_t InjectedNumber = 4711;
@@ -38,6 +49,7 @@ private:
     std::int32_t mlCount = 0;
     std::int32_t mlThrowAt = 0;
     std::string msThrown;
+    std::function<void()> mAction;
 };
 
 } // namespace zqbchwcx::testing

@@ -1,3 +1,4 @@
+#include "foundation/Nothing.h"
 #include "managers/VxHWConfigManager.h"
 #include "tests/support/StationStage.h"
 
@@ -25,9 +26,19 @@ public:
         manager->Initialize(vxStationTypeCentral, overview, table, station);
         handler = manager->VxHWSelectionHandler();
     }
-    IVxHWMouseInputController& Mouse() const { return *overview->VxHWMouseInputController(); }
-    IVxHWKeyInputController& Key() const { return *overview->VxHWKeyInputController(); }
-    IVxHWDragDropController& DragDrop() const { return *overview->VxHWDragDropController(); }
+    // As views do, the caller keeps the controller for the call. All throw VxError when the mode has ended.
+    IVxHWMouseInputControllerPtr Mouse() const
+    {
+        return G_Require(overview->VxHWMouseInputController(), "The mouse controller");
+    }
+    IVxHWKeyInputControllerPtr Key() const
+    {
+        return G_Require(overview->VxHWKeyInputController(), "The key controller");
+    }
+    IVxHWDragDropControllerPtr DragDrop() const
+    {
+        return G_Require(overview->VxHWDragDropController(), "The drag-and-drop controller");
+    }
 
     /// Selects place 2, which holds module A, and place 3, which holds B; the focus is on the first.
     void SelectTwoModules()
@@ -44,24 +55,24 @@ public:
     void StartDrag(std::int32_t lPosition) const
     {
         std::int32_t lEffect = 0;
-        DragDrop().OLEStartDrag(data, lEffect);
-        DragDrop().OLESetData(data, FakeExchangeData::Format);
+        DragDrop()->OLEStartDrag(data, lEffect);
+        DragDrop()->OLESetData(data, FakeExchangeData::Format);
         Over(lPosition, vxDragEnter);
     }
     void Over(std::int32_t lPosition, std::int16_t nState) const
     {
         std::int32_t lEffect = vxDropEffectCopyOrMove;
-        DragDrop().OLEDragOver(lPosition, data, lEffect, vxButtonLeft, 0, nState);
+        DragDrop()->OLEDragOver(lPosition, data, lEffect, vxButtonLeft, 0, nState);
     }
     void Drop(std::int32_t lPosition, std::int16_t nShift) const
     {
         std::int32_t lEffect = vxDropEffectCopyOrMove;
-        DragDrop().OLEDragDrop(lPosition, data, lEffect, vxButtonLeft, nShift);
+        DragDrop()->OLEDragDrop(lPosition, data, lEffect, vxButtonLeft, nShift);
     }
     void Complete() const
     {
         std::int32_t lEffect = vxDropEffectMove;
-        DragDrop().OLECompleteDrag(lEffect);
+        DragDrop()->OLECompleteDrag(lEffect);
     }
     std::shared_ptr<VxHWConfigManager> manager;
 };
@@ -102,24 +113,24 @@ void DragOverPlaceNine(ConfigWorld& world)
 Step Click(std::int32_t lPosition, std::int16_t nShift = 0)
 {
     return [=](ConfigWorld& world) {
-        world.Mouse().MouseDown(lPosition, vxButtonLeft, nShift);
-        world.Mouse().MouseUp(lPosition, vxButtonLeft, nShift);
+        world.Mouse()->MouseDown(lPosition, vxButtonLeft, nShift);
+        world.Mouse()->MouseUp(lPosition, vxButtonLeft, nShift);
     };
 }
 
 Step Key(void (IVxHWKeyInputController::*command)() noexcept)
 {
-    return [=](ConfigWorld& world) { (world.Key().*command)(); };
+    return [=](ConfigWorld& world) { (*world.Key().*command)(); };
 }
 
 Step Cursor(std::int32_t lPosition, std::int16_t nShift = 0)
 {
-    return [=](ConfigWorld& world) { world.Key().CursorKeyDown(lPosition, nShift); };
+    return [=](ConfigWorld& world) { world.Key()->CursorKeyDown(lPosition, nShift); };
 }
 
 Step Space(std::int16_t nShift)
 {
-    return [=](ConfigWorld& world) { world.Key().SpaceKeyDown(nShift); };
+    return [=](ConfigWorld& world) { world.Key()->SpaceKeyDown(nShift); };
 }
 
 Step Drop(std::int32_t lPosition, std::int16_t nShift = 0)
@@ -156,7 +167,7 @@ std::vector<Scenario> Scenarios()
         {"CtrlClickOnSelected", twoModules, Click(6, Ctrl)},
         {"CtrlClickInOtherRack", twoModules, Click(1006, Ctrl)},
         {"CtrlClickOnGap", twoModules, Click(1007, Ctrl)},
-        {"DoubleClick", nothing, [](ConfigWorld& world) { world.Mouse().DblClick(4); }},
+        {"DoubleClick", nothing, [](ConfigWorld& world) { world.Mouse()->DblClick(4); }},
         {"Cursor", twoModules, Cursor(8)},
         {"ShiftCursor", twoModules, Cursor(8, Shift)},
         {"CursorOnline", twoModules, Cursor(8), ReadOnlyOnline},
@@ -170,17 +181,17 @@ std::vector<Scenario> Scenarios()
         {"Paste",
          [](ConfigWorld& world) {
              world.SelectTwoModules();
-             world.Key().Copy();
-             world.Key().CursorKeyDown(18, 0);
+             world.Key()->Copy();
+             world.Key()->CursorKeyDown(18, 0);
          },
          Key(&Keys::Paste)},
         {"KeyReturn", twoModules, Key(&Keys::KeyReturn)},
         {"KeyReturnOnline", twoModules, Key(&Keys::KeyReturn), ReadOnlyOnline},
-        {"IsValidDragPosition", twoModules, [](ConfigWorld& world) { world.DragDrop().IsValidDragPosition(5); }},
+        {"IsValidDragPosition", twoModules, [](ConfigWorld& world) { world.DragDrop()->IsValidDragPosition(5); }},
         {"DragIntoView", member, [](ConfigWorld& world) { world.StartDrag(18); }},
         {"DragOver", DragOverPlaceNine, [](ConfigWorld& world) { world.Over(1006, vxDragOver); }},
         {"IsDropPlace", DragOverPlaceNine,
-         [](ConfigWorld& world) { world.DragDrop().IsDropPlace(world.station->Place(0, 9)); }},
+         [](ConfigWorld& world) { world.DragDrop()->IsDropPlace(world.station->Place(0, 9)); }},
         {"DragOutOfView", DragOverPlaceNine,
          [](ConfigWorld& world) {
              world.Over(18, vxDragLeave);
@@ -232,7 +243,7 @@ void ExpectBracketsClosed(const ConfigWorld& world, const Scenario& scenario)
               count("DoWaitCursor -1") + count("Pointer default"));
     EXPECT_EQ(world.services.host->openActions, 0);
     EXPECT_TRUE(world.station->drawable || scenario.Has(MayLeaveDrawingOff));
-    EXPECT_TRUE(!scenario.Has(EndsDrag) || world.DragDrop().State() == vxDragDropStateInactive);
+    EXPECT_TRUE(!scenario.Has(EndsDrag) || world.DragDrop()->State() == vxDragDropStateInactive);
 }
 
 void ExpectReport(const ConfigWorld& world)
@@ -255,7 +266,7 @@ void ExpectNextEventWorks(ConfigWorld& world, const Scenario& scenario)
     world.services.Faults().Restart();
     world.TakeReports();
     if (scenario.Has(IsConnection)) world.Initialize();
-    world.Key().CursorKeyDown(1010, 0);
+    world.Key()->CursorKeyDown(1010, 0);
     EXPECT_EQ(world.Selection(), "1/5");
     EXPECT_EQ(world.handler->FocusPosition(), 1010);
     EXPECT_EQ(world.TakeReports(), Lines{});
@@ -282,6 +293,29 @@ TEST_P(EveryCall, MayFail)
         // Without the host application the wait cursor is the screen's, which is nobody's error.
         if (call != "ObjectLookup.Create") ExpectReport(*world);
         if (scenario.Has(KeepsModules)) ExpectNoModuleLost(*world);
+        ExpectNextEventWorks(*world, scenario);
+    }
+}
+
+TEST_P(EveryCall, MayEndTheMode)
+{
+    const Scenario& scenario = GetParam();
+    const auto undisturbed = MakeWorld(scenario);
+    scenario.operate(*undisturbed);
+    const std::int32_t lCalls = undisturbed->services.Faults().Count();
+    for (std::int32_t lCall = 1; lCall <= lCalls && !HasFailure(); ++lCall) {
+        const auto world = MakeWorld(scenario);
+        world->services.Faults().RunAt(lCall, [&] { world->manager->Terminate(); });
+        try {
+            scenario.operate(*world);
+        } catch (const VxError&) { // NOLINT(bugprone-empty-catch): a later step of it finds the mode ended
+        }
+        SCOPED_TRACE("call " + std::to_string(lCall) + ": " + world->services.Faults().Thrown());
+        world->services.Faults().Restart();
+        world->manager->Terminate();
+        world->services.toolkit->clock.Advance(20);
+        world->TakeReports();
+        world->Initialize();
         ExpectNextEventWorks(*world, scenario);
     }
 }

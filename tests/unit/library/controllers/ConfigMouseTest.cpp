@@ -68,6 +68,15 @@ TEST_F(ConfigMouse, ShiftSelectsFromTheAnchor)
     EXPECT_EQ(Press(10, vxShiftMask), "0/2 0/3 0/4 0/5 | 10 | 4");
     EXPECT_EQ(Press(7, vxShiftMask | vxCtrlMask), "0/2 0/3 | 7 | 4");
     EXPECT_EQ(Press(1008, vxShiftMask | vxAltMask), "1/2 1/3 1/4 | 1008 | 1004") << "the anchor follows to the rack";
+    std::int32_t lCall = 0;
+    do {
+        FocusAndAnchor(1008, 1004);
+        services.Faults().ThrowAt(++lCall);
+        Press(8, vxShiftMask);
+        ASSERT_FALSE(services.Faults().Thrown().empty());
+    } while (services.Faults().Thrown() != "Collection.Clear");
+    EXPECT_EQ(handler->ShiftSelPosition(), 1004) << "the selection goes first";
+    TakeReports();
 }
 
 TEST_F(ConfigMouse, CtrlTogglesOnReleaseWithinOneRack)

@@ -177,10 +177,16 @@ TEST_F(ConfigManager, ReportsCommandsOutsideOfItsConnection)
     manager->Terminate();
     manager->Initialize(vxStationTypeCentral, nullptr, table, station);
     manager->Initialize(vxStationTypeCentral, overview, table, nullptr);
+    Initialize();
+    const auto module = station->MakeModule("M");
+    module->subModuleCount = 2;
+    module->subModules = nullptr;
+    EXPECT_FALSE(Insert(module));
     Lines procedures;
     for (const std::string& source : TakeReports()) procedures.push_back(source.substr(source.rfind('.') + 1));
     EXPECT_THAT(procedures,
-                ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize", "Initialize"));
+                ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize", "Initialize",
+                            "SetSingleModuleToCurPos"));
 }
 
 } // namespace
