@@ -35,7 +35,8 @@ public:
     virtual std::int32_t PlaceResult(const VxHWRackPlacePtr& oPlace) const = 0;
     virtual ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& oPlace) const = 0;
     /// Opens the host's parameter comparison of the place: at one of its differences, or as a whole for nothing.
-    virtual void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace, const ParameterDifferencePtr& oDifference) = 0;
+    virtual void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace,
+                                          const ParameterDifferencePtr& oDifference) = 0;
     /// A text about the place for its compare tooltip.
     virtual std::string PlaceText(const VxHWRackPlacePtr& oPlace) const = 0;
 };

@@ -184,9 +184,8 @@ TEST_F(ConfigManager, ReportsCommandsOutsideOfItsConnection)
     EXPECT_FALSE(Insert(module));
     Lines procedures;
     for (const std::string& source : TakeReports()) procedures.push_back(source.substr(source.rfind('.') + 1));
-    EXPECT_THAT(procedures,
-                ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize", "Initialize",
-                            "SetSingleModuleToCurPos"));
+    EXPECT_THAT(procedures, ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize",
+                                        "Initialize", "SetSingleModuleToCurPos"));
 }
 
 } // namespace
