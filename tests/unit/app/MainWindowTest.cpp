@@ -203,7 +203,7 @@ TEST_F(MainWindowTest, ReloadsWhateverAnotherProgramHasPutIntoTheFile)
 
     WriteFile(path, "{");
     Answer("Reload");
-    QTimer::singleShot(50, window.get(), [this] { Answer("Close"); });
+    QTimer::singleShot(50, window.get(), [] { Answer("Close"); });
     window->Files().CheckFile();
     EXPECT_TRUE(IsEnabled("Undo delete")) << "a damaged file takes nothing away";
     write(":/examples/sewage-aeration.station.json");
