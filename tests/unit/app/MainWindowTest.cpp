@@ -50,16 +50,20 @@ protected:
         window->Files().OpenExample(QString::fromLatin1(resource));
     }
 
-    /// Presses the button of the next question.
-    static void Answer(const char* button)
+    /// Presses the button of the next question that has it.
+    void Answer(const char* button) const
     {
-        QTimer::singleShot(0, qApp, [text = QString::fromLatin1(button)] {
+        auto* timer = new QTimer(window.get());
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, text = QString::fromLatin1(button)] {
             const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(box);
-            for (auto* candidate : box->buttons())
-                if (candidate->text().remove(u'&') == text) return candidate->click();
-            FAIL() << text.toStdString();
+            if (!box) return;
+            for (auto* candidate : box->buttons()) {
+                if (candidate->text().remove(u'&') != text) continue;
+                timer->stop();
+                return candidate->click();
+            }
         });
+        timer->start(1);
     }
 
     std::unique_ptr<MainWindow> window;
@@ -203,7 +207,7 @@ TEST_F(MainWindowTest, ReloadsWhateverAnotherProgramHasPutIntoTheFile)
 
     WriteFile(path, "{");
     Answer("Reload");
-    QTimer::singleShot(50, window.get(), [] { Answer("Close"); });
+    Answer("Close");
     window->Files().CheckFile();
     EXPECT_TRUE(IsEnabled("Undo delete")) << "a damaged file takes nothing away";
     write(":/examples/sewage-aeration.station.json");
