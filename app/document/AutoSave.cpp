@@ -41,14 +41,15 @@ void AutoSave::Try(Step step)
     }
 }
 
-void AutoSave::Flush()
+bool AutoSave::Flush()
 {
     moTimer->stop();
-    if (!moDocument.IsModified()) return;
+    if (!moDocument.IsModified()) return true;
     Try([this] {
         if (!moJournal) moJournal = std::make_unique<Journal>(msDirectory);
         moJournal->Write(moDocument.Station()->Data(), moDocument.Origin());
     });
+    return !mbFailed;
 }
 
 void AutoSave::Discard()

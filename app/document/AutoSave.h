@@ -25,8 +25,8 @@ public:
     /// The document outlives this.
     AutoSave(Document& document, std::string journalDirectory, QObject* parent);
 
-    /// Writes what is due at once.
-    void Flush();
+    /// Writes what is due at once. False when that failed.
+    bool Flush();
     /// The document is saved or given up: nothing is to be recovered.
     void Discard();
 

@@ -109,17 +109,20 @@ void Document::RecogniseOwnFile(const std::string& text)
 
 FileChange Document::FileChange() const
 {
-    if (moOrigin.stationFile.empty() || !moOrigin.stamp) return zqbchwcx::reference::FileChange::Unchanged;
+    using Change = zqbchwcx::reference::FileChange;
+    if (moOrigin.stationFile.empty()) return Change::Unchanged;
+    // Known to be gone: whoever puts a file there again has changed it.
+    if (!moOrigin.stamp) return ReadStatus(moFiles, moOrigin.stationFile) ? Change::Changed : Change::Unchanged;
     return ChangeSince(*moOrigin.stamp, moOrigin.stationFile, moFiles);
 }
 
 void Document::KeepOwnContent()
 {
+    MarkModified();
     moOrigin.stamp.reset();
     if (const auto status = ReadStatus(moFiles, moOrigin.stationFile)) {
         moOrigin.stamp = MakeStamp(status, ReadFile(moFiles, moOrigin.stationFile, LargestStationFile));
     }
-    MarkModified();
 }
 
 void Document::TakeOver(LoadedStation loaded)

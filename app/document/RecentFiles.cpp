@@ -15,6 +15,8 @@ RecentFiles::RecentFiles(QSettings& settings, QObject* parent) : QObject(parent)
 
 QStringList RecentFiles::Files() const
 {
+    // Other programs add to the list too.
+    moSettings.sync();
     return moSettings.value(Key).toStringList();
 }
 
@@ -41,6 +43,7 @@ void RecentFiles::Clear()
 void RecentFiles::Store(const QStringList& files)
 {
     moSettings.setValue(Key, files);
+    moSettings.sync();
     emit changed();
 }
 

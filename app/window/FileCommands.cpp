@@ -136,7 +136,15 @@ bool FileCommands::Save()
 {
     if (!moDocument) return false;
     if (moDocument->FileName().isEmpty()) return SaveAs();
-    return MayOverwriteForeignChange() && SaveTo(moDocument->FileName());
+    switch (AnswerBeforeOverwriting()) {
+    case Overwriting::Allowed:
+        return SaveTo(moDocument->FileName());
+    case Overwriting::Elsewhere:
+        return SaveAs();
+    case Overwriting::Refused:
+        break;
+    }
+    return false;
 }
 
 bool FileCommands::SaveAs()
@@ -167,12 +175,12 @@ bool FileCommands::SaveTo(const QString& fileName)
     }
 }
 
-bool FileCommands::MayOverwriteForeignChange()
+FileCommands::Overwriting FileCommands::AnswerBeforeOverwriting()
 {
     try {
-        if (moDocument->FileChange() != FileChange::Changed) return true;
+        if (moDocument->FileChange() != FileChange::Changed) return Overwriting::Allowed;
     } catch (const FileError&) {
-        return true; // what is wrong with the file is told by the saving
+        return Overwriting::Allowed; // what is wrong with the file is told by the saving
     }
     QMessageBox box(QMessageBox::Warning, tr("Quillon Ed"),
                     tr("“%1” was changed by another program.").arg(moDocument->Title()), QMessageBox::Cancel,
@@ -181,8 +189,8 @@ bool FileCommands::MayOverwriteForeignChange()
     const QPushButton* overwrite = box.addButton(tr("Overwrite"), QMessageBox::DestructiveRole);
     const QPushButton* elsewhere = box.addButton(tr("Save as…"), QMessageBox::AcceptRole);
     box.exec();
-    if (box.clickedButton() == elsewhere) SaveAs();
-    return box.clickedButton() == overwrite;
+    if (box.clickedButton() == elsewhere) return Overwriting::Elsewhere;
+    return box.clickedButton() == overwrite ? Overwriting::Allowed : Overwriting::Refused;
 }
 
 bool FileCommands::Close()
@@ -204,7 +212,6 @@ bool FileCommands::MayLeave()
     case QMessageBox::Save:
         return Save();
     case QMessageBox::Discard:
-        moAutoSave->Discard();
         return true;
     default:
         return false;
@@ -213,8 +220,8 @@ bool FileCommands::MayLeave()
 
 void FileCommands::CheckFile()
 {
-    // Another dialog may be about the very station that the answer would replace.
-    if (!moDocument || mbAsking || QApplication::activeModalWidget() != nullptr) return;
+    // Another dialog or an open menu may be about the very station that the answer would replace.
+    if (!moDocument || mbAsking || QApplication::activeModalWidget() || QApplication::activePopupWidget()) return;
     const QScopedValueRollback<bool> guard(mbAsking, true);
     try {
         const FileChange change = moDocument->FileChange();
@@ -297,8 +304,7 @@ void FileCommands::Recover(const RecoverableJournal& journal)
         Adopt(MakeDocument(std::move(recovered.data), recovered.origin));
         moDocument->MarkModified();
         // The old journal goes only when the new one holds the station.
-        moAutoSave->Flush();
-        DropJournal(journal.journalFile);
+        if (moAutoSave->Flush()) DropJournal(journal.journalFile);
     } catch (const FileError& error) {
         Tell(tr("The station cannot be recovered."), ReasonOf(error, moServices.CurrentLanguage()));
     }

@@ -60,7 +60,8 @@ private:
     std::unique_ptr<Document> MakeDocument(zqbchwcx::reference::StationData data,
                                            zqbchwcx::reference::JournalOrigin origin) const;
     bool SaveTo(const QString& fileName);
-    bool MayOverwriteForeignChange();
+    enum class Overwriting { Allowed, Elsewhere, Refused };
+    Overwriting AnswerBeforeOverwriting();
     void Reload();
     void AnswerForeignChange(zqbchwcx::reference::FileChange change);
     void Recover(const zqbchwcx::reference::RecoverableJournal& journal);

@@ -227,6 +227,13 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    // A menu's command runs inside the view that would end.
+    if (QWidget* menu = QApplication::activePopupWidget()) {
+        menu->close();
+        QTimer::singleShot(0, this, &QWidget::close);
+        event->ignore();
+        return;
+    }
     if (!moFiles.Close()) {
         event->ignore();
         return;

@@ -59,8 +59,10 @@ private:
             const PlaceRef place{rack, static_cast<std::int32_t>(i) + 1};
             if (place.place < lastEnd) Note(SpanOverlap(last, place));
             CheckModule(*module, place);
-            last = place;
-            lastEnd = std::max(lastEnd, place.place + SpanOf(*module, mrCatalogue));
+            if (const std::int32_t end = place.place + SpanOf(*module, mrCatalogue); end > lastEnd) {
+                last = place;
+                lastEnd = end;
+            }
         }
         if (hasModules) Note(AgainstRack(mrData, rack));
         Note(AgainstMissingLeader(mrData, mrCatalogue, rack));
