@@ -1,5 +1,6 @@
 #include "tests/unit/app/AppStage.h"
 
+#include "app/document/JournalDirectory.h"
 #include "app/window/MainWindow.h"
 #include "app/window/StationView.h"
 #include "app/window/StatusLine.h"
@@ -8,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDir>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QLabel>
@@ -15,6 +17,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QThread>
 #include <QTimer>
 
 namespace quillon_ed {
@@ -216,6 +219,47 @@ TEST_F(MainWindowTest, ReloadsWhateverAnotherProgramHasPutIntoTheFile)
     write(":/examples/assembly-cell.station.json");
     reload();
     EXPECT_FALSE(window->findChild<QWidget*>(QStringLiteral("rackOverview"))) << "a distributed station";
+}
+
+TEST_F(MainWindowTest, AskedBeforeAFileThatCameBackIsOverwritten)
+{
+    const QString path = Path("gone.station.json");
+    WriteFile(path, ReadWhole(QString::fromLatin1(testing::Waterworks)));
+    ASSERT_TRUE(window->Files().OpenFile(path));
+    QFile::remove(path);
+    Answer("Keep mine");
+    window->Files().CheckFile();
+    EXPECT_TRUE(window->isWindowModified());
+    const QByteArray foreign = ReadWhole(QStringLiteral(":/examples/packaging-line.station.json"));
+    WriteFile(path, foreign);
+    Answer("Cancel");
+    EXPECT_FALSE(window->Files().Save());
+    EXPECT_EQ(ReadWhole(path), foreign);
+}
+
+TEST_F(MainWindowTest, WhatIsUnsavedStaysInTheJournalUntilTheStationIsLeft)
+{
+    const auto journals = [] {
+        const QDir state(QString::fromStdString(JournalDirectory()));
+        return state.entryList({QStringLiteral("*.journal")}, QDir::Files).size();
+    };
+    const auto before = journals();
+    Open();
+    Action("Delete")->trigger();
+    for (int turn = 0; turn < 500 && journals() == before; ++turn) {
+        QThread::msleep(20);
+        QCoreApplication::processEvents();
+    }
+    ASSERT_EQ(journals(), before + 1);
+    WriteFile(Path("bad.station.json"), "{");
+    Answer("Discard");
+    Answer("Close");
+    EXPECT_FALSE(window->Files().OpenFile(Path("bad.station.json")));
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_EQ(journals(), before + 1) << "it is still open, and still unsaved";
+    Answer("Discard");
+    EXPECT_TRUE(window->Files().Close());
+    EXPECT_EQ(journals(), before);
 }
 
 TEST_F(MainWindowTest, AReadOnlyStationOffersNoChange)
