@@ -115,7 +115,12 @@ void ModuleList::changeEvent(QEvent* event)
 bool ModuleList::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == moTable && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent*>(event)->key()) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        switch (key.key()) {
+        case Qt::Key_F10:
+            if (!key.modifiers().testFlag(Qt::ShiftModifier)) break;
+            emit menuRequested(moTable->viewport()->mapToGlobal(moTable->visualRect(moTable->currentIndex()).center()));
+            return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
             emit editRequested();
