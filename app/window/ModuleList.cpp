@@ -6,6 +6,7 @@
 #include "foundation/mdl_Main.h"
 #include "foundation/model/VxHWRacks.h"
 
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QItemSelection>
 #include <QKeyEvent>
@@ -14,6 +15,9 @@
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <functional>
 
 namespace quillon_ed {
 
@@ -27,11 +31,35 @@ constexpr int HeaderHeight = 21;
 constexpr int RowHeight = 15;
 constexpr int FontPixels = 11;
 
+/// Extends a selection from the place that the views share, not from the row it was last told of itself.
+class RangeTable : public QTableView {
+public:
+    RangeTable(std::function<int()> anchorRow, QWidget* parent) : QTableView(parent), moAnchorRow(std::move(anchorRow))
+    {
+    }
+
+protected:
+    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override
+    {
+        const int anchor = moAnchorRow();
+        if (!command.testFlag(QItemSelectionModel::Current) || anchor < 0 || !currentIndex().isValid())
+            return QTableView::setSelection(rect, command);
+        const int row = currentIndex().row();
+        const auto [first, last] = std::minmax({anchor, row});
+        selectionModel()->select({model()->index(first, 0), model()->index(last, 0)}, command);
+    }
+
+private:
+    std::function<int()> moAnchorRow;
+};
+
 } // namespace
 
 ModuleList::ModuleList(VxHWStationPtr station, VxHWSelectionHandlerPtr handler, QWidget* parent)
     : QWidget(parent), moStation(std::move(station)), moHandler(std::move(handler)), moModel(new ModuleListModel(this)),
-      moTabs(new QTabBar(this)), moTable(new QTableView(this)), moRefresh(new QTimer(this))
+      moTabs(new QTabBar(this)),
+      moTable(new RangeTable([this] { return moModel->RowOf(moHandler->ShiftSelPosition()); }, this)),
+      moRefresh(new QTimer(this))
 {
     QFont small = font();
     small.setPixelSize(FontPixels);
@@ -81,6 +109,11 @@ ModuleList::ModuleList(VxHWStationPtr station, VxHWSelectionHandlerPtr handler, 
     ShowRack(0);
     connect(moTabs, &QTabBar::currentChanged, this, &ModuleList::GoToRack);
     connect(moTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, &ModuleList::TakeSelection);
+    connect(moTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& current) {
+                if (current.isValid() && moModel->PositionOf(current.row()) != moHandler->FocusPosition())
+                    TakeSelection();
+            });
     connect(moTable, &QTableView::doubleClicked, this, &ModuleList::editRequested);
     connect(moTable, &QTableView::customContextMenuRequested, this,
             [this](const QPoint& point) { emit menuRequested(moTable->viewport()->mapToGlobal(point)); });
@@ -117,10 +150,12 @@ bool ModuleList::eventFilter(QObject* watched, QEvent* event)
     if (watched == moTable && event->type() == QEvent::KeyPress) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         switch (key.key()) {
-        case Qt::Key_F10:
+        case Qt::Key_F10: {
             if (!key.modifiers().testFlag(Qt::ShiftModifier)) break;
-            emit menuRequested(moTable->viewport()->mapToGlobal(moTable->visualRect(moTable->currentIndex()).center()));
+            const QRect row = moTable->visualRect(moTable->currentIndex());
+            emit menuRequested(moTable->viewport()->mapToGlobal(row.center()));
             return true;
+        }
         case Qt::Key_Return:
         case Qt::Key_Enter:
             emit editRequested();
@@ -181,12 +216,18 @@ void ModuleList::TakeSelection()
 {
     if (mbSynchronizing) return;
     const QScopedValueRollback<bool> guard(mbSynchronizing, true);
+    const reference::ViewState before = CaptureView(*moHandler);
+    const Qt::KeyboardModifiers keys = QGuiApplication::keyboardModifiers();
     reference::ViewState state;
+    if (keys.testFlag(Qt::ControlModifier)) {
+        for (const std::int32_t position : before.selection)
+            if (moModel->RowOf(position) < 0) state.selection.push_back(position);
+    }
     for (const QModelIndex& index : moTable->selectionModel()->selectedRows()) {
         state.selection.push_back(moModel->PositionOf(index.row()));
     }
     state.focus = moModel->PositionOf(moTable->currentIndex().row());
-    state.anchor = state.focus;
+    state.anchor = keys.testFlag(Qt::ShiftModifier) ? before.anchor : state.focus;
     ShowView(*moHandler, *moStation, state);
 }
 
