@@ -13,6 +13,8 @@
 #include "foundation/model/VxHWRackPlaces.h"
 #include "platform/Input.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTableView>
 
 #include <gmock/gmock.h>
@@ -111,6 +113,16 @@ TEST_F(StationViewTest, TheListAndTheStationShareSelectionAndFocus)
     EXPECT_EQ(SelectedRows(), (std::vector{3, 4}));
     Table().selectRow(10);
     EXPECT_EQ(Shown(), (ViewState{{Empty}, Empty, Empty}));
+}
+
+TEST_F(StationViewTest, TheListExtendsASelectionFromTheSharedPlace)
+{
+    Table().setCurrentIndex(Table().model()->index(9, 0));
+    Select({G_PlacePosition(0, 2)});
+    QKeyEvent shiftDown(QEvent::KeyPress, Qt::Key_Down, Qt::ShiftModifier);
+    QCoreApplication::sendEvent(&Table(), &shiftDown);
+    EXPECT_EQ(SelectedRows(), (std::vector<int>{1, 2}));
+    EXPECT_EQ(Shown().selection.size(), 2U);
 }
 
 TEST_F(StationViewTest, PositionsAreToldForPeople)
