@@ -45,16 +45,13 @@ int main(int argc, char** argv)
     const auto parsed = ParseCommandLine({argv + 1, argv + argc});
     if (const auto* error = std::get_if<UsageError>(&parsed)) return refuse(*error);
     const auto& line = std::get<CommandLine>(parsed);
-    if (line.help) {
-        std::cout << HelpText(line.command, LanguageOf(line));
-        return ExitClean;
-    }
-    if (line.version) {
-        std::cout << "Quillon Ed " QUILLON_VERSION "\n";
-        return ExitClean;
+    const CommandStreams streams{std::cout, std::cerr};
+    if (line.help || line.version) {
+        if (line.help) std::cout << HelpText(line.command, LanguageOf(line));
+        else std::cout << "Quillon Ed " QUILLON_VERSION "\n";
+        return EndOutput(streams, LanguageOf(line), ExitClean);
     }
 
-    const CommandStreams streams{std::cout, std::cerr};
     nameProgram();
     if (line.command == Command::Open || line.command == Command::Render) {
         if (line.command == Command::Render) {
@@ -66,5 +63,5 @@ int main(int argc, char** argv)
         const QApplication application(count, argv);
         return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
     }
-    return RunCommand(line, streams);
+    return EndOutput(streams, LanguageOf(line), RunCommand(line, streams));
 }

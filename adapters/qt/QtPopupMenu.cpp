@@ -56,12 +56,12 @@ void QtPopupMenu::Show(std::optional<Point> at, std::optional<std::int32_t> lDef
     if (!mMenu) return;
     mMenu->setDefaultAction(lDefaultItem ? &Item(*lDefaultItem) : nullptr);
     const QPoint corner = at ? mMenu->parentWidget()->mapToGlobal(QPoint(at->x, at->y)) : QCursor::pos();
-    const QAction* chosen = mMenu->exec(corner);
-    // A command may end everything, this menu included.
+    // What happens while it is open, and a command, may end everything, this menu included.
     const auto onClick = mOnClick;
-    const auto found = std::find(mcolItems.begin(), mcolItems.end(), chosen);
-    if (chosen != nullptr && found != mcolItems.end() && onClick)
-        onClick(static_cast<std::int32_t>(found - mcolItems.begin()));
+    const auto items = mcolItems;
+    const QAction* chosen = mMenu->exec(corner);
+    const auto found = std::find(items.begin(), items.end(), chosen);
+    if (chosen != nullptr && found != items.end() && onClick) onClick(static_cast<std::int32_t>(found - items.begin()));
 }
 
 QAction& QtPopupMenu::Item(std::int32_t lItem) const

@@ -61,6 +61,15 @@ Language LanguageOf(const CommandLine& line)
     return line.language.value_or(isGerman ? Language::German : Language::English);
 }
 
+int EndOutput(const CommandStreams& streams, Language language, int exitCode)
+{
+    if (streams.out.flush()) return exitCode;
+    const LocalizedText reason{"standard output cannot be written",
+                               "die Standardausgabe kann nicht geschrieben werden"};
+    streams.err << "quillon-ed: " << reason.In(language) << '\n';
+    return ExitFile;
+}
+
 int RunCommand(const CommandLine& line, const CommandStreams& streams)
 {
     return TellErrors(streams.err, LanguageOf(line), [&] {

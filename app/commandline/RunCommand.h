@@ -18,4 +18,8 @@ Language LanguageOf(const CommandLine& line);
 /// the error stream; the result is the exit code.
 int RunCommand(const CommandLine& line, const CommandStreams& streams);
 
+/// The exit code of a command that has said all on its output stream: a failure, told on the error stream, when that
+/// could not be written, as on a full disk.
+int EndOutput(const CommandStreams& streams, Language language, int exitCode);
+
 } // namespace quillon_ed

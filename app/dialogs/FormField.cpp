@@ -2,6 +2,7 @@
 
 #include "app/host/SvgIcon.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -76,6 +77,12 @@ void FormField::ShowReason(const QString& reason)
         if (invalid) editorPalette.setColor(QPalette::Text, color);
         moEditor->setPalette(editorPalette);
     }
+}
+
+void FormField::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) ShowReason(moReason->text());
 }
 
 void FormField::ShowResettable(bool resettable)

@@ -24,6 +24,9 @@ public:
 signals:
     void resetRequested();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     QWidget* moEditor;
     QLabel* moReason;

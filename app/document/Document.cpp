@@ -120,9 +120,11 @@ void Document::KeepOwnContent()
 {
     MarkModified();
     moOrigin.stamp.reset();
-    if (const auto status = ReadStatus(moFiles, moOrigin.stationFile)) {
-        moOrigin.stamp = MakeStamp(status, ReadFile(moFiles, moOrigin.stationFile, LargestStationFile));
-    }
+    const auto status = ReadStatus(moFiles, moOrigin.stationFile);
+    if (!status) return;
+    // What cannot be read, as a folder of that name, is known by its size and time at least.
+    moOrigin.stamp = FileStamp{status->bytes, status->modifiedNanoseconds, 0};
+    moOrigin.stamp = MakeStamp(status, ReadFile(moFiles, moOrigin.stationFile, LargestStationFile));
 }
 
 void Document::TakeOver(LoadedStation loaded)

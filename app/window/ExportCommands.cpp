@@ -1,6 +1,7 @@
 #include "app/window/ExportCommands.h"
 
 #include "app/document/Document.h"
+#include "app/document/ProposedName.h"
 #include "app/export/ExportModuleList.h"
 #include "app/export/ExportOverview.h"
 #include "app/export/PrintStation.h"
@@ -33,21 +34,27 @@ PageHeader HeaderOf(const Document& document)
     return {ToQString(document.Station()->Data().name), QDate::currentDate(), QLocale()};
 }
 
+/// Of a filter such as "Picture (*.png)".
+QString SuffixOf(const QString& filter)
+{
+    return filter.section(QStringLiteral("*."), 1).section(u')', 0, 0);
+}
+
 /// Beside the station, under its name. Empty when the user changed their mind.
 QString AskFileName(const Document& document, const QString& title, const QStringList& filters, QWidget* parent)
 {
-    const QString suffix = filters.front().section(QStringLiteral("*."), 1).section(u')', 0, 0);
-    const QFileInfo station(document.FileName());
-    const QString base = document.FileName().isEmpty() ? document.Title() : station.baseName();
-    QFileDialog dialog(parent, title, station.absolutePath());
+    const QFileInfo proposed(ProposedName(document));
+    QFileDialog dialog(parent, title, proposed.absolutePath());
     dialog.setNameFilters(filters);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(suffix);
-    dialog.selectFile(base + u'.' + suffix);
+    dialog.setDefaultSuffix(SuffixOf(filters.front()));
+    dialog.selectFile(proposed.fileName() + u'.' + dialog.defaultSuffix());
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-        const QString chosen = filter.section(QStringLiteral("*."), 1).section(u')', 0, 0);
-        dialog.setDefaultSuffix(chosen);
-        dialog.selectFile(base + u'.' + chosen);
+        const QString former = u'.' + dialog.defaultSuffix();
+        QString name = QFileInfo(dialog.selectedFiles().value(0)).fileName();
+        if (name.endsWith(former)) name.chop(former.size());
+        dialog.setDefaultSuffix(SuffixOf(filter));
+        dialog.selectFile(name + u'.' + dialog.defaultSuffix());
     });
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

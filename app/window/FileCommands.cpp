@@ -3,6 +3,7 @@
 #include "app/dialogs/NewStationDialog.h"
 #include "app/dialogs/RecoveryDialog.h"
 #include "app/document/JournalDirectory.h"
+#include "app/document/ProposedName.h"
 #include "app/host/ShippedData.h"
 #include "app/host/Strings.h"
 #include "reference/files/StationReader.h"
@@ -15,7 +16,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScopedValueRollback>
-#include <QStandardPaths>
 
 namespace quillon_ed {
 
@@ -126,10 +126,7 @@ void FileCommands::OpenExample(const QString& resource)
 QString FileCommands::ProposedFileName() const
 {
     if (!moDocument->FileName().isEmpty()) return moDocument->FileName();
-    QString name = moDocument->Title();
-    for (const QChar c : QStringLiteral("/\\:*?\"<>|")) name.replace(c, u'-');
-    const QString directory = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QDir(directory).filePath(name + u'.' + StationSuffix);
+    return ProposedName(*moDocument) + u'.' + StationSuffix;
 }
 
 bool FileCommands::Save()

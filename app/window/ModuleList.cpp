@@ -2,6 +2,7 @@
 
 #include "app/document/SharedView.h"
 #include "app/window/ModuleListModel.h"
+#include "app/window/RangeTable.h"
 #include "foundation/mdl_ErrorHandler.h"
 #include "foundation/mdl_Main.h"
 #include "foundation/model/VxHWRacks.h"
@@ -16,9 +17,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <functional>
-
 namespace quillon_ed {
 
 using namespace zqbchwcx;
@@ -30,28 +28,6 @@ constexpr int TabHeight = 20;
 constexpr int HeaderHeight = 21;
 constexpr int RowHeight = 15;
 constexpr int FontPixels = 11;
-
-/// Extends a selection from the place that the views share, not from the row it was last told of itself.
-class RangeTable : public QTableView {
-public:
-    RangeTable(std::function<int()> anchorRow, QWidget* parent) : QTableView(parent), moAnchorRow(std::move(anchorRow))
-    {
-    }
-
-protected:
-    void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override
-    {
-        const int anchor = moAnchorRow();
-        if (!command.testFlag(QItemSelectionModel::Current) || anchor < 0 || !currentIndex().isValid())
-            return QTableView::setSelection(rect, command);
-        const int row = currentIndex().row();
-        const auto [first, last] = std::minmax({anchor, row});
-        selectionModel()->select({model()->index(first, 0), model()->index(last, 0)}, command);
-    }
-
-private:
-    std::function<int()> moAnchorRow;
-};
 
 } // namespace
 
@@ -219,6 +195,7 @@ void ModuleList::TakeSelection()
     const reference::ViewState before = CaptureView(*moHandler);
     const Qt::KeyboardModifiers keys = QGuiApplication::keyboardModifiers();
     reference::ViewState state;
+    // Ctrl adds to what is selected in other racks, too.
     if (keys.testFlag(Qt::ControlModifier)) {
         for (const std::int32_t position : before.selection)
             if (moModel->RowOf(position) < 0) state.selection.push_back(position);

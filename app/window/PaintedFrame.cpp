@@ -4,14 +4,22 @@
 
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QScreen>
 
 #include <memory>
 
 namespace quillon_ed {
 
+namespace {
+
+constexpr QSize ComfortableSize(1180, 720);
+constexpr QSize FrameRoom(16, 48); ///< for what the window manager puts around it
+
+} // namespace
+
 PaintedFrame::PaintedFrame(const QByteArray& geometry)
 {
-    resize(1180, 720);
+    resize(ComfortableSize.boundedTo(screen()->availableSize() - FrameRoom));
     restoreGeometry(geometry);
     show();
     // Shared, because the application may end the loop before the window is painted.

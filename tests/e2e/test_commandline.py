@@ -93,6 +93,10 @@ class List(Home):
         done = self.run_command("list", station, "-o", self.folder / "nowhere" / "list.csv")
         self.assertEqual(done.returncode, UNREADABLE)
         self.assertIn("nowhere/list.csv: ", done.stderr)
+        for arguments in (["list", station], ["--help"]):
+            full = self.run_command(*arguments, before=["sh", "-c", 'exec "$@" > /dev/full', "sh"])
+            self.assertEqual(full.returncode, UNREADABLE)
+            self.assertIn("standard output cannot be written", full.stderr)
 
 
 class Convert(Home):

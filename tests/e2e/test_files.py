@@ -61,9 +61,12 @@ class Files(OnDisplay):
 
         again = self.start()
         offer = again.dialog("Recover")
+        again.forbid_writing()
         self.display.keys("Return")
         again.wait_closed(offer)
         until(again.is_unsaved, "the recovered station counts as unsaved")
+        self.assertTrue(any(self.home.rglob("*.journal")), "what could not be kept anew is kept as it was")
+        again.allow_writing()
         self.display.keys("ctrl+s")
         until(lambda: not again.is_unsaved(), "the station is saved")
         self.assert_changed_on_disk()

@@ -2,6 +2,7 @@
 
 #include "app/document/AutoSave.h"
 #include "app/document/NewStation.h"
+#include "app/document/ProposedName.h"
 #include "app/document/RecentFiles.h"
 #include "reference/files/Recovery.h"
 #include "reference/json/FileError.h"
@@ -96,6 +97,20 @@ TEST_F(DocumentTest, NoticesWhatAnotherProgramDidToTheFile)
     EXPECT_EQ(document->FileChange(), FileChange::Missing);
     document->KeepOwnContent();
     EXPECT_EQ(document->FileChange(), FileChange::Unchanged);
+
+    document->TakeOver({document->Station()->Data(), {}});
+    ASSERT_TRUE(QDir().mkdir(path));
+    EXPECT_THROW(document->KeepOwnContent(), FileError);
+    EXPECT_TRUE(document->IsModified());
+    EXPECT_EQ(document->FileChange(), FileChange::Unchanged) << "what cannot be read is not told twice either";
+}
+
+TEST_F(DocumentTest, ProposesNamesThatAFileCanHave)
+{
+    EXPECT_EQ(ProposedName(*document), path.chopped(QStringLiteral(".station.json").size()));
+    StationData unsaved = document->Station()->Data();
+    unsaved.name = "Hall 1/2: \"old\"";
+    EXPECT_EQ(QFileInfo(ProposedName(*MakeDocument(unsaved))).fileName(), QStringLiteral("Hall 1-2- -old-"));
 }
 
 TEST_F(DocumentTest, AJournalHoldsWhatADyingProgramHadNotSaved)

@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QDockWidget>
 #include <QDropEvent>
+#include <QFileDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -57,7 +59,7 @@ protected:
     void Answer(const char* button) const
     {
         auto* timer = new QTimer(window.get());
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, text = QString::fromLatin1(button)] {
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, text = QString::fromUtf8(button)] {
             const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
             for (auto* candidate : box->buttons()) {
@@ -235,6 +237,50 @@ TEST_F(MainWindowTest, AskedBeforeAFileThatCameBackIsOverwritten)
     Answer("Cancel");
     EXPECT_FALSE(window->Files().Save());
     EXPECT_EQ(ReadWhole(path), foreign);
+}
+
+TEST_F(MainWindowTest, SavingElsewhereWhileClosingCloses)
+{
+    const QString path = Path("shared.station.json");
+    const QString copy = Path("copy.station.json");
+    WriteFile(path, ReadWhole(QString::fromLatin1(testing::Waterworks)));
+    ASSERT_TRUE(window->Files().OpenFile(path));
+    Action("Delete")->trigger();
+    WriteFile(path, ReadWhole(QStringLiteral(":/examples/packaging-line.station.json")));
+    Answer("Save");
+    Answer("Save as…");
+    auto* timer = new QTimer(window.get());
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, copy] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        timer->stop();
+        dialog->selectFile(copy);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    timer->start(1);
+    EXPECT_TRUE(window->Files().Close());
+    EXPECT_TRUE(QFile::exists(copy));
+    EXPECT_FALSE(window->Files().Current());
+}
+
+TEST_F(MainWindowTest, ClosesItsMenuBeforeItself)
+{
+    Open();
+    auto* overview = window->findChild<QWidget*>(QStringLiteral("rackOverview"));
+    QCoreApplication::processEvents();
+    bool wasOpen = false;
+    QTimer::singleShot(100, window.get(), [&] {
+        wasOpen = QApplication::activePopupWidget() != nullptr;
+        window->close();
+    });
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Menu, Qt::NoModifier);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Menu, Qt::NoModifier);
+    QWidget* keys = overview->focusProxy() ? overview->focusProxy() : overview;
+    QCoreApplication::sendEvent(keys, &press);
+    QCoreApplication::sendEvent(keys, &release);
+    EXPECT_TRUE(wasOpen);
+    for (int turn = 0; turn < 10; ++turn) QCoreApplication::processEvents();
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(MainWindowTest, WhatIsUnsavedStaysInTheJournalUntilTheStationIsLeft)

@@ -125,6 +125,18 @@ TEST_F(StationViewTest, TheListExtendsASelectionFromTheSharedPlace)
     EXPECT_EQ(Shown().selection.size(), 2U);
 }
 
+TEST_F(StationViewTest, TheListHasItsMenuOnTheKeyboard)
+{
+    int asked = 0;
+    QObject::connect(view.get(), &StationView::menuRequested, [&] { ++asked; });
+    QKeyEvent plain(QEvent::KeyPress, Qt::Key_F10, Qt::NoModifier);
+    QKeyEvent withShift(QEvent::KeyPress, Qt::Key_F10, Qt::ShiftModifier);
+    QCoreApplication::sendEvent(&Table(), &plain);
+    EXPECT_EQ(asked, 0);
+    QCoreApplication::sendEvent(&Table(), &withShift);
+    EXPECT_EQ(asked, 1);
+}
+
 TEST_F(StationViewTest, PositionsAreToldForPeople)
 {
     const auto text = [&](std::int32_t lPosition) {

@@ -2,7 +2,7 @@
 #include "reference/model/rules/CheckStation.h"
 #include "tests/unit/reference/model/SampleModel.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -113,6 +113,17 @@ TEST(SetAttribute, LetsABrokenModuleBeMendedStepByStep)
     EXPECT_EQ(station.Set({0, 11}, "PARAMETER delay", "5"), Done);
     EXPECT_EQ(station.Set({0, 11}, "I-ADDRESS", "60"), Done);
     EXPECT_EQ(station.Set({0, 11}, "PARAMETER delay", "77"), Rule::ValueNotAllowed);
+}
+
+TEST(CheckStation, AnOverlapNamesTheModuleThatReachesThere)
+{
+    PlainStation station(EmptyStation(0, 1));
+    station.PutUnchecked({0, 4}, *NewModuleData("CNT3"));
+    for (const std::int32_t place : {5, 6}) station.PutUnchecked({0, place}, *NewModuleData("DI"));
+    std::vector<std::string> overlaps;
+    for (const Refusal& broken : CheckStation(station.Data(), *SampleCatalogue()))
+        if (broken.rule == Rule::PlaceOccupied) overlaps.push_back(broken.text.en);
+    EXPECT_THAT(overlaps, ::testing::AllOf(::testing::SizeIs(2), ::testing::Each(::testing::HasSubstr("place 4"))));
 }
 
 TEST(CheckStation, FindsEveryBrokenRuleWithItsPlace)
