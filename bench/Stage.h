@@ -1,14 +1,14 @@
 #pragma once
 
-#include "adapters/qt/RackOverviewWidget.h"
 #include "app/host/AppServices.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "managers/VxHWConfigManager.h"
-#include "reference/files/StationReader.h"
-#include "reference/model/contract/Station.h"
-#include "reference/services/QuietView.h"
-#include "selection/VxHWSelectionHandler.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
+#include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
+#include "zqbchwcx/reference/services/QuietView.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QSettings>
 #include <QTemporaryDir>

@@ -1,13 +1,13 @@
 // How long the overview of a full four-rack station takes to draw, against a bare loop that puts the same pictures and
 // numbers into a picture of the same size. Ends with the ratios; fails when a limit is exceeded.
 
-#include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/UiFont.h"
 #include "bench/Ratios.h"
 #include "bench/Stage.h"
-#include "foundation/PlacePosition.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/qt/PictureCatalog.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <QApplication>
 #include <QPainter>

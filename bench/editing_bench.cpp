@@ -3,16 +3,16 @@
 
 #include "bench/Ratios.h"
 #include "bench/Stage.h"
-#include "foundation/ConfigTextCodec.h"
-#include "foundation/ServiceRoot.h"
-#include "foundation/mdl_VarConst.h"
-#include "foundation/model/VxHWModelFactory.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "platform/Desktop.h"
-#include "platform/Input.h"
-#include "reference/files/StationWriter.h"
-#include "reference/history/History.h"
+#include "zqbchwcx/foundation/ConfigTextCodec.h"
+#include "zqbchwcx/foundation/ServiceRoot.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
+#include "zqbchwcx/foundation/model/VxHWModelFactory.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/platform/Desktop.h"
+#include "zqbchwcx/platform/Input.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
+#include "zqbchwcx/reference/history/History.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

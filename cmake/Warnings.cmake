@@ -1,6 +1,8 @@
 add_library(quillon_options INTERFACE)
 target_compile_features(quillon_options INTERFACE cxx_std_20)
-target_compile_options(quillon_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+if(PROJECT_IS_TOP_LEVEL)
+  target_compile_options(quillon_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+endif()
 # GCC 12 takes some concatenations of strings in optimised code for overlapping copies, which they are not.
 target_compile_options(quillon_options INTERFACE
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>,$<CONFIG:Release,RelWithDebInfo>>:-Wno-restrict>)

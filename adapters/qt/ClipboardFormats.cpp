@@ -1,6 +1,6 @@
-#include "adapters/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
 
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 #include <QStringList>
 

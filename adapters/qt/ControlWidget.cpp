@@ -1,10 +1,10 @@
-#include "adapters/qt/ControlWidget.h"
+#include "zqbchwcx/qt/ControlWidget.h"
 
-#include "adapters/qt/InputTranslation.h"
-#include "adapters/qt/PictureBoxWidget.h"
-#include "adapters/qt/ShapeWidget.h"
-#include "adapters/qt/SystemColors.h"
-#include "adapters/qt/UiFont.h"
+#include "zqbchwcx/qt/InputTranslation.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
+#include "zqbchwcx/qt/ShapeWidget.h"
+#include "zqbchwcx/qt/SystemColors.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <QKeyEvent>
 #include <QPainter>

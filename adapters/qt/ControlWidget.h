@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/DropTarget.h"
-#include "platform/UserControl.h"
+#include "zqbchwcx/platform/UserControl.h"
+#include "zqbchwcx/qt/DropTarget.h"
 
 #include <QColor>
 #include <QFont>

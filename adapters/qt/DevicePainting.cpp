@@ -1,4 +1,4 @@
-#include "adapters/qt/DevicePainting.h"
+#include "zqbchwcx/qt/DevicePainting.h"
 
 #include <QPainter>
 #include <QTransform>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/qt/PixelGrid.h"
+#include "zqbchwcx/qt/PixelGrid.h"
 
 class QPainter;
 

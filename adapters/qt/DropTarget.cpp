@@ -1,7 +1,7 @@
-#include "adapters/qt/DropTarget.h"
+#include "zqbchwcx/qt/DropTarget.h"
 
-#include "adapters/qt/InputTranslation.h"
-#include "adapters/qt/MimeDataObject.h"
+#include "zqbchwcx/qt/InputTranslation.h"
+#include "zqbchwcx/qt/MimeDataObject.h"
 
 #include <QDragEnterEvent>
 #include <QDragLeaveEvent>

@@ -1,7 +1,7 @@
-#include "adapters/qt/ImageFile.h"
+#include "zqbchwcx/qt/ImageFile.h"
 
-#include "adapters/qt/RasterSource.h"
-#include "adapters/qt/SvgSource.h"
+#include "zqbchwcx/qt/RasterSource.h"
+#include "zqbchwcx/qt/SvgSource.h"
 
 #include <QDir>
 #include <QFileInfo>

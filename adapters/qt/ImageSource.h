@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Geometry.h"
+#include "zqbchwcx/platform/Geometry.h"
 
 #include <QImage>
 #include <QRectF>

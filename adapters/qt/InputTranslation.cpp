@@ -1,4 +1,4 @@
-#include "adapters/qt/InputTranslation.h"
+#include "zqbchwcx/qt/InputTranslation.h"
 
 #include <algorithm>
 #include <array>

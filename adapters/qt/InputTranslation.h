@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Input.h"
+#include "zqbchwcx/platform/Input.h"
 
 #include <QPointF>
 #include <Qt>

@@ -1,8 +1,8 @@
-#include "adapters/qt/MimeDataObject.h"
+#include "zqbchwcx/qt/MimeDataObject.h"
 
-#include "adapters/qt/ClipboardFormats.h"
-#include "adapters/qt/SourceDataObject.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/SourceDataObject.h"
 
 namespace zqbchwcx::qt {
 

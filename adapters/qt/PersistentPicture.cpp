@@ -1,9 +1,9 @@
-#include "adapters/qt/PersistentPicture.h"
+#include "zqbchwcx/qt/PersistentPicture.h"
 
-#include "adapters/qt/QtImage.h"
-#include "adapters/qt/QtImageList.h"
-#include "adapters/qt/SystemColors.h"
-#include "adapters/qt/UiFont.h"
+#include "zqbchwcx/qt/QtImage.h"
+#include "zqbchwcx/qt/QtImageList.h"
+#include "zqbchwcx/qt/SystemColors.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "adapters/qt/PixelGrid.h"
-#include "adapters/qt/TextCells.h"
-#include "platform/Surface.h"
+#include "zqbchwcx/platform/Surface.h"
+#include "zqbchwcx/qt/PixelGrid.h"
+#include "zqbchwcx/qt/TextCells.h"
 
 #include <QColor>
 #include <QFont>

@@ -1,8 +1,8 @@
-#include "adapters/qt/PictureBoxWidget.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
 
-#include "adapters/qt/DevicePainting.h"
-#include "adapters/qt/InputTranslation.h"
-#include "adapters/qt/SourceDataObject.h"
+#include "zqbchwcx/qt/DevicePainting.h"
+#include "zqbchwcx/qt/InputTranslation.h"
+#include "zqbchwcx/qt/SourceDataObject.h"
 
 #include <QDrag>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "adapters/qt/DropTarget.h"
-#include "adapters/qt/PersistentPicture.h"
-#include "platform/PictureBox.h"
+#include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/qt/DropTarget.h"
+#include "zqbchwcx/qt/PersistentPicture.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
-#include "adapters/qt/PictureCatalog.h"
+#include "zqbchwcx/qt/PictureCatalog.h"
 
-#include "adapters/qt/QtImageList.h"
-#include "adapters/qt/SvgSource.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/QtImageList.h"
+#include "zqbchwcx/qt/SvgSource.h"
 
 #include <QFile>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "adapters/qt/QtClipboard.h"
+#include "zqbchwcx/qt/QtClipboard.h"
 
-#include "adapters/qt/ClipboardFormats.h"
-#include "adapters/qt/SourceDataObject.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/SourceDataObject.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/DataObject.h"
+#include "zqbchwcx/platform/DataObject.h"
 
 #include <cstdint>
 #include <vector>

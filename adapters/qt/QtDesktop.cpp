@@ -1,7 +1,7 @@
-#include "adapters/qt/QtDesktop.h"
+#include "zqbchwcx/qt/QtDesktop.h"
 
-#include "adapters/qt/ClipboardFormats.h"
-#include "adapters/qt/SystemColors.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/SystemColors.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Desktop.h"
+#include "zqbchwcx/platform/Desktop.h"
 
 namespace zqbchwcx::qt {
 

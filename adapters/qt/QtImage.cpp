@@ -1,4 +1,4 @@
-#include "adapters/qt/QtImage.h"
+#include "zqbchwcx/qt/QtImage.h"
 
 #include <QPainter>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "adapters/qt/ImageSource.h"
-#include "adapters/qt/PixelGrid.h"
-#include "platform/ImageList.h"
-#include "platform/Surface.h"
+#include "zqbchwcx/platform/ImageList.h"
+#include "zqbchwcx/platform/Surface.h"
+#include "zqbchwcx/qt/ImageSource.h"
+#include "zqbchwcx/qt/PixelGrid.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,7 +1,7 @@
-#include "adapters/qt/QtImageList.h"
+#include "zqbchwcx/qt/QtImageList.h"
 
-#include "adapters/qt/ImageFile.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/ImageFile.h"
 
 #include <utility>
 

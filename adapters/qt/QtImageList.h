@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/qt/QtImage.h"
+#include "zqbchwcx/qt/QtImage.h"
 
 #include <map>
 #include <string>

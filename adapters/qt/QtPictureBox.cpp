@@ -1,6 +1,6 @@
-#include "adapters/qt/QtPictureBox.h"
+#include "zqbchwcx/qt/QtPictureBox.h"
 
-#include "adapters/qt/WindowHandle.h"
+#include "zqbchwcx/qt/WindowHandle.h"
 
 namespace zqbchwcx::qt {
 

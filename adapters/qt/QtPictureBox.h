@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/PictureBoxWidget.h"
-#include "platform/PictureBox.h"
+#include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
 
 #include <QPointer>
 

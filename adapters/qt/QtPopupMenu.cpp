@@ -1,6 +1,6 @@
-#include "adapters/qt/QtPopupMenu.h"
+#include "zqbchwcx/qt/QtPopupMenu.h"
 
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 #include <QCursor>
 #include <QString>

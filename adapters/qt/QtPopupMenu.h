@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PopupMenu.h"
+#include "zqbchwcx/platform/PopupMenu.h"
 
 #include <QMenu>
 #include <QPointer>

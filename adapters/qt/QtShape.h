@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/ShapeWidget.h"
-#include "platform/Shape.h"
+#include "zqbchwcx/platform/Shape.h"
+#include "zqbchwcx/qt/ShapeWidget.h"
 
 #include <QPointer>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/ControlWidget.h"
-#include "platform/SysInfo.h"
+#include "zqbchwcx/platform/SysInfo.h"
+#include "zqbchwcx/qt/ControlWidget.h"
 
 #include <QObject>
 

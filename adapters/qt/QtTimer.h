@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Timer.h"
+#include "zqbchwcx/platform/Timer.h"
 
 #include <QTimer>
 

@@ -1,14 +1,14 @@
-#include "adapters/qt/QtToolkit.h"
+#include "zqbchwcx/qt/QtToolkit.h"
 
-#include "adapters/qt/ControlWidget.h"
-#include "adapters/qt/QtPictureBox.h"
-#include "adapters/qt/QtPopupMenu.h"
-#include "adapters/qt/QtShape.h"
-#include "adapters/qt/QtSysInfo.h"
-#include "adapters/qt/QtTimer.h"
-#include "adapters/qt/QtUserControl.h"
-#include "adapters/qt/ShapeWidget.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/QtPictureBox.h"
+#include "zqbchwcx/qt/QtPopupMenu.h"
+#include "zqbchwcx/qt/QtShape.h"
+#include "zqbchwcx/qt/QtSysInfo.h"
+#include "zqbchwcx/qt/QtTimer.h"
+#include "zqbchwcx/qt/QtUserControl.h"
+#include "zqbchwcx/qt/ShapeWidget.h"
 
 namespace zqbchwcx::qt {
 namespace {

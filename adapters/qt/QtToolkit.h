@@ -1,9 +1,9 @@
 #pragma once
 
-#include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/QtDesktop.h"
-#include "adapters/qt/QtTooltips.h"
-#include "platform/Toolkit.h"
+#include "zqbchwcx/platform/Toolkit.h"
+#include "zqbchwcx/qt/PictureCatalog.h"
+#include "zqbchwcx/qt/QtDesktop.h"
+#include "zqbchwcx/qt/QtTooltips.h"
 
 namespace zqbchwcx::qt {
 

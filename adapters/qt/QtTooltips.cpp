@@ -1,7 +1,7 @@
-#include "adapters/qt/QtTooltips.h"
+#include "zqbchwcx/qt/QtTooltips.h"
 
-#include "adapters/qt/WindowHandle.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/WindowHandle.h"
 
 #include <QHelpEvent>
 #include <QPointer>

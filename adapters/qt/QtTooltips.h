@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Tooltips.h"
+#include "zqbchwcx/platform/Tooltips.h"
 
 namespace zqbchwcx::qt {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "adapters/qt/ControlWidget.h"
-#include "adapters/qt/UiFont.h"
-#include "adapters/qt/WindowHandle.h"
-#include "platform/UserControl.h"
+#include "zqbchwcx/platform/UserControl.h"
+#include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/UiFont.h"
+#include "zqbchwcx/qt/WindowHandle.h"
 
 #include <QPointer>
 

@@ -1,8 +1,8 @@
-#include "adapters/qt/RackOverviewWidget.h"
+#include "zqbchwcx/qt/RackOverviewWidget.h"
 
-#include "adapters/qt/ControlWidget.h"
-#include "adapters/qt/QtUserControl.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/QtUserControl.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QEvent>
 #include <QSignalBlocker>

@@ -1,4 +1,4 @@
-#include "adapters/qt/RasterSource.h"
+#include "zqbchwcx/qt/RasterSource.h"
 
 #include <QPainter>
 

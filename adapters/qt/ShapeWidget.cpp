@@ -1,8 +1,8 @@
-#include "adapters/qt/ShapeWidget.h"
+#include "zqbchwcx/qt/ShapeWidget.h"
 
-#include "adapters/qt/ControlWidget.h"
-#include "adapters/qt/DevicePainting.h"
-#include "adapters/qt/SystemColors.h"
+#include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/DevicePainting.h"
+#include "zqbchwcx/qt/SystemColors.h"
 
 #include <QPainter>
 

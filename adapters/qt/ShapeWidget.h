@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/PixelGrid.h"
-#include "platform/Color.h"
+#include "zqbchwcx/platform/Color.h"
+#include "zqbchwcx/qt/PixelGrid.h"
 
 #include <QWidget>
 

@@ -1,6 +1,6 @@
-#include "adapters/qt/SourceDataObject.h"
+#include "zqbchwcx/qt/SourceDataObject.h"
 
-#include "adapters/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
 
 #include <cstring>
 

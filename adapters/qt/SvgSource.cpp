@@ -1,4 +1,4 @@
-#include "adapters/qt/SvgSource.h"
+#include "zqbchwcx/qt/SvgSource.h"
 
 #include <QPainter>
 #include <QSvgRenderer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/qt/ImageSource.h"
+#include "zqbchwcx/qt/ImageSource.h"
 
 #include <QByteArray>
 

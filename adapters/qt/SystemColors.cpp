@@ -1,4 +1,4 @@
-#include "adapters/qt/SystemColors.h"
+#include "zqbchwcx/qt/SystemColors.h"
 
 #include <QGuiApplication>
 #include <QPalette>

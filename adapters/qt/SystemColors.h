@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Color.h"
+#include "zqbchwcx/platform/Color.h"
 
 #include <QColor>
 

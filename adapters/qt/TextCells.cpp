@@ -1,6 +1,6 @@
-#include "adapters/qt/TextCells.h"
+#include "zqbchwcx/qt/TextCells.h"
 
-#include "adapters/qt/UiFont.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <QFontMetrics>
 #include <QPainter>

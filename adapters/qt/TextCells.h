@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/PixelGrid.h"
-#include "platform/Surface.h"
+#include "zqbchwcx/platform/Surface.h"
+#include "zqbchwcx/qt/PixelGrid.h"
 
 #include <QColor>
 #include <QFont>

@@ -1,4 +1,4 @@
-#include "adapters/qt/UiFont.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <QFileInfo>
 #include <QFontDatabase>

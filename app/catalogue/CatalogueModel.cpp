@@ -1,8 +1,8 @@
 #include "app/catalogue/CatalogueModel.h"
 
-#include "adapters/qt/ClipboardFormats.h"
 #include "app/host/Strings.h"
-#include "foundation/mdl_VarConst.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
 
 #include <QMimeData>
 

@@ -4,7 +4,7 @@
 #include "app/catalogue/CatalogueTree.h"
 #include "app/catalogue/ModuleTypeCard.h"
 #include "app/host/SvgIcon.h"
-#include "foundation/model/Enumerations.h"
+#include "zqbchwcx/foundation/model/Enumerations.h"
 
 #include <QKeyEvent>
 #include <QLabel>

@@ -2,7 +2,7 @@
 
 #include "app/catalogue/CatalogueModel.h"
 #include "app/host/ModulePictures.h"
-#include "reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
 
 #include <QWidget>
 

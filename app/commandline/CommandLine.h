@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/commands/ModuleListText.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/commands/ModuleListText.h"
 
 #include <optional>
 #include <string>

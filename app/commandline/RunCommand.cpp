@@ -2,11 +2,11 @@
 
 #include "app/commandline/TellErrors.h"
 #include "app/host/ShippedData.h"
-#include "reference/commands/CheckReport.h"
-#include "reference/commands/Convert.h"
-#include "reference/files/AtomicWrite.h"
-#include "reference/files/StationReader.h"
-#include "reference/model/rules/CheckStation.h"
+#include "zqbchwcx/reference/commands/CheckReport.h"
+#include "zqbchwcx/reference/commands/Convert.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
 
 #include <QLocale>
 

@@ -5,9 +5,9 @@
 #include "app/export/ExportOverview.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
-#include "reference/files/StationReader.h"
-#include "reference/json/FileError.h"
-#include "reference/model/contract/Station.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
 
 #include <QSettings>
 

@@ -2,7 +2,7 @@
 
 #include "app/commandline/CommandLine.h"
 
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <exception>
 #include <ostream>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/dialogs/ValueInput.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/StationData.h"
-#include "reference/model/rules/AddressMap.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/StationData.h"
+#include "zqbchwcx/reference/model/rules/AddressMap.h"
 
 #include <QLocale>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "app/dialogs/NewStationDialog.h"
 
 #include "app/document/NewStation.h"
-#include "foundation/model/Enumerations.h"
+#include "zqbchwcx/foundation/model/Enumerations.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/dialogs/ModuleForm.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <QDialog>
 #include <QPixmap>

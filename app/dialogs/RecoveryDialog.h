@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/files/Recovery.h"
+#include "zqbchwcx/reference/files/Recovery.h"
 
 #include <QDialog>
 

@@ -1,7 +1,7 @@
 #include "app/document/AutoSave.h"
 
 #include "app/document/Document.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QTimer>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/files/Journal.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/files/Journal.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QObject>
 #include <QString>

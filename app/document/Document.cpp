@@ -1,9 +1,9 @@
 #include "app/document/Document.h"
 
 #include "app/host/Strings.h"
-#include "reference/files/AtomicWrite.h"
-#include "reference/files/StationWriter.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QFileInfo>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "reference/files/FileStamp.h"
-#include "reference/files/JournalEntry.h"
-#include "reference/files/StationReader.h"
-#include "reference/history/History.h"
-#include "reference/model/contract/Station.h"
+#include "zqbchwcx/reference/files/FileStamp.h"
+#include "zqbchwcx/reference/files/JournalEntry.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/history/History.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
 
 #include <QObject>
 

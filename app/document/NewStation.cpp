@@ -1,6 +1,6 @@
 #include "app/document/NewStation.h"
 
-#include "foundation/model/Enumerations.h"
+#include "zqbchwcx/foundation/model/Enumerations.h"
 
 namespace quillon_ed {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <cstdint>
 #include <string>

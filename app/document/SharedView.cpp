@@ -1,11 +1,11 @@
 #include "app/document/SharedView.h"
 
-#include "foundation/mdl_ErrorHandler.h"
-#include "foundation/mdl_Main.h"
-#include "foundation/model/VxHWRack.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "foundation/model/VxHWRacks.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
 
 namespace quillon_ed {
 

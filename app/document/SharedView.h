@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/model/VxHWStation.h"
-#include "reference/history/ViewState.h"
-#include "selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
+#include "zqbchwcx/reference/history/ViewState.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 namespace quillon_ed {
 

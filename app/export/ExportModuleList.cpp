@@ -2,8 +2,8 @@
 
 #include "app/export/WriteBytes.h"
 #include "app/host/Strings.h"
-#include "reference/commands/ModuleListText.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/commands/ModuleListText.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QFileInfo>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/export/PrintedTable.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <QString>
 

@@ -1,11 +1,11 @@
 #include "app/export/ExportOverview.h"
 
-#include "adapters/qt/RackOverviewWidget.h"
 #include "app/export/PaperOverview.h"
 #include "app/export/ShowStation.h"
 #include "app/export/WriteBytes.h"
-#include "reference/json/FileError.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QBuffer>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/export/StationPages.h"
-#include "foundation/model/Fwd.h"
+#include "zqbchwcx/foundation/model/Fwd.h"
 
 #include <QString>
 

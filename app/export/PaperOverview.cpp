@@ -3,8 +3,8 @@
 #include "app/export/PaperSite.h"
 #include "app/export/PaperToolkit.h"
 #include "app/export/ShowStation.h"
-#include "foundation/ServiceRoot.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/foundation/ServiceRoot.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 namespace quillon_ed {
 

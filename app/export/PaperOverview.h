@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/model/Fwd.h"
+#include "zqbchwcx/foundation/model/Fwd.h"
 
 #include <QSizeF>
 

@@ -1,9 +1,9 @@
 #include "app/export/PaperPicture.h"
 
-#include "adapters/qt/QtImage.h"
-#include "adapters/qt/QtImageList.h"
 #include "app/export/PaperColors.h"
 #include "app/export/PaperSite.h"
+#include "zqbchwcx/qt/QtImage.h"
+#include "zqbchwcx/qt/QtImageList.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

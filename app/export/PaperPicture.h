@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/export/PaperItem.h"
-#include "platform/PictureBox.h"
+#include "zqbchwcx/platform/PictureBox.h"
 
 #include <functional>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/export/PaperItem.h"
-#include "platform/Shape.h"
+#include "zqbchwcx/platform/Shape.h"
 
 #include <QColor>
 

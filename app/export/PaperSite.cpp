@@ -1,6 +1,6 @@
 #include "app/export/PaperSite.h"
 
-#include "adapters/qt/UiFont.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/export/PaperItem.h"
-#include "platform/UserControl.h"
+#include "zqbchwcx/platform/UserControl.h"
 
 #include <QFont>
 

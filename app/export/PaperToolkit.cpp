@@ -4,7 +4,7 @@
 #include "app/export/PaperPicture.h"
 #include "app/export/PaperShape.h"
 #include "app/export/PaperSite.h"
-#include "platform/Tooltips.h"
+#include "zqbchwcx/platform/Tooltips.h"
 
 namespace quillon_ed {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Toolkit.h"
+#include "zqbchwcx/platform/Toolkit.h"
 
 #include <memory>
 

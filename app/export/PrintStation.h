@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/export/StationPages.h"
-#include "reference/model/contract/Station.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
 
 class QPrinter;
 

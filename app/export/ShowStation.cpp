@@ -1,8 +1,8 @@
 #include "app/export/ShowStation.h"
 
-#include "controllers/config/VxHWConfigROCtrlDD.h"
-#include "selection/VxHWSelectionHandler.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlDD.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 namespace quillon_ed {
 

@@ -1,7 +1,7 @@
 #include "app/export/WriteBytes.h"
 
-#include "reference/files/AtomicWrite.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QFile>
 

@@ -2,11 +2,11 @@
 
 #include "app/host/ModulePictures.h"
 #include "app/host/UiTranslation.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/contract/ModelContext.h"
-#include "reference/model/contract/StationServices.h"
-#include "reference/services/ErrorLog.h"
-#include "reference/services/Texts.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/contract/ModelContext.h"
+#include "zqbchwcx/reference/model/contract/StationServices.h"
+#include "zqbchwcx/reference/services/ErrorLog.h"
+#include "zqbchwcx/reference/services/Texts.h"
 
 #include <QObject>
 

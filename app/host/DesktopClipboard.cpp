@@ -1,7 +1,7 @@
 #include "app/host/DesktopClipboard.h"
 
-#include "adapters/qt/ClipboardFormats.h"
-#include "adapters/qt/QtClipboard.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/QtClipboard.h"
 
 namespace quillon_ed {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/model/contract/StationServices.h"
+#include "zqbchwcx/reference/model/contract/StationServices.h"
 
 namespace quillon_ed {
 

@@ -1,8 +1,8 @@
 #include "app/host/ModulePictures.h"
 
-#include "adapters/qt/ImageFile.h"
-#include "foundation/mdl_ErrorHandler.h"
-#include "foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/qt/ImageFile.h"
 
 #include <QPainter>
 

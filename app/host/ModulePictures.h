@@ -1,7 +1,7 @@
 #pragma once
 
-#include "adapters/qt/QtToolkit.h"
-#include "reference/catalogue/Catalogue.h"
+#include "zqbchwcx/qt/QtToolkit.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
 
 #include <QPixmap>
 

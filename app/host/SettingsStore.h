@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/services/KeyValueStore.h"
+#include "zqbchwcx/reference/services/KeyValueStore.h"
 
 class QSettings;
 

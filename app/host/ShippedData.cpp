@@ -1,7 +1,7 @@
 #include "app/host/ShippedData.h"
 
-#include "reference/catalogue/CatalogueReader.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/catalogue/CatalogueReader.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/services/TextTable.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/services/TextTable.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 #include "app/dialogs/ParameterDialog.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
-#include "reference/model/contract/Station.h"
-#include "reference/model/editing/EditModule.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
+#include "zqbchwcx/reference/model/editing/EditModule.h"
 
 namespace quillon_ed {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/model/PlaceRef.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <optional>
 

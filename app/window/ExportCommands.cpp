@@ -7,7 +7,7 @@
 #include "app/export/PrintStation.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QCoreApplication>
 #include <QDir>

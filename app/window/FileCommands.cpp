@@ -6,8 +6,8 @@
 #include "app/document/ProposedName.h"
 #include "app/host/ShippedData.h"
 #include "app/host/Strings.h"
-#include "reference/files/StationReader.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <QApplication>
 #include <QDir>

@@ -4,7 +4,7 @@
 #include "app/document/Document.h"
 #include "app/document/RecentFiles.h"
 #include "app/host/AppServices.h"
-#include "reference/files/Recovery.h"
+#include "zqbchwcx/reference/files/Recovery.h"
 
 #include <QObject>
 

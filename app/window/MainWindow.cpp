@@ -16,13 +16,13 @@
 #include "app/window/StartPage.h"
 #include "app/window/StationView.h"
 #include "app/window/StatusLine.h"
-#include "foundation/mdl_ErrorHandler.h"
-#include "foundation/mdl_Main.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "foundation/model/VxHWRacks.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
 
 #include <QApplication>
 #include <QClipboard>

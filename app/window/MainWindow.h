@@ -4,7 +4,7 @@
 #include "app/window/FileCommands.h"
 #include "app/window/PaintedFrame.h"
 #include "app/window/WindowActions.h"
-#include "foundation/model/Fwd.h"
+#include "zqbchwcx/foundation/model/Fwd.h"
 
 class QDockWidget;
 class QStackedWidget;

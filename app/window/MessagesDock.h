@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/services/ErrorLog.h"
+#include "zqbchwcx/reference/services/ErrorLog.h"
 
 #include <QDockWidget>
 

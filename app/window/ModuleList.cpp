@@ -3,9 +3,9 @@
 #include "app/document/SharedView.h"
 #include "app/window/ModuleListModel.h"
 #include "app/window/RangeTable.h"
-#include "foundation/mdl_ErrorHandler.h"
-#include "foundation/mdl_Main.h"
-#include "foundation/model/VxHWRacks.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
 
 #include <QGuiApplication>
 #include <QHeaderView>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/Event.h"
-#include "foundation/model/VxHWStation.h"
-#include "selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <QWidget>
 

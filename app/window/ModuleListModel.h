@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/model/VxHWStation.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
 
 #include <QAbstractTableModel>
 

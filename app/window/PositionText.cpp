@@ -1,12 +1,12 @@
 #include "app/window/PositionText.h"
 
 #include "app/host/Strings.h"
-#include "foundation/mdl_Main.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWRack.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "foundation/model/VxHWRacks.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
 
 #include <QCoreApplication>
 

@@ -1,12 +1,12 @@
 #include "app/window/StationView.h"
 
-#include "adapters/qt/RackOverviewWidget.h"
 #include "app/document/Document.h"
 #include "app/document/SharedView.h"
 #include "app/window/DistributedNote.h"
 #include "app/window/ModuleList.h"
-#include "reference/services/QuietView.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/reference/services/QuietView.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QHBoxLayout>
 

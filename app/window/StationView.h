@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/Event.h"
-#include "managers/VxHWConfigManager.h"
-#include "reference/history/ViewState.h"
-#include "selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
+#include "zqbchwcx/reference/history/ViewState.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <QWidget>
 

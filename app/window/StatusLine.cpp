@@ -3,8 +3,8 @@
 #include "app/document/Document.h"
 #include "app/window/PositionText.h"
 #include "app/window/StationView.h"
-#include "foundation/mdl_ErrorHandler.h"
-#include "foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 
 #include <QLabel>
 

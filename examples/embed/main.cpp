@@ -1,28 +1,29 @@
 // The smallest host: a window with the rack overview of a station, in configuration mode.
 //
-// Usage: embed STATION ASSETS   (ASSETS holds the folders catalogue/ and texts/)
+// Usage: embed STATION ASSETS [PICTURE]
+//   ASSETS holds the folders catalogue/ and texts/; with PICTURE the window is written to that file, and not shown.
 //
 // A host with a hardware model of its own leaves reference/ out and gives the library its own station and services.
 
-#include "adapters/qt/ClipboardFormats.h"
-#include "adapters/qt/QtToolkit.h"
-#include "adapters/qt/RackOverviewWidget.h"
-#include "foundation/ServiceRoot.h"
-#include "managers/VxHWConfigManager.h"
-#include "reference/catalogue/CatalogueReader.h"
-#include "reference/files/StationReader.h"
-#include "reference/model/contract/ModelFactory.h"
-#include "reference/model/contract/Station.h"
-#include "reference/model/contract/TypeExchange.h"
-#include "reference/services/ErrorLog.h"
-#include "reference/services/HostObjects.h"
-#include "reference/services/LiveInstances.h"
-#include "reference/services/MemoryStore.h"
-#include "reference/services/PictureProvider.h"
-#include "reference/services/QuietView.h"
-#include "reference/services/Settings.h"
-#include "reference/services/Texts.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/foundation/ServiceRoot.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/QtToolkit.h"
+#include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/reference/catalogue/CatalogueReader.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/model/contract/ModelFactory.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
+#include "zqbchwcx/reference/model/contract/TypeExchange.h"
+#include "zqbchwcx/reference/services/ErrorLog.h"
+#include "zqbchwcx/reference/services/HostObjects.h"
+#include "zqbchwcx/reference/services/LiveInstances.h"
+#include "zqbchwcx/reference/services/MemoryStore.h"
+#include "zqbchwcx/reference/services/PictureProvider.h"
+#include "zqbchwcx/reference/services/QuietView.h"
+#include "zqbchwcx/reference/services/Settings.h"
+#include "zqbchwcx/reference/services/Texts.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -67,7 +68,7 @@ void InstallServices(const reference::ModelContextPtr& context, const std::strin
     G_InstallServiceRoot([root] { return root; });
 }
 
-int Show(const std::string& fileName, const std::string& assets)
+int Show(const std::string& fileName, const std::string& assets, const QString& picture)
 {
     auto context = std::make_shared<reference::ModelContext>();
     context->catalogue =
@@ -88,8 +89,14 @@ int Show(const std::string& fileName, const std::string& assets)
     manager.Initialize(vxStationTypeCentral, overview->Control(), std::make_shared<reference::QuietView>(), station);
     overview->Control()->Refresh();
 
-    window.show();
-    const int result = QApplication::exec();
+    int result = 0;
+    if (picture.isEmpty()) {
+        window.show();
+        result = QApplication::exec();
+    } else if (!window.grab().save(picture)) {
+        std::fprintf(stderr, "embed: %s cannot be written\n", qPrintable(picture));
+        result = 1;
+    }
     manager.Terminate();
     return result;
 }
@@ -99,12 +106,12 @@ int Show(const std::string& fileName, const std::string& assets)
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    if (argc != 3) {
-        std::fputs("Usage: embed STATION ASSETS\n", stderr);
+    if (argc != 3 && argc != 4) {
+        std::fputs("Usage: embed STATION ASSETS [PICTURE]\n", stderr);
         return 2;
     }
     try {
-        return Show(argv[1], argv[2]);
+        return Show(argv[1], argv[2], argc == 4 ? QString::fromLocal8Bit(argv[3]) : QString());
     } catch (const std::exception& error) {
         std::fprintf(stderr, "embed: %s\n", error.what());
         return 1;

@@ -1,4 +1,4 @@
-#include "reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
 
 #include <utility>
 

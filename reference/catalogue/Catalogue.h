@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/catalogue/LocalizedText.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/catalogue/LocalizedText.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <cstdint>
 #include <string>

@@ -1,10 +1,10 @@
-#include "reference/catalogue/CatalogueReader.h"
+#include "zqbchwcx/reference/catalogue/CatalogueReader.h"
 
-#include "reference/catalogue/ParameterReader.h"
-#include "reference/files/FileSystem.h"
-#include "reference/json/FileError.h"
-#include "reference/json/JsonCursor.h"
-#include "reference/json/StationNames.h"
+#include "zqbchwcx/reference/catalogue/ParameterReader.h"
+#include "zqbchwcx/reference/files/FileSystem.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/json/StationNames.h"
 
 #include <array>
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/json/JsonDocument.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/json/JsonDocument.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "reference/catalogue/ParameterReader.h"
+#include "zqbchwcx/reference/catalogue/ParameterReader.h"
 
-#include "reference/json/ParameterJson.h"
+#include "zqbchwcx/reference/json/ParameterJson.h"
 
 #include <algorithm>
 #include <array>

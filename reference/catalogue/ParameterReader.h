@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,4 +1,4 @@
-#include "reference/commands/CheckReport.h"
+#include "zqbchwcx/reference/commands/CheckReport.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/rules/Refusal.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 
 #include <string>
 #include <string_view>

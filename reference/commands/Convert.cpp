@@ -1,10 +1,10 @@
-#include "reference/commands/Convert.h"
+#include "zqbchwcx/reference/commands/Convert.h"
 
-#include "reference/commands/ModuleListText.h"
-#include "reference/files/AtomicWrite.h"
-#include "reference/files/StationReader.h"
-#include "reference/files/StationWriter.h"
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/commands/ModuleListText.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
-#include "reference/commands/ModuleList.h"
+#include "zqbchwcx/reference/commands/ModuleList.h"
 
-#include "reference/model/editing/ModuleAttributes.h"
+#include "zqbchwcx/reference/model/editing/ModuleAttributes.h"
 
 namespace zqbchwcx::reference {
 namespace {

@@ -1,4 +1,4 @@
-#include "reference/commands/ModuleListText.h"
+#include "zqbchwcx/reference/commands/ModuleListText.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/commands/ModuleList.h"
+#include "zqbchwcx/reference/commands/ModuleList.h"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,6 @@
-#include "reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
 
-#include "reference/files/SystemFailure.h"
+#include "zqbchwcx/reference/files/SystemFailure.h"
 
 #include <system_error>
 

@@ -1,6 +1,6 @@
-#include "reference/files/FileStamp.h"
+#include "zqbchwcx/reference/files/FileStamp.h"
 
-#include "reference/files/SystemFailure.h"
+#include "zqbchwcx/reference/files/SystemFailure.h"
 
 #include <system_error>
 

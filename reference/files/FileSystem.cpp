@@ -1,6 +1,6 @@
-#include "reference/files/FileSystem.h"
+#include "zqbchwcx/reference/files/FileSystem.h"
 
-#include "reference/files/SystemFailure.h"
+#include "zqbchwcx/reference/files/SystemFailure.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "reference/files/Journal.h"
+#include "zqbchwcx/reference/files/Journal.h"
 
-#include "reference/files/AtomicWrite.h"
-#include "reference/files/JournalName.h"
-#include "reference/files/StationWriter.h"
-#include "reference/files/SystemFailure.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/JournalName.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
+#include "zqbchwcx/reference/files/SystemFailure.h"
 
 #include <system_error>
 

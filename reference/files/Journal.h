@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/files/FileSystem.h"
-#include "reference/files/JournalEntry.h"
+#include "zqbchwcx/reference/files/FileSystem.h"
+#include "zqbchwcx/reference/files/JournalEntry.h"
 
 #include <memory>
 #include <string>

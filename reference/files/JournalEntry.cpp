@@ -1,7 +1,7 @@
-#include "reference/files/JournalEntry.h"
+#include "zqbchwcx/reference/files/JournalEntry.h"
 
-#include "reference/json/FileError.h"
-#include "reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
 
 #include <array>
 #include <charconv>

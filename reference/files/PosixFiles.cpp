@@ -1,4 +1,4 @@
-#include "reference/files/PosixFiles.h"
+#include "zqbchwcx/reference/files/PosixFiles.h"
 
 #include <algorithm>
 #include <cerrno>

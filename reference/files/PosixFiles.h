@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/files/FileSystem.h"
+#include "zqbchwcx/reference/files/FileSystem.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,8 +1,8 @@
-#include "reference/files/Recovery.h"
+#include "zqbchwcx/reference/files/Recovery.h"
 
-#include "reference/files/JournalName.h"
-#include "reference/files/StationReader.h"
-#include "reference/files/SystemFailure.h"
+#include "zqbchwcx/reference/files/JournalName.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/files/SystemFailure.h"
 
 #include <system_error>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/files/FileSystem.h"
-#include "reference/files/JournalEntry.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/files/FileSystem.h"
+#include "zqbchwcx/reference/files/JournalEntry.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,9 +1,9 @@
-#include "reference/files/StationReader.h"
+#include "zqbchwcx/reference/files/StationReader.h"
 
-#include "reference/json/FileError.h"
-#include "reference/json/JsonCursor.h"
-#include "reference/json/ModuleJson.h"
-#include "reference/json/StationNames.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/json/ModuleJson.h"
+#include "zqbchwcx/reference/json/StationNames.h"
 
 #include <memory>
 #include <optional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/files/FileStamp.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/files/FileStamp.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <string>
 #include <string_view>

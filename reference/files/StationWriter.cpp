@@ -1,11 +1,11 @@
-#include "reference/files/StationWriter.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
 
-#include "reference/files/AtomicWrite.h"
-#include "reference/files/StationReader.h"
-#include "reference/json/FileError.h"
-#include "reference/json/JsonPointer.h"
-#include "reference/json/ModuleJson.h"
-#include "reference/json/StationNames.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/JsonPointer.h"
+#include "zqbchwcx/reference/json/ModuleJson.h"
+#include "zqbchwcx/reference/json/StationNames.h"
 
 #include <algorithm>
 #include <cstddef>

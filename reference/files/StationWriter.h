@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/files/FileStamp.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/files/FileStamp.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <string>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "reference/files/SystemFailure.h"
+#include "zqbchwcx/reference/files/SystemFailure.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/json/FileError.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <string>
 #include <system_error>

@@ -1,6 +1,6 @@
-#include "reference/history/History.h"
+#include "zqbchwcx/reference/history/History.h"
 
-#include "foundation/Nothing.h"
+#include "zqbchwcx/foundation/Nothing.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/Event.h"
-#include "reference/history/ViewState.h"
-#include "reference/model/contract/Station.h"
-#include "reference/services/UserActions.h"
+#include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/reference/history/ViewState.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
+#include "zqbchwcx/reference/services/UserActions.h"
 
 #include <cstddef>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/catalogue/LocalizedText.h"
+#include "zqbchwcx/reference/catalogue/LocalizedText.h"
 
 #include <stdexcept>
 #include <string>

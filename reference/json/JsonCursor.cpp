@@ -1,7 +1,7 @@
-#include "reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
 
-#include "reference/json/FileError.h"
-#include "reference/json/JsonPointer.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/JsonPointer.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/json/JsonDocument.h"
-#include "reference/json/NamedValue.h"
+#include "zqbchwcx/reference/json/JsonDocument.h"
+#include "zqbchwcx/reference/json/NamedValue.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
-#include "reference/json/JsonDocument.h"
+#include "zqbchwcx/reference/json/JsonDocument.h"
 
-#include "reference/json/FileError.h"
-#include "reference/json/JsonPointer.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/JsonPointer.h"
 
 #include <utility>
 #include <vector>

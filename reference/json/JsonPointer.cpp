@@ -1,4 +1,4 @@
-#include "reference/json/JsonPointer.h"
+#include "zqbchwcx/reference/json/JsonPointer.h"
 
 namespace zqbchwcx::reference {
 namespace {

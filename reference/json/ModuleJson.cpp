@@ -1,6 +1,6 @@
-#include "reference/json/ModuleJson.h"
+#include "zqbchwcx/reference/json/ModuleJson.h"
 
-#include "reference/json/ParameterJson.h"
+#include "zqbchwcx/reference/json/ParameterJson.h"
 
 #include <algorithm>
 #include <utility>

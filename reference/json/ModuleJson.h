@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/json/JsonCursor.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,4 +1,4 @@
-#include "reference/json/ParameterJson.h"
+#include "zqbchwcx/reference/json/ParameterJson.h"
 
 #include <limits>
 

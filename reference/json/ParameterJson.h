@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/json/JsonCursor.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/json/NamedValue.h"
+#include "zqbchwcx/reference/json/NamedValue.h"
 
 #include <array>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/model/rules/Refusal.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 
 #include <utility>
 #include <variant>

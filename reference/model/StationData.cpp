@@ -1,4 +1,4 @@
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <algorithm>
 

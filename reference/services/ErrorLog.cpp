@@ -1,6 +1,6 @@
-#include "reference/services/ErrorLog.h"
+#include "zqbchwcx/reference/services/ErrorLog.h"
 
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 #include <utility>
 

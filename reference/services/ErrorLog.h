@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/Event.h"
-#include "platform/HostServices.h"
-#include "reference/services/UserActions.h"
+#include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/platform/HostServices.h"
+#include "zqbchwcx/reference/services/UserActions.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "reference/services/HostObjects.h"
+#include "zqbchwcx/reference/services/HostObjects.h"
 
-#include "foundation/mdl_VarConst.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
 
 #include <string_view>
 

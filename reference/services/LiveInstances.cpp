@@ -1,6 +1,6 @@
-#include "reference/services/LiveInstances.h"
+#include "zqbchwcx/reference/services/LiveInstances.h"
 
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ImageList.h"
+#include "zqbchwcx/platform/ImageList.h"
 
 #include <cstdint>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controllers/interfaces/IVxHWControl.h"
+#include "zqbchwcx/controllers/interfaces/IVxHWControl.h"
 
 namespace zqbchwcx::reference {
 

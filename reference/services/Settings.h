@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/HostServices.h"
-#include "reference/services/KeyValueStore.h"
+#include "zqbchwcx/platform/HostServices.h"
+#include "zqbchwcx/reference/services/KeyValueStore.h"
 
 #include <memory>
 #include <string>

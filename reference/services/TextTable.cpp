@@ -1,8 +1,8 @@
-#include "reference/services/TextTable.h"
+#include "zqbchwcx/reference/services/TextTable.h"
 
-#include "reference/files/FileSystem.h"
-#include "reference/json/JsonCursor.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/files/FileSystem.h"
+#include "zqbchwcx/reference/json/JsonCursor.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <charconv>
 

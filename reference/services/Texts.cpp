@@ -1,7 +1,7 @@
-#include "reference/services/Texts.h"
+#include "zqbchwcx/reference/services/Texts.h"
 
-#include "foundation/VxError.h"
-#include "foundation/mdl_VarConst.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
 
 #include <string>
 #include <utility>

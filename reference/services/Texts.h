@@ -1,10 +1,10 @@
 #pragma once
 
-#include "foundation/Event.h"
-#include "platform/HostServices.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/services/PictureProvider.h"
-#include "reference/services/TextTable.h"
+#include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/platform/HostServices.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/services/PictureProvider.h"
+#include "zqbchwcx/reference/services/TextTable.h"
 
 #include <cstdint>
 #include <memory>

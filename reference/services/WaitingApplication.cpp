@@ -1,4 +1,4 @@
-#include "reference/services/WaitingApplication.h"
+#include "zqbchwcx/reference/services/WaitingApplication.h"
 
 namespace zqbchwcx::reference {
 

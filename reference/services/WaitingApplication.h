@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/HostServices.h"
+#include "zqbchwcx/platform/HostServices.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,9 +1,9 @@
-#include "ModelContract.h"
+#include "zqbchwcx/contract/ModelContract.h"
 
-#include "reference/model/contract/ModelFactory.h"
-#include "reference/model/contract/TypeExchange.h"
 #include "tests/support/MemoryClipboard.h"
 #include "tests/unit/reference/model/SampleModel.h"
+#include "zqbchwcx/reference/model/contract/ModelFactory.h"
+#include "zqbchwcx/reference/model/contract/TypeExchange.h"
 
 namespace zqbchwcx::testing {
 namespace {

@@ -1,6 +1,6 @@
-#include "foundation/VxError.h"
-#include "reference/model/configtext/ConfigText.h"
 #include "tests/fuzz/FuzzInput.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/reference/model/configtext/ConfigText.h"
 
 using namespace zqbchwcx::reference;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/catalogue/CatalogueReader.h"
+#include "zqbchwcx/reference/catalogue/CatalogueReader.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "reference/files/JournalEntry.h"
-#include "reference/json/FileError.h"
 #include "tests/fuzz/FuzzInput.h"
+#include "zqbchwcx/reference/files/JournalEntry.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 using namespace zqbchwcx::reference;
 

@@ -1,8 +1,8 @@
-#include "reference/files/StationReader.h"
-#include "reference/files/StationWriter.h"
-#include "reference/json/FileError.h"
-#include "reference/model/rules/CheckStation.h"
 #include "tests/fuzz/FuzzInput.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
 
 using namespace zqbchwcx::reference;
 

@@ -1,6 +1,6 @@
-#include "platform/Input.h"
 #include "tests/property/Editor.h"
 #include "tests/support/Samples.h"
+#include "zqbchwcx/platform/Input.h"
 
 #include <gtest/gtest.h>
 

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "managers/VxHWConfigManager.h"
-#include "reference/files/StationWriter.h"
-#include "reference/history/History.h"
-#include "reference/model/rules/CheckStation.h"
-#include "selection/VxHWSelectionHandler.h"
 #include "tests/property/EditorHost.h"
 #include "tests/property/FaultyStation.h"
 #include "tests/support/Samples.h"
 #include "tests/support/services/TestServices.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
+#include "zqbchwcx/reference/history/History.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <optional>
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/PictureBox.h"
-#include "reference/model/contract/ModelFactory.h"
-#include "reference/model/contract/TypeExchange.h"
-#include "reference/services/UserActions.h"
 #include "tests/support/MemoryClipboard.h"
 #include "tests/support/services/FakeHost.h"
+#include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/reference/model/contract/ModelFactory.h"
+#include "zqbchwcx/reference/model/contract/TypeExchange.h"
+#include "zqbchwcx/reference/services/UserActions.h"
 
 namespace zqbchwcx::testing {
 

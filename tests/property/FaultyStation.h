@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/model/contract/Station.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
 
 #include <type_traits>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "platform/Input.h"
 #include "tests/property/Editor.h"
 #include "tests/support/Samples.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/platform/Input.h"
 
 #include <array>
 #include <numeric>

@@ -1,8 +1,8 @@
-#include "adapters/qt/ControlWidget.h"
-#include "adapters/qt/PictureBoxWidget.h"
-#include "adapters/qt/QtClipboard.h"
-#include "foundation/VxError.h"
 #include "tests/qt/EventRecorder.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
+#include "zqbchwcx/qt/QtClipboard.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>

@@ -1,7 +1,7 @@
-#include "adapters/qt/PersistentPicture.h"
-#include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/UiFont.h"
 #include "tests/qt/ReferencePicture.h"
+#include "zqbchwcx/qt/PersistentPicture.h"
+#include "zqbchwcx/qt/PictureCatalog.h"
+#include "zqbchwcx/qt/UiFont.h"
 
 #include <set>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "adapters/qt/ClipboardFormats.h"
-#include "adapters/qt/SourceDataObject.h"
-#include "platform/Input.h"
-#include "platform/PictureBox.h"
-#include "platform/UserControl.h"
+#include "zqbchwcx/platform/Input.h"
+#include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/platform/UserControl.h"
+#include "zqbchwcx/qt/ClipboardFormats.h"
+#include "zqbchwcx/qt/SourceDataObject.h"
 
 #include <functional>
 #include <string>

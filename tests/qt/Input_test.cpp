@@ -1,9 +1,9 @@
-#include "adapters/qt/ControlWidget.h"
-#include "adapters/qt/InputTranslation.h"
-#include "adapters/qt/PictureBoxWidget.h"
-#include "adapters/qt/QtToolkit.h"
-#include "adapters/qt/QtUserControl.h"
 #include "tests/qt/EventRecorder.h"
+#include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/InputTranslation.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
+#include "zqbchwcx/qt/QtToolkit.h"
+#include "zqbchwcx/qt/QtUserControl.h"
 
 #include <QApplication>
 #include <QHelpEvent>

@@ -1,8 +1,8 @@
-#include "adapters/qt/ControlWidget.h"
-#include "foundation/PlacePosition.h"
 #include "tests/qt/OverviewStage.h"
 #include "tests/qt/Palettes.h"
 #include "tests/qt/ReferencePicture.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/qt/ControlWidget.h"
 
 #include <random>
 

@@ -1,6 +1,6 @@
 #include "tests/qt/OverviewStage.h"
 
-#include "foundation/PlacePosition.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
 
 #include <array>
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "adapters/qt/PictureBoxWidget.h"
-#include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/QtToolkit.h"
-#include "adapters/qt/RackOverviewWidget.h"
-#include "managers/VxHWConfigManager.h"
-#include "selection/VxHWSelectionHandler.h"
 #include "tests/support/model/FakeStation.h"
 #include "tests/support/services/TestServices.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
+#include "zqbchwcx/qt/PictureCatalog.h"
+#include "zqbchwcx/qt/QtToolkit.h"
+#include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 namespace zqbchwcx::testing {
 

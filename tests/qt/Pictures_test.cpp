@@ -1,6 +1,6 @@
-#include "adapters/qt/PictureCatalog.h"
-#include "adapters/qt/QtImageList.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/PictureCatalog.h"
+#include "zqbchwcx/qt/QtImageList.h"
 
 #include <QDir>
 #include <QFile>

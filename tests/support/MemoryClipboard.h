@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/model/contract/StationServices.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/reference/model/contract/StationServices.h"
 
 namespace zqbchwcx::testing {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "reference/catalogue/CatalogueReader.h"
-#include "reference/files/StationReader.h"
-#include "reference/json/FileError.h"
 #include "tests/support/SourceFile.h"
+#include "zqbchwcx/reference/catalogue/CatalogueReader.h"
+#include "zqbchwcx/reference/files/StationReader.h"
+#include "zqbchwcx/reference/json/FileError.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/Input.h"
-#include "selection/VxHWSelectionHandler.h"
 #include "tests/support/controls/RecordingView.h"
 #include "tests/support/model/FakeStation.h"
 #include "tests/support/services/TestServices.h"
+#include "zqbchwcx/platform/Input.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <gmock/gmock.h>
 

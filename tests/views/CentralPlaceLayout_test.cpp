@@ -1,5 +1,5 @@
-#include "foundation/mdl_Main.h"
-#include "views/parts/CentralPlaceLayout.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 #include "tests/support/services/TestServices.h"
-#include "views/config/HWCArrow.h"
+#include "zqbchwcx/views/overview/HWCArrow.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
-#include "managers/VxHWConfigManager.h"
 #include "tests/views/OverviewFixture.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
 
 #include <sstream>
 

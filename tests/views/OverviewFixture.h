@@ -3,7 +3,7 @@
 #include "tests/support/StationStage.h"
 #include "tests/support/model/FakeModelServices.h"
 #include "tests/views/RecordingController.h"
-#include "views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 namespace zqbchwcx::testing {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controllers/interfaces/IVxHWDragDropController.h"
-#include "controllers/interfaces/IVxHWKeyInputController.h"
-#include "controllers/interfaces/IVxHWMouseInputController.h"
+#include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
+#include "zqbchwcx/controllers/interfaces/IVxHWKeyInputController.h"
+#include "zqbchwcx/controllers/interfaces/IVxHWMouseInputController.h"
 
 #include <functional>
 #include <string>

@@ -1,9 +1,9 @@
-#include "reference/model/configtext/ConfigText.h"
+#include "zqbchwcx/reference/model/configtext/ConfigText.h"
 
-#include "reference/json/FileError.h"
-#include "reference/json/ModuleJson.h"
-#include "reference/model/rules/ModuleRules.h"
-#include "reference/model/rules/Refusal.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/ModuleJson.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 
 #include <memory>
 #include <string>

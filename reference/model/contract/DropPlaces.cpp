@@ -1,6 +1,6 @@
-#include "reference/model/contract/DropPlaces.h"
+#include "zqbchwcx/reference/model/contract/DropPlaces.h"
 
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/Array2D.h"
-#include "reference/model/contract/StationState.h"
+#include "zqbchwcx/foundation/Array2D.h"
+#include "zqbchwcx/reference/model/contract/StationState.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
-#include "reference/model/contract/ModelFactory.h"
+#include "zqbchwcx/reference/model/contract/ModelFactory.h"
 
-#include "reference/model/contract/Module.h"
-#include "reference/model/contract/Modules.h"
-#include "reference/model/contract/RackPlaces.h"
+#include "zqbchwcx/reference/model/contract/Module.h"
+#include "zqbchwcx/reference/model/contract/Modules.h"
+#include "zqbchwcx/reference/model/contract/RackPlaces.h"
 
 #include <memory>
 #include <utility>

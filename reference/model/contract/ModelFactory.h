@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/model/VxHWModelFactory.h"
-#include "reference/model/contract/ModelContext.h"
+#include "zqbchwcx/foundation/model/VxHWModelFactory.h"
+#include "zqbchwcx/reference/model/contract/ModelContext.h"
 
 namespace zqbchwcx::reference {
 

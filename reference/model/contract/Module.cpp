@@ -1,9 +1,9 @@
-#include "reference/model/contract/Module.h"
+#include "zqbchwcx/reference/model/contract/Module.h"
 
-#include "foundation/Nothing.h"
-#include "reference/model/contract/Modules.h"
-#include "reference/model/editing/ModuleAttributes.h"
-#include "reference/model/rules/Occupancy.h"
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/reference/model/contract/Modules.h"
+#include "zqbchwcx/reference/model/editing/ModuleAttributes.h"
+#include "zqbchwcx/reference/model/rules/Occupancy.h"
 
 #include <algorithm>
 #include <utility>

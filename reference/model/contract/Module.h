@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/model/VxHWModule.h"
-#include "reference/model/PlaceRef.h"
-#include "reference/model/StationData.h"
-#include "reference/model/contract/ModelContext.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
+#include "zqbchwcx/reference/model/StationData.h"
+#include "zqbchwcx/reference/model/contract/ModelContext.h"
 
 #include <cstdint>
 #include <memory>

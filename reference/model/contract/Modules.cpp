@@ -1,8 +1,8 @@
-#include "reference/model/contract/Modules.h"
+#include "zqbchwcx/reference/model/contract/Modules.h"
 
-#include "foundation/VxError.h"
-#include "reference/model/configtext/ConfigText.h"
-#include "reference/model/contract/Module.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/reference/model/configtext/ConfigText.h"
+#include "zqbchwcx/reference/model/contract/Module.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/model/VxHWModules.h"
-#include "reference/model/contract/ModelContext.h"
-#include "reference/model/editing/Edit.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
+#include "zqbchwcx/reference/model/contract/ModelContext.h"
+#include "zqbchwcx/reference/model/editing/Edit.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
-#include "reference/model/contract/PlacesOfRack.h"
+#include "zqbchwcx/reference/model/contract/PlacesOfRack.h"
 
-#include "foundation/VxError.h"
-#include "reference/model/contract/RackPlace.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/reference/model/contract/RackPlace.h"
 
 #include <memory>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/model/VxHWRackPlaces.h"
-#include "reference/model/contract/StationState.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/reference/model/contract/StationState.h"
 
 namespace zqbchwcx::reference {
 

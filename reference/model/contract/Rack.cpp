@@ -1,6 +1,6 @@
-#include "reference/model/contract/Rack.h"
+#include "zqbchwcx/reference/model/contract/Rack.h"
 
-#include "reference/model/contract/PlacesOfRack.h"
+#include "zqbchwcx/reference/model/contract/PlacesOfRack.h"
 
 #include <utility>
 

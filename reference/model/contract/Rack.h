@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/model/VxHWRack.h"
-#include "reference/model/contract/StationState.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/reference/model/contract/StationState.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,9 +1,9 @@
-#include "reference/model/contract/RackPlace.h"
+#include "zqbchwcx/reference/model/contract/RackPlace.h"
 
-#include "foundation/Nothing.h"
-#include "foundation/model/VxHWRack.h"
-#include "reference/model/contract/Module.h"
-#include "reference/model/contract/Rack.h"
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/reference/model/contract/Module.h"
+#include "zqbchwcx/reference/model/contract/Rack.h"
 
 #include <memory>
 #include <string>

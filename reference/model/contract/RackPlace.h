@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/model/VxHWRackPlace.h"
-#include "reference/model/PlaceRef.h"
-#include "reference/model/contract/StationState.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
+#include "zqbchwcx/reference/model/contract/StationState.h"
 
 namespace zqbchwcx::reference {
 

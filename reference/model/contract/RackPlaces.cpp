@@ -1,7 +1,7 @@
-#include "reference/model/contract/RackPlaces.h"
+#include "zqbchwcx/reference/model/contract/RackPlaces.h"
 
-#include "foundation/Nothing.h"
-#include "foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 
 #include <string>
 #include <unordered_map>

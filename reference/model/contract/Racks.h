@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/model/VxHWRacks.h"
-#include "reference/model/contract/Rack.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
+#include "zqbchwcx/reference/model/contract/Rack.h"
 
 #include <memory>
 #include <utility>

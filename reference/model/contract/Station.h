@@ -1,11 +1,11 @@
 #pragma once
 
-#include "foundation/model/VxHWStation.h"
-#include "reference/model/Outcome.h"
-#include "reference/model/contract/EditKind.h"
-#include "reference/model/contract/StationServices.h"
-#include "reference/model/contract/StationState.h"
-#include "reference/model/editing/Edit.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
+#include "zqbchwcx/reference/model/Outcome.h"
+#include "zqbchwcx/reference/model/contract/EditKind.h"
+#include "zqbchwcx/reference/model/contract/StationServices.h"
+#include "zqbchwcx/reference/model/contract/StationState.h"
+#include "zqbchwcx/reference/model/editing/Edit.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/DataObject.h"
-#include "reference/model/PlaceRef.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/platform/DataObject.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <cstdint>
 #include <functional>

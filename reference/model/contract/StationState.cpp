@@ -1,7 +1,7 @@
-#include "reference/model/contract/StationState.h"
+#include "zqbchwcx/reference/model/contract/StationState.h"
 
-#include "foundation/VxError.h"
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <algorithm>
 #include <string>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "reference/model/PlaceRef.h"
-#include "reference/model/StationData.h"
-#include "reference/model/contract/ModelContext.h"
-#include "reference/model/editing/StationDraft.h"
-#include "reference/model/rules/AddressMap.h"
-#include "reference/model/rules/Occupancy.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
+#include "zqbchwcx/reference/model/StationData.h"
+#include "zqbchwcx/reference/model/contract/ModelContext.h"
+#include "zqbchwcx/reference/model/editing/StationDraft.h"
+#include "zqbchwcx/reference/model/rules/AddressMap.h"
+#include "zqbchwcx/reference/model/rules/Occupancy.h"
 
 #include <cstdint>
 #include <memory>

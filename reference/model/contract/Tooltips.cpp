@@ -1,7 +1,7 @@
-#include "reference/model/contract/Tooltips.h"
+#include "zqbchwcx/reference/model/contract/Tooltips.h"
 
-#include "foundation/model/Enumerations.h"
-#include "reference/model/editing/ModuleAttributes.h"
+#include "zqbchwcx/foundation/model/Enumerations.h"
+#include "zqbchwcx/reference/model/editing/ModuleAttributes.h"
 
 #include <string_view>
 

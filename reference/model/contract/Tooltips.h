@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/PlaceRef.h"
-#include "reference/model/StationData.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
+#include "zqbchwcx/reference/model/StationData.h"
 
 #include <string>
 

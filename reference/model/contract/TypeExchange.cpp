@@ -1,8 +1,8 @@
-#include "reference/model/contract/TypeExchange.h"
+#include "zqbchwcx/reference/model/contract/TypeExchange.h"
 
-#include "foundation/ConfigTextCodec.h"
-#include "foundation/Nothing.h"
-#include "reference/model/configtext/ConfigText.h"
+#include "zqbchwcx/foundation/ConfigTextCodec.h"
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/reference/model/configtext/ConfigText.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DataObject.h"
-#include "reference/model/contract/StationServices.h"
+#include "zqbchwcx/platform/DataObject.h"
+#include "zqbchwcx/reference/model/contract/StationServices.h"
 
 #include <cstdint>
 

@@ -1,6 +1,6 @@
-#include "reference/model/editing/AdoptModule.h"
+#include "zqbchwcx/reference/model/editing/AdoptModule.h"
 
-#include "reference/model/rules/ModuleRules.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
 
 #include <string>
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/model/Outcome.h"
-#include "reference/model/editing/StationDraft.h"
+#include "zqbchwcx/reference/model/Outcome.h"
+#include "zqbchwcx/reference/model/editing/StationDraft.h"
 
 namespace zqbchwcx::reference {
 

@@ -1,7 +1,7 @@
-#include "reference/model/editing/BlockLayout.h"
+#include "zqbchwcx/reference/model/editing/BlockLayout.h"
 
-#include "foundation/mdl_Main.h"
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
-#include "reference/model/editing/EditModule.h"
+#include "zqbchwcx/reference/model/editing/EditModule.h"
 
-#include "reference/model/editing/ModuleAttributes.h"
-#include "reference/model/rules/ModuleRules.h"
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/reference/model/editing/ModuleAttributes.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <algorithm>
 #include <charconv>

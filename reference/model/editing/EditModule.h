@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reference/model/Outcome.h"
-#include "reference/model/editing/Edit.h"
-#include "reference/model/editing/StationDraft.h"
+#include "zqbchwcx/reference/model/Outcome.h"
+#include "zqbchwcx/reference/model/editing/Edit.h"
+#include "zqbchwcx/reference/model/editing/StationDraft.h"
 
 #include <string_view>
 

@@ -1,4 +1,4 @@
-#include "reference/model/editing/ModuleAttributes.h"
+#include "zqbchwcx/reference/model/editing/ModuleAttributes.h"
 
 #include <algorithm>
 #include <array>

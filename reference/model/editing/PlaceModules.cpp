@@ -1,10 +1,10 @@
-#include "reference/model/editing/PlaceModules.h"
+#include "zqbchwcx/reference/model/editing/PlaceModules.h"
 
-#include "foundation/mdl_Main.h"
-#include "reference/model/editing/AdoptModule.h"
-#include "reference/model/editing/BlockLayout.h"
-#include "reference/model/rules/ModuleRules.h"
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/reference/model/editing/AdoptModule.h"
+#include "zqbchwcx/reference/model/editing/BlockLayout.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <algorithm>
 #include <set>

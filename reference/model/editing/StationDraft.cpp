@@ -1,6 +1,6 @@
-#include "reference/model/editing/StationDraft.h"
+#include "zqbchwcx/reference/model/editing/StationDraft.h"
 
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <utility>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/StationData.h"
-#include "reference/model/rules/AddressMap.h"
-#include "reference/model/rules/Occupancy.h"
-#include "reference/model/rules/Refusal.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/StationData.h"
+#include "zqbchwcx/reference/model/rules/AddressMap.h"
+#include "zqbchwcx/reference/model/rules/Occupancy.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 
 #include <map>
 #include <memory>

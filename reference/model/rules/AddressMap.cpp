@@ -1,4 +1,4 @@
-#include "reference/model/rules/AddressMap.h"
+#include "zqbchwcx/reference/model/rules/AddressMap.h"
 
 #include <algorithm>
 

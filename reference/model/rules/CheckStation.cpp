@@ -1,8 +1,8 @@
-#include "reference/model/rules/CheckStation.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
 
-#include "reference/model/rules/AddressMap.h"
-#include "reference/model/rules/ModuleRules.h"
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/reference/model/rules/AddressMap.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <algorithm>
 #include <iterator>

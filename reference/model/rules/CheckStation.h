@@ -1,8 +1,8 @@
 #pragma once
 
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/StationData.h"
-#include "reference/model/rules/Refusal.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/StationData.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
-#include "reference/model/rules/ModuleRules.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
 
-#include "foundation/ConfigTextCodec.h"
+#include "zqbchwcx/foundation/ConfigTextCodec.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "reference/model/rules/Occupancy.h"
+#include "zqbchwcx/reference/model/rules/Occupancy.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
-#include "foundation/model/Enumerations.h"
+#include "zqbchwcx/foundation/model/Enumerations.h"
 
 #include <string>
 

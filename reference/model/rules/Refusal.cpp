@@ -1,4 +1,4 @@
-#include "reference/model/rules/Refusal.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 
 #include <array>
 #include <string>

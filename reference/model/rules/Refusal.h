@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/VxError.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/PlaceRef.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/PlaceRef.h"
 
 #include <optional>
 #include <string_view>

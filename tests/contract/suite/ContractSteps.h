@@ -1,16 +1,16 @@
 #pragma once
 
-#include "ModelContract.h"
+#include "zqbchwcx/contract/ModelContract.h"
 
-#include "foundation/Event.h"
-#include "foundation/PlacePosition.h"
-#include "foundation/VxError.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRack.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "foundation/model/VxHWRacks.h"
+#include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ContractSteps.h"
+#include "zqbchwcx/contract/ContractSteps.h"
 
 #include <gtest/gtest.h>
 

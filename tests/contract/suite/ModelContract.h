@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/model/VxHWModelFactory.h"
-#include "foundation/model/VxHWStation.h"
+#include "zqbchwcx/foundation/model/VxHWModelFactory.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
 
 #include <cstdint>
 #include <functional>

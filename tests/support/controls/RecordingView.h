@@ -1,7 +1,7 @@
 #pragma once
 
-#include "reference/services/QuietView.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/reference/services/QuietView.h"
 
 namespace zqbchwcx::testing {
 

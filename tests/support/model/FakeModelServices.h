@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/model/Enumerations.h"
-#include "foundation/model/VxHWCompareService.h"
-#include "foundation/model/VxHWDiagService.h"
 #include "tests/support/model/FakeModelObjects.h"
+#include "zqbchwcx/foundation/model/Enumerations.h"
+#include "zqbchwcx/foundation/model/VxHWCompareService.h"
+#include "zqbchwcx/foundation/model/VxHWDiagService.h"
 
 #include <map>
 #include <set>

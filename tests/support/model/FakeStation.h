@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/mdl_Main.h"
-#include "foundation/model/VxHWStation.h"
-#include "platform/DataObject.h"
 #include "tests/support/model/FakeConfigText.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
+#include "zqbchwcx/platform/DataObject.h"
 
 namespace zqbchwcx::testing {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Timer.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/Timer.h"
 
 #include <algorithm>
 #include <functional>

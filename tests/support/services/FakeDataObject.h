@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/DataObject.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/DataObject.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Desktop.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/Desktop.h"
 
 #include <map>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "foundation/model/VxHWModelFactory.h"
-#include "platform/HostServices.h"
 #include "tests/support/model/FakeModelObjects.h"
 #include "tests/support/services/FakeDataObject.h"
+#include "zqbchwcx/foundation/model/VxHWModelFactory.h"
+#include "zqbchwcx/platform/HostServices.h"
 
 namespace zqbchwcx::testing {
 

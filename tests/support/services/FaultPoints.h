@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/VxError.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/ServiceRoot.h"
 #include "tests/support/services/FakeHost.h"
 #include "tests/support/toolkit/RecordingToolkit.h"
+#include "zqbchwcx/foundation/ServiceRoot.h"
 
 namespace zqbchwcx::testing {
 

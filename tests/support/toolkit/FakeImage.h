@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Geometry.h"
-#include "platform/ImageList.h"
+#include "zqbchwcx/platform/Geometry.h"
+#include "zqbchwcx/platform/ImageList.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Surface.h"
 #include "tests/support/toolkit/FakeImage.h"
+#include "zqbchwcx/platform/Surface.h"
 
 #include <cstdint>
 #include <string_view>

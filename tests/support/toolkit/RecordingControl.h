@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/UserControl.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/UserControl.h"
 
 namespace zqbchwcx::testing {
 

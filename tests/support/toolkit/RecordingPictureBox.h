@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/PictureBox.h"
 #include "tests/support/services/CallLog.h"
 #include "tests/support/toolkit/Raster.h"
 #include "tests/support/toolkit/RecordingImageList.h"
+#include "zqbchwcx/platform/PictureBox.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/PopupMenu.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/PopupMenu.h"
 
 namespace zqbchwcx::testing {
 

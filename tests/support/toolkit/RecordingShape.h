@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Shape.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/Shape.h"
 
 namespace zqbchwcx::testing {
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Toolkit.h"
 #include "tests/support/services/FakeClock.h"
 #include "tests/support/services/FakeDesktop.h"
 #include "tests/support/toolkit/RecordingControl.h"
@@ -9,6 +8,7 @@
 #include "tests/support/toolkit/RecordingPopupMenu.h"
 #include "tests/support/toolkit/RecordingShape.h"
 #include "tests/support/toolkit/RecordingTooltips.h"
+#include "zqbchwcx/platform/Toolkit.h"
 
 namespace zqbchwcx::testing {
 

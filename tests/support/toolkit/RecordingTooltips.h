@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Tooltips.h"
 #include "tests/support/services/CallLog.h"
+#include "zqbchwcx/platform/Tooltips.h"
 
 namespace zqbchwcx::testing {
 

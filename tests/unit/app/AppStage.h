@@ -3,7 +3,7 @@
 #include "app/document/Document.h"
 #include "app/host/AppServices.h"
 #include "app/host/ShippedData.h"
-#include "reference/files/StationReader.h"
+#include "zqbchwcx/reference/files/StationReader.h"
 
 #include <QFile>
 #include <QSettings>

@@ -7,8 +7,8 @@
 #include "app/catalogue/ModuleTypeCard.h"
 #include "app/host/SvgIcon.h"
 #include "app/window/ModuleInserter.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
 
 #include <QBitmap>
 #include <QDirIterator>

@@ -4,10 +4,10 @@
 #include "app/document/NewStation.h"
 #include "app/document/ProposedName.h"
 #include "app/document/RecentFiles.h"
-#include "reference/files/Recovery.h"
-#include "reference/json/FileError.h"
-#include "reference/model/rules/CheckStation.h"
 #include "tests/unit/reference/files/FaultyFiles.h"
+#include "zqbchwcx/reference/files/Recovery.h"
+#include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
 
 #include <QDir>
 

@@ -4,8 +4,8 @@
 #include "app/window/MainWindow.h"
 #include "app/window/StationView.h"
 #include "app/window/StatusLine.h"
-#include "foundation/PlacePosition.h"
-#include "selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,17 +1,17 @@
 #include "tests/unit/app/AppStage.h"
 
-#include "adapters/qt/MimeDataObject.h"
 #include "app/document/SharedView.h"
 #include "app/window/ModuleInserter.h"
 #include "app/window/PositionText.h"
 #include "app/window/StationView.h"
-#include "controllers/interfaces/IVxHWDragDropController.h"
-#include "foundation/PlacePosition.h"
-#include "foundation/model/VxHWModule.h"
-#include "foundation/model/VxHWModules.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "foundation/model/VxHWRackPlaces.h"
-#include "platform/Input.h"
+#include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/platform/Input.h"
+#include "zqbchwcx/qt/MimeDataObject.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

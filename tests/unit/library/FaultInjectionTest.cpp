@@ -1,6 +1,6 @@
-#include "foundation/Nothing.h"
-#include "managers/VxHWConfigManager.h"
 #include "tests/support/StationStage.h"
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
 
 // Every operation of the configuration mode is run again and again, and each time another one of the calls that it
 // makes to the model and the host fails.

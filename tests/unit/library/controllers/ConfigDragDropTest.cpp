@@ -1,10 +1,10 @@
-#include "controllers/compare/VxHWCompCtrlDD.h"
-#include "controllers/config/VxHWConfigCtrlDD.h"
-#include "controllers/config/VxHWConfigROCtrlDD.h"
-#include "controllers/diag/VxHWDiagCtrlDD.h"
-#include "foundation/ConfigTextCodec.h"
-#include "foundation/mdl_VarConst.h"
 #include "tests/support/StationStage.h"
+#include "zqbchwcx/controllers/compare/VxHWCompCtrlDD.h"
+#include "zqbchwcx/controllers/config/VxHWConfigCtrlDD.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlDD.h"
+#include "zqbchwcx/controllers/diag/VxHWDiagCtrlDD.h"
+#include "zqbchwcx/foundation/ConfigTextCodec.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
 
 namespace zqbchwcx::testing {
 namespace {

@@ -1,7 +1,7 @@
-#include "controllers/config/VxHWConfigCtrlKey.h"
-#include "controllers/config/VxHWConfigROCtrlKey.h"
-#include "controllers/config/VxHWConfigROOfflineCtrlKey.h"
 #include "tests/support/StationStage.h"
+#include "zqbchwcx/controllers/config/VxHWConfigCtrlKey.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlKey.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROOfflineCtrlKey.h"
 
 namespace zqbchwcx::testing {
 namespace {

@@ -1,5 +1,5 @@
-#include "controllers/config/VxHWConfigROCtrlMouse.h"
 #include "tests/support/StationStage.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlMouse.h"
 
 namespace zqbchwcx::testing {
 namespace {

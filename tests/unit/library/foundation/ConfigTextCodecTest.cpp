@@ -1,4 +1,4 @@
-#include "foundation/ConfigTextCodec.h"
+#include "zqbchwcx/foundation/ConfigTextCodec.h"
 
 #include <gtest/gtest.h>
 

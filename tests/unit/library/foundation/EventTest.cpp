@@ -1,4 +1,4 @@
-#include "foundation/Event.h"
+#include "zqbchwcx/foundation/Event.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
 
-#include "foundation/Registration.h"
-#include "foundation/mdl_ErrorHandler.h"
 #include "tests/support/services/TestServices.h"
+#include "zqbchwcx/foundation/Registration.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "managers/VxHWConfigManager.h"
+#include "zqbchwcx/managers/VxHWConfigManager.h"
 
 #include "tests/support/StationStage.h"
 

@@ -1,6 +1,6 @@
-#include "reference/model/rules/CheckStation.h"
-#include "reference/model/rules/ModuleRules.h"
 #include "tests/support/Samples.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
+#include "zqbchwcx/reference/model/rules/ModuleRules.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
-#include "reference/commands/CheckReport.h"
-#include "reference/commands/ModuleListText.h"
 #include "tests/support/Samples.h"
+#include "zqbchwcx/reference/commands/CheckReport.h"
+#include "zqbchwcx/reference/commands/ModuleListText.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>

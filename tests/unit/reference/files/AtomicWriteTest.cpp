@@ -1,9 +1,9 @@
-#include "reference/files/AtomicWrite.h"
+#include "zqbchwcx/reference/files/AtomicWrite.h"
 
-#include "reference/files/StationWriter.h"
 #include "tests/support/Samples.h"
 #include "tests/unit/reference/files/FaultyFiles.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference/files/PosixFiles.h"
+#include "zqbchwcx/reference/files/PosixFiles.h"
 
 #include <gtest/gtest.h>
 

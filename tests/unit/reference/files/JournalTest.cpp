@@ -1,10 +1,10 @@
-#include "reference/files/Journal.h"
+#include "zqbchwcx/reference/files/Journal.h"
 
-#include "reference/files/Recovery.h"
-#include "reference/files/StationWriter.h"
 #include "tests/support/Samples.h"
 #include "tests/unit/reference/files/FaultyFiles.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"
+#include "zqbchwcx/reference/files/Recovery.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "reference/files/StationWriter.h"
+#include "zqbchwcx/reference/files/StationWriter.h"
 
 #include "tests/support/Samples.h"
 #include "tests/unit/reference/files/TemporaryDirectory.h"

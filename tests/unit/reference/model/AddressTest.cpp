@@ -1,6 +1,6 @@
-#include "reference/model/rules/AddressMap.h"
-#include "reference/model/rules/CheckStation.h"
 #include "tests/unit/reference/model/SampleModel.h"
+#include "zqbchwcx/reference/model/rules/AddressMap.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
 
 #include <gtest/gtest.h>
 

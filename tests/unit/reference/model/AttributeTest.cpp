@@ -1,6 +1,6 @@
-#include "reference/model/editing/EditModule.h"
-#include "reference/model/rules/CheckStation.h"
 #include "tests/unit/reference/model/SampleModel.h"
+#include "zqbchwcx/reference/model/editing/EditModule.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
 
 #include <gmock/gmock.h>
 

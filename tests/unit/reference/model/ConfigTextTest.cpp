@@ -1,6 +1,6 @@
-#include "reference/model/configtext/ConfigText.h"
-#include "foundation/VxError.h"
+#include "zqbchwcx/reference/model/configtext/ConfigText.h"
 #include "tests/unit/reference/model/SampleModel.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 #include <gmock/gmock.h>
 

@@ -1,4 +1,4 @@
-#include "reference/history/History.h"
+#include "zqbchwcx/reference/history/History.h"
 
 #include "tests/unit/reference/model/SampleModel.h"
 

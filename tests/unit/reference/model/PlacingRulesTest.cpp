@@ -1,4 +1,4 @@
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 #include "tests/unit/reference/model/SampleModel.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "tests/unit/reference/model/SampleModel.h"
 
-#include "reference/model/rules/CheckStation.h"
-#include "reference/model/rules/Occupancy.h"
+#include "zqbchwcx/reference/model/rules/CheckStation.h"
+#include "zqbchwcx/reference/model/rules/Occupancy.h"
 
 #include <sstream>
 #include <utility>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "foundation/PlacePosition.h"
-#include "reference/catalogue/Catalogue.h"
-#include "reference/model/StationData.h"
-#include "reference/model/contract/Modules.h"
-#include "reference/model/contract/Station.h"
-#include "reference/model/editing/EditModule.h"
-#include "reference/model/editing/PlaceModules.h"
-#include "reference/model/editing/StationDraft.h"
-#include "reference/model/rules/PlacingRules.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/reference/catalogue/Catalogue.h"
+#include "zqbchwcx/reference/model/StationData.h"
+#include "zqbchwcx/reference/model/contract/Modules.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
+#include "zqbchwcx/reference/model/editing/EditModule.h"
+#include "zqbchwcx/reference/model/editing/PlaceModules.h"
+#include "zqbchwcx/reference/model/editing/StationDraft.h"
+#include "zqbchwcx/reference/model/rules/PlacingRules.h"
 
 #include <memory>
 #include <optional>

@@ -1,11 +1,11 @@
-#include "foundation/ConfigTextCodec.h"
-#include "foundation/model/VxHWRackPlace.h"
-#include "reference/model/configtext/ConfigText.h"
-#include "reference/model/contract/Module.h"
-#include "reference/model/contract/RackPlaces.h"
-#include "reference/model/contract/TypeExchange.h"
 #include "tests/support/MemoryClipboard.h"
 #include "tests/unit/reference/model/SampleModel.h"
+#include "zqbchwcx/foundation/ConfigTextCodec.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/reference/model/configtext/ConfigText.h"
+#include "zqbchwcx/reference/model/contract/Module.h"
+#include "zqbchwcx/reference/model/contract/RackPlaces.h"
+#include "zqbchwcx/reference/model/contract/TypeExchange.h"
 
 #include <gmock/gmock.h>
 

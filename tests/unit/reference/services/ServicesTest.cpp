@@ -1,11 +1,11 @@
-#include "foundation/VxError.h"
-#include "foundation/mdl_VarConst.h"
-#include "reference/services/ErrorLog.h"
-#include "reference/services/HostObjects.h"
-#include "reference/services/LiveInstances.h"
-#include "reference/services/MemoryStore.h"
-#include "reference/services/Settings.h"
-#include "reference/services/WaitingApplication.h"
+#include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
+#include "zqbchwcx/reference/services/ErrorLog.h"
+#include "zqbchwcx/reference/services/HostObjects.h"
+#include "zqbchwcx/reference/services/LiveInstances.h"
+#include "zqbchwcx/reference/services/MemoryStore.h"
+#include "zqbchwcx/reference/services/Settings.h"
+#include "zqbchwcx/reference/services/WaitingApplication.h"
 
 #include <gmock/gmock.h>
 

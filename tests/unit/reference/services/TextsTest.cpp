@@ -1,7 +1,7 @@
-#include "reference/services/Texts.h"
+#include "zqbchwcx/reference/services/Texts.h"
 
-#include "foundation/VxError.h"
 #include "tests/support/Samples.h"
+#include "zqbchwcx/foundation/VxError.h"
 
 #include <gmock/gmock.h>
 

@@ -1,0 +1,251 @@
+#include "zqbchwcx/managers/VxHWConfigManager.h"
+
+#include "zqbchwcx/controllers/SelectionSteps.h"
+#include "zqbchwcx/controllers/config/VxHWConfigCtrlDD.h"
+#include "zqbchwcx/controllers/config/VxHWConfigCtrlKey.h"
+#include "zqbchwcx/controllers/config/VxHWConfigCtrlMouse.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlDD.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlKey.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROCtrlMouse.h"
+#include "zqbchwcx/controllers/config/VxHWConfigROOfflineCtrlKey.h"
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/foundation/PlaceLookup.h"
+#include "zqbchwcx/foundation/ServiceRoot.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/model/VxHWModelFactory.h"
+#include "zqbchwcx/foundation/model/VxHWModule.h"
+#include "zqbchwcx/foundation/model/VxHWModules.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWStation.h"
+#include "zqbchwcx/selection/VxHWSelectionHandler.h"
+
+#include <utility>
+
+namespace zqbchwcx {
+namespace {
+
+constexpr std::string_view ClassName = "VxHWConfigManager";
+
+/// Makes a controller and keeps it both by its common and by its input interface.
+template <class Controller, class InputController>
+void Create(IVxHWControllerPtr& oController, std::shared_ptr<InputController>& oiInput)
+{
+    auto oCreated = std::make_shared<Controller>();
+    oController = oCreated;
+    oiInput = std::move(oCreated);
+}
+
+void DisconnectView(IVxHWControl& view)
+{
+    view.VxHWStation(nullptr);
+    view.VxHWSelectionHandler(nullptr);
+    view.VxHWMouseInputController(nullptr);
+    view.VxHWKeyInputController(nullptr);
+    view.VxHWDragDropController(nullptr);
+}
+
+void CreateMissingSubModules(VxHWStation& station, const VxHWModulePtr& oModule)
+{
+    if (oModule->SubModuleCount() < 1) return;
+    const auto oSubModules = oModule->SubModules();
+    if (G_Require(oSubModules, "The collection of sub-modules")->Count() == 0) station.CreateSubModules(oModule);
+}
+
+} // namespace
+
+VxHWConfigManager::VxHWConfigManager() noexcept : mRegistration(ClassName) {}
+
+VxHWConfigManager::~VxHWConfigManager() = default;
+
+VxHWSelectionHandlerPtr VxHWConfigManager::VxHWSelectionHandler() const noexcept
+{
+    return moSelHandler;
+}
+
+void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlPtr oiRackOverview,
+                                   IVxHWControlPtr oiRackTable, VxHWStationPtr oHWStation) noexcept
+{
+    G_Trap(ClassName, "Initialize", [&] {
+        moHWStation = std::move(oHWStation);
+        moiRackOverview = std::move(oiRackOverview);
+        moiRackTable = std::move(oiRackTable);
+        moSelHandler = std::make_shared<zqbchwcx::VxHWSelectionHandler>();
+        CreateControllers();
+        ConnectView(*G_Require(moiRackOverview, "The rack overview"), eStationType);
+        ConnectView(*G_Require(moiRackTable, "The rack table"), eStationType);
+        G_Require(moSelHandler, "The selection handler")->VxHWStation(moHWStation);
+        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
+            G_Require(oController, "A controller")->VxHWStation(moHWStation);
+            oController->VxHWSelectionHandler(moSelHandler);
+        }
+        Subscribe(moiRackOverview);
+        Subscribe(moiRackTable);
+        G_Require(moHWStation, "The station")->StartConfiguration();
+        P_InitSelection();
+    });
+}
+
+void VxHWConfigManager::Terminate() noexcept
+{
+    G_Trap(ClassName, "Terminate", [&] {
+        DisconnectView(*G_Require(moiRackOverview, "The rack overview"));
+        DisconnectView(*G_Require(moiRackTable, "The rack table"));
+        G_Require(moSelHandler, "The selection handler")->VxHWStation(nullptr);
+        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
+            if (!oController) continue; // an initialisation that failed made none
+            oController->VxHWStation(nullptr);
+            oController->VxHWSelectionHandler(nullptr);
+        }
+        if (moCtrlDD) moCtrlDD->RemoveAllSubscribers();
+        moiRackOverview = nullptr;
+        moiRackTable = nullptr;
+        moHWStation = nullptr;
+        moSelHandler = nullptr;
+        moiMouseInput = nullptr;
+        moCtrlMouse = nullptr;
+        moiKeyInput = nullptr;
+        moCtrlKey = nullptr;
+        moiDragDrop = nullptr;
+        moCtrlDD = nullptr;
+    });
+}
+
+bool VxHWConfigManager::SetSingleModuleToCurPos(const VxHWModulePtr& oModule) noexcept
+{
+    bool bPlaced = false;
+    const bool bCompleted = G_Trap(ClassName, "SetSingleModuleToCurPos", [&] {
+        const auto oStation = G_Require(moHWStation, "The station");
+        oStation->PrepareModule(oModule);
+        const auto oModules = ModulesToInsert(oModule);
+        const auto oPlaces = G_ServiceRoot().modelFactory->CreateRackPlaces();
+        oStation->IsDrawable(false);
+        bPlaced = PlaceAtSelectionOrFocus(oModules, oPlaces);
+        oStation->IsDrawable(true);
+    });
+    return bCompleted && bPlaced;
+}
+
+void VxHWConfigManager::Delete() noexcept
+{
+    Forward("Delete", &IVxHWKeyInputController::Delete);
+}
+
+void VxHWConfigManager::Cut() noexcept
+{
+    Forward("Cut", &IVxHWKeyInputController::Cut);
+}
+
+void VxHWConfigManager::Copy() noexcept
+{
+    Forward("Copy", &IVxHWKeyInputController::Copy);
+}
+
+void VxHWConfigManager::Paste() noexcept
+{
+    Forward("Paste", &IVxHWKeyInputController::Paste);
+}
+
+void VxHWConfigManager::EditModuleParams() noexcept
+{
+    Forward("EditModuleParams", &IVxHWKeyInputController::KeyReturn);
+}
+
+void VxHWConfigManager::CreateControllers()
+{
+    const auto oStation = G_Require(moHWStation, "The station");
+    if (oStation->IsReadOnly()) {
+        Create<VxHWConfigROCtrlMouse>(moCtrlMouse, moiMouseInput);
+        if (oStation->DisplayMode() != vxDisplayModeOffline) Create<VxHWConfigROCtrlKey>(moCtrlKey, moiKeyInput);
+        else Create<VxHWConfigROOfflineCtrlKey>(moCtrlKey, moiKeyInput);
+        Create<VxHWConfigROCtrlDD>(moCtrlDD, moiDragDrop);
+    } else {
+        Create<VxHWConfigCtrlMouse>(moCtrlMouse, moiMouseInput);
+        Create<VxHWConfigCtrlKey>(moCtrlKey, moiKeyInput);
+        Create<VxHWConfigCtrlDD>(moCtrlDD, moiDragDrop);
+    }
+}
+
+void VxHWConfigManager::ConnectView(IVxHWControl& view, VxEnumStationType eStationType) const
+{
+    view.StationType(eStationType);
+    view.Style(vxStyleHWConfig);
+    view.VxHWStation(moHWStation);
+    view.VxHWSelectionHandler(moSelHandler);
+    view.VxHWMouseInputController(moiMouseInput);
+    view.VxHWKeyInputController(moiKeyInput);
+    view.VxHWDragDropController(moiDragDrop);
+}
+
+void VxHWConfigManager::Subscribe(const IVxHWControlPtr& oiView) const
+{
+    // A view of a host that draws no drop markings has nothing to subscribe.
+    if (const auto oSubscriber = std::dynamic_pointer_cast<IVxHWDragDropCtrlEvents>(oiView))
+        G_Require(moCtrlDD, "The drag-and-drop controller")->AddSubscriber(oSubscriber);
+}
+
+void VxHWConfigManager::P_InitSelection() noexcept
+{
+    G_Trap(ClassName, "P_InitSelection", [&] {
+        const auto oPlaces = G_RackByNumber(moHWStation, 0)->Places();
+        std::int32_t lNumber = 0;
+        for (const auto& oPlace : *oPlaces) {
+            if (oPlace->Usability() == vxPlaceNotUsable) continue;
+            lNumber = oPlace->Number();
+            break;
+        }
+        const auto oSelHandler = G_Require(moSelHandler, "The selection handler");
+        oSelHandler->ShiftSelPosition(G_PlacePosition(0, lNumber));
+        oSelHandler->FocusPosition(G_PlacePosition(0, lNumber));
+        G_SelPlaces(oSelHandler)->Add(oPlaces->Item(lNumber));
+        oSelHandler->SelChangeComplete();
+    });
+}
+
+VxHWModulesPtr VxHWConfigManager::ModulesToInsert(const VxHWModulePtr& oModule) const
+{
+    const auto oStation = G_Require(moHWStation, "The station");
+    if (G_Require(oModule, "The module")->PlaceCount() < 1) {
+        CreateMissingSubModules(*oStation, oModule);
+        auto oModules = G_ServiceRoot().modelFactory->CreateModules();
+        oModules->Add(oModule, true);
+        return oModules;
+    }
+    auto oModules = oStation->ExpandModule(oModule);
+    CreateMissingSubModules(*oStation, G_Require(oModules, "The collection of member modules")->Item(0));
+    return oModules;
+}
+
+bool VxHWConfigManager::PlaceAtSelectionOrFocus(const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces) const
+{
+    const auto oSelHandler = moSelHandler;
+    const auto oSelPlaces = G_SelPlaces(oSelHandler);
+    if (oSelPlaces->Count() == 0) return PlaceAt(oSelHandler->FocusPosition(), oModules, oPlaces);
+    bool bPlaced = false;
+    for (const auto& oPlace : *oSelPlaces) {
+        const std::int32_t lPosition = G_PlacePosition(oPlace->Rack()->Number(), oPlace->Number());
+        if (PlaceAt(lPosition, oModules, oPlaces)) bPlaced = true;
+    }
+    return bPlaced;
+}
+
+bool VxHWConfigManager::PlaceAt(std::int32_t lPosition, const VxHWModulesPtr& oModules,
+                                const VxHWRackPlacesPtr& oPlaces) const
+{
+    const auto oStation = G_Require(moHWStation, "The station");
+    if (!oStation->CanBePlaced(lPosition, oModules, false, nullptr)) return false;
+    oStation->PlaceModules(lPosition, oModules, oPlaces);
+    return true;
+}
+
+template <class Command>
+void VxHWConfigManager::Forward(const char* procedureName, Command command) noexcept
+{
+    G_Trap(ClassName, procedureName, [&] {
+        const auto oiKeyInput = G_Require(moiKeyInput, "The key controller");
+        (*oiKeyInput.*command)();
+    });
+}
+
+} // namespace zqbchwcx

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "zqbchwcx/platform/Geometry.h"
+
+#include <memory>
+
+namespace zqbchwcx {
+
+/// A windowless rectangle without input, in logical pixels of its control: the pieces of the arrow (filled in the
+/// system button-text colour) and the thin bars between the racks.
+class Shape {
+public:
+    virtual ~Shape() = default;
+
+    virtual Rect Bounds() const = 0;
+    virtual void Move(const Rect& rect) = 0;
+    virtual bool Visible() const = 0;
+    virtual void Visible(bool bVisible) = 0;
+};
+using ShapePtr = std::unique_ptr<Shape>;
+
+/// A thin frame control.
+class Frame : public Shape {};
+using FramePtr = std::unique_ptr<Frame>;
+
+} // namespace zqbchwcx

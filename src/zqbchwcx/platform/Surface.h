@@ -1,0 +1,45 @@
+#pragma once
+
+#include "zqbchwcx/platform/Color.h"
+#include "zqbchwcx/platform/Geometry.h"
+
+#include <memory>
+#include <string_view>
+
+namespace zqbchwcx {
+
+class Image;
+class ImageList;
+
+/// How an image is put on a surface. Cyan pixels (or transparent ones of a vector picture) never draw.
+enum class DrawStyle {
+    Normal = 0,
+    Transparent = 1,
+    Blended = 4,            ///< mixed half and half with the system highlight colour: the selected look
+    TransparentBlended = 5, ///< transparent and mixed
+};
+
+enum class FontWeight { Regular, Bold };
+
+/// A persistent picture that is drawn on in logical pixels. Colours may be system-colour references.
+class Surface {
+public:
+    virtual ~Surface() = default;
+
+    /// Fills the rectangle.
+    virtual void FillBox(const Rect& rect, OleColor color) = 0;
+    /// Draws a horizontal or vertical line, one pixel wide; both end points belong to it.
+    virtual void DrawLine(Point from, Point to, OleColor color) = 0;
+    /// Draws one line of text centred in the box in the control's font. The cell of the text is first filled with
+    /// the surface's background colour, so that drawing another text over it leaves nothing of the first.
+    virtual void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) = 0;
+    /// Draws the image of the list that has the key, with its top-left corner at the point. Throws VxError-like
+    /// exceptions when the list has no such key.
+    virtual void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) = 0;
+    /// Draws a single image with its top-left corner at the point.
+    virtual void DrawImage(const Image& image, Point at, DrawStyle style) = 0;
+    /// Inverts a dotted rectangle; a second call with the same rectangle takes it away.
+    virtual void DrawFocusRect(const Rect& rect) = 0;
+};
+
+} // namespace zqbchwcx

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/platform/PopupMenu.h"
+#include "zqbchwcx/platform/Shape.h"
+#include "zqbchwcx/platform/SysInfo.h"
+#include "zqbchwcx/platform/Timer.h"
+#include "zqbchwcx/platform/UserControl.h"
+
+#include <string_view>
+
+namespace zqbchwcx {
+
+class Desktop;
+class ImageListFactory;
+class TooltipService;
+
+/// Makes the child controls of views, and gives the desktop. Later children lie above earlier ones.
+class Toolkit {
+public:
+    virtual ~Toolkit() = default;
+
+    virtual PictureBoxPtr CreatePictureBox(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual ChildControlPtr CreateChildControl(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual FramePtr CreateFrame(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual ShapePtr CreateShape(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual PopupMenuPtr CreatePopupMenu(UserControl& parent, std::string_view name) = 0;
+    virtual SysInfoPtr CreateSysInfo(UserControl& parent) = 0;
+    virtual TimerPtr CreateTimer() = 0;
+
+    virtual Desktop& GetDesktop() = 0;
+    virtual TooltipService& GetTooltipService() = 0;
+    virtual ImageListFactory& GetImageListFactory() = 0;
+};
+
+} // namespace zqbchwcx

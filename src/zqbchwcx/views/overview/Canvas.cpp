@@ -1,0 +1,41 @@
+#include "zqbchwcx/views/overview/Canvas.h"
+
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+
+namespace zqbchwcx {
+
+PictureBox& Canvas::Box() const
+{
+    return *G_Require(mpicBox, "The picture box");
+}
+
+void Canvas::Overlay(const std::optional<Rect>& rect)
+{
+    const DrawingBracket drawing(*this);
+    mOverlay = rect;
+}
+
+void Canvas::InvertOverlay(bool bShow)
+{
+    if (!mOverlay || mbOverlayShown == bShow) return;
+    Box().DrawFocusRect(*mOverlay);
+    mbOverlayShown = bShow;
+}
+
+DrawingBracket::DrawingBracket(Canvas& canvas) : mCanvas(canvas)
+{
+    if (mCanvas.mnBrackets == 0) mCanvas.InvertOverlay(false);
+    ++mCanvas.mnBrackets;
+}
+
+DrawingBracket::~DrawingBracket()
+{
+    if (--mCanvas.mnBrackets > 0) return;
+    G_Trap(mCanvas.msClassName, "P_ShowPicture", [&] {
+        mCanvas.InvertOverlay(true);
+        mCanvas.Box().Refresh();
+    });
+}
+
+} // namespace zqbchwcx

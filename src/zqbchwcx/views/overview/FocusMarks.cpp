@@ -1,0 +1,119 @@
+#include "zqbchwcx/views/overview/FocusMarks.h"
+
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/foundation/model/VxHWRacks.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace zqbchwcx {
+namespace {
+
+constexpr std::int32_t TriangleLeg = 5;
+constexpr std::int32_t TriangleDistanceAbove = 6;
+constexpr std::int32_t TriangleDistanceBelow = 1;
+
+constexpr std::int32_t GapMarkDistance = 6;
+constexpr std::int32_t GapLineErasedHeight = 47;
+
+void DrawRow(Surface& surface, std::int32_t xFrom, std::int32_t xTo, std::int32_t y, OleColor color)
+{
+    surface.DrawLine({xFrom, y}, {xTo, y}, color);
+}
+
+} // namespace
+
+FocusMarks::FocusMarks(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas,
+                       RackPainter& rackPainter, RedrawPlace redrawPlace)
+    : mContext(context), mLayout(layout), mCanvas(canvas), mRackPainter(rackPainter),
+      mRedrawPlace(std::move(redrawPlace))
+{
+}
+
+void FocusMarks::Set(const PositionInfo& position) noexcept
+{
+    if (position.eType == vxPositionPlace) P_SetPlaceFocus(position.lRack, position.lNumber);
+    else if (position.eType == vxPositionGap) P_SetGapFocus(position.lRack, position.lNumber);
+}
+
+void FocusMarks::Reset(const PositionInfo& position) noexcept
+{
+    if (position.eType == vxPositionPlace) P_ResetPlaceFocus(position.lRack);
+    else if (position.eType == vxPositionGap) P_ResetGapFocus(position.lRack, position.lNumber);
+}
+
+void FocusMarks::P_SetPlaceFocus(std::int32_t lRack, std::int32_t lPlace) noexcept
+{
+    G_Trap(mContext.className, "P_SetPlaceFocus", [&] {
+        if (!mLayout.Shows(lRack, lPlace)) return;
+        auto& surface = mCanvas.Box();
+        const Rect place = mLayout.PlaceRect(lRack, lPlace);
+        const OleColor color = FocusColor();
+        for (std::int32_t k = 0; k < TriangleLeg; ++k) {
+            const std::int32_t above = place.top - TriangleDistanceAbove + k;
+            DrawRow(surface, place.left - k, place.left, above, color);
+            DrawRow(surface, place.right, place.right + k, above, color);
+            const std::int32_t below = place.bottom + TriangleDistanceBelow + k;
+            const std::int32_t width = TriangleLeg - 1 - k;
+            DrawRow(surface, place.left - width, place.left, below, color);
+            DrawRow(surface, place.right, place.right + width, below, color);
+        }
+    });
+}
+
+void FocusMarks::P_ResetPlaceFocus(std::int32_t lRack) noexcept
+{
+    G_Trap(mContext.className, "P_ResetPlaceFocus", [&] {
+        if (!mLayout.Shows(lRack, 1)) return;
+        mRackPainter.ClearFocusStrips(lRack);
+        mRackPainter.DrawRail(lRack);
+    });
+}
+
+void FocusMarks::P_SetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept
+{
+    G_Trap(mContext.className, "P_SetGapFocus", [&] {
+        if (!mLayout.Shows(lRack, std::max(lGap, 1))) return;
+        auto& surface = mCanvas.Box();
+        const Rect line = mLayout.GapLine(lRack, lGap);
+        const OleColor color = FocusColor();
+        const std::int32_t left = line.left - 3;
+        const std::int32_t top = line.top - GapMarkDistance;
+        const std::int32_t lineTop = top + 4;
+        const std::int32_t lineBottom = lineTop + line.height() + 4;
+        // Bars are given from corner to corner, both included, so that the I closes on its stem.
+        const auto fillBar = [&](std::int32_t x, std::int32_t y, std::int32_t width, std::int32_t height) {
+            surface.FillBox(MakeRect(x, y, width + 1, height + 1), color);
+        };
+        fillBar(left, top, 4, 1);
+        fillBar(left + 1, top + 2, 2, 1);
+        surface.DrawLine({left + 2, lineTop}, {left + 2, lineBottom - 1}, color);
+        fillBar(left + 1, lineBottom, 2, 1);
+        fillBar(left, lineBottom + 2, 4, 1);
+    });
+}
+
+void FocusMarks::P_ResetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept
+{
+    G_Trap(mContext.className, "P_ResetGapFocus", [&] {
+        if (!mLayout.Shows(lRack, 1)) return;
+        mRackPainter.ClearFocusStrips(lRack);
+        const Rect line = mLayout.GapLine(lRack, lGap);
+        mCanvas.Box().FillBox(MakeRect(line.left - 1, line.top - 1, 1, GapLineErasedHeight), mContext.backColor);
+        mRackPainter.DrawRail(lRack);
+
+        const std::int32_t lPlaceCount = mContext.Station()->Racks()->Item(lRack)->Places()->Count();
+        for (const std::int32_t lPlace : {lGap, lGap + 1}) {
+            if (lPlace >= 1 && lPlace <= lPlaceCount) mRedrawPlace(lRack, lPlace);
+        }
+    });
+}
+
+OleColor FocusMarks::FocusColor() const
+{
+    return mCanvas.Box().HasFocus() ? vxColorButtonText : vxColorGrayText;
+}
+
+} // namespace zqbchwcx

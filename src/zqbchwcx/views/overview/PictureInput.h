@@ -1,0 +1,63 @@
+#pragma once
+
+#include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/views/overview/Canvas.h"
+#include "zqbchwcx/views/overview/DragPointer.h"
+#include "zqbchwcx/views/overview/PlaceLayout.h"
+#include "zqbchwcx/views/overview/PlaceMenu.h"
+#include "zqbchwcx/views/overview/RubberBand.h"
+#include "zqbchwcx/views/shared/ViewContext.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace zqbchwcx {
+
+/// Turns what happens on the picture into calls of the controllers, each with the place position under the mouse.
+class PictureInput : public PictureBoxEvents {
+public:
+    /// What the view does about input.
+    struct Hooks {
+        std::function<void()> keyboardFocusChanged;
+        std::function<void()> controllerDone; ///< a controller has finished a drag-and-drop or mouse operation
+    };
+
+    PictureInput(const ViewContext& context, const PlaceLayout& layout, Canvas& canvas, PlaceMenu& menu,
+                 DragPointer& dragPointer, std::string_view pictureName, Hooks hooks);
+
+    void DragThreshold(Size threshold) { mDragThreshold = threshold; }
+
+    void MouseDown(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override;
+    void MouseMove(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override;
+    void MouseUp(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override;
+    void DblClick() noexcept override;
+    void GotFocus() noexcept override;
+    void LostFocus() noexcept override;
+    void OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lAllowedEffects) noexcept override;
+    void OLESetData(const DataObjectPtr& oData, std::int16_t nDataFormat) noexcept override;
+    void OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
+                     float x, float y, std::int16_t nState) noexcept override;
+    void OLEDragDrop(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton, std::int16_t nShift,
+                     float x, float y) noexcept override;
+    void OLECompleteDrag(std::int32_t& lEffect) noexcept override;
+
+private:
+    template <class Body>
+    void Trap(std::string_view event, Body&& body) noexcept;
+    bool IsBeyondThreshold(Point at) const;
+
+    const ViewContext& mContext;
+    const PlaceLayout& mLayout;
+    Canvas& mCanvas;
+    PlaceMenu& mMenu;
+    DragPointer& mDragPointer;
+    RubberBand mRubberBand;
+    std::string msProcedurePrefix;
+    Hooks mHooks;
+    Size mDragThreshold{4, 4};
+    std::optional<Point> moDragStart;
+    std::int32_t mlLastMouseDownPosition = vxNoPosition;
+};
+
+} // namespace zqbchwcx

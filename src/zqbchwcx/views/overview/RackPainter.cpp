@@ -1,0 +1,61 @@
+#include "zqbchwcx/views/overview/RackPainter.h"
+
+#include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/foundation/model/VxHWRack.h"
+#include "zqbchwcx/views/overview/CentralPictures.h"
+#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
+#include "zqbchwcx/views/shared/NumberText.h"
+
+namespace zqbchwcx {
+namespace {
+
+constexpr std::int32_t RailLeft = 11;
+constexpr std::int32_t RailTop = 29;
+constexpr Point TileOffset{12, 30};
+
+// The strips are 217 × 5 from corner to corner, both corners included: the marks reach into the last row.
+constexpr std::int32_t StripWidth = 218;
+constexpr std::int32_t StripHeight = 6;
+constexpr std::int32_t UpperStripTop = 24;
+constexpr std::int32_t LowerStripTop = 90;
+
+} // namespace
+
+void RackPainter::Load(TextModule& textModule)
+{
+    moImages = LoadStrip(textModule, CentralPictures::Rail());
+}
+
+void RackPainter::DrawEmptyRails()
+{
+    mCanvas.Box().BackColor(mContext.backColor);
+    for (std::int32_t lRack = 0; lRack < CentralPlaceLayout::RackCount; ++lRack) DrawRail(lRack);
+}
+
+void RackPainter::DrawRail(std::int32_t lRack)
+{
+    mCanvas.Box().DrawListImage(*G_Require(moImages, "The rail picture"), CentralPictures::RailKey,
+                                {RailLeft, CentralPlaceLayout::BandTop(lRack) + RailTop}, DrawStyle::Transparent);
+}
+
+void RackPainter::DrawNumber(const VxHWRack& oRack)
+{
+    const std::int32_t lState = oRack.State();
+    if (lState != vxRackPresent && lState != vxRackNotPresent) return;
+    const bool bPresent = lState == vxRackPresent;
+    const Point at{TileOffset.x, CentralPlaceLayout::BandTop(oRack.Number()) + TileOffset.y};
+    mSinglePictures.P_DrawPicture(mCanvas.Box(), bPresent ? "IDB_CRX_RACKNR_ACTIVE" : "IDB_CRX_RACKNR_INACTIVE", at,
+                                  DrawStyle::Normal);
+    P_DrawNumber(mContext.className, mCanvas.Box(), oRack.Number(), at,
+                 bPresent ? NumberMode::Bold : NumberMode::Grayed);
+}
+
+void RackPainter::ClearFocusStrips(std::int32_t lRack)
+{
+    const std::int32_t top = CentralPlaceLayout::BandTop(lRack);
+    for (const std::int32_t stripTop : {top + UpperStripTop, top + LowerStripTop}) {
+        mCanvas.Box().FillBox(MakeRect(RailLeft, stripTop, StripWidth, StripHeight), mContext.backColor);
+    }
+}
+
+} // namespace zqbchwcx
