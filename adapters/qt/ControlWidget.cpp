@@ -50,8 +50,8 @@ void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& contr
         if (auto* box = qobject_cast<PictureBoxWidget*>(widget)) {
             painter.drawImage(grid.Edge(corner.x()), grid.Edge(corner.y()), box->Picture().Pixels());
         } else if (const auto* shape = qobject_cast<const ShapeWidget*>(widget)) {
-            painter.fillRect(grid.Device(MakeRect(corner.x(), corner.y(), shape->width(), shape->height())),
-                             shape->FillColor());
+            shape->Paint(painter, grid.Device(MakeRect(corner.x(), corner.y(), shape->width(), shape->height())),
+                         grid.Ratio());
         } else {
             PaintWindows(painter, grid, *widget, corner);
         }

@@ -7,6 +7,7 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QPolygonF>
 
 #include <algorithm>
 #include <utility>
@@ -52,6 +53,48 @@ Rect Normalized(const Rect& rect)
 {
     return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom), std::max(rect.left, rect.right),
             std::max(rect.top, rect.bottom)};
+}
+
+/// Half of the area, in device pixels: those that the diagonal cuts are mixed with the background, never with what was
+/// drawn before, so that it looks the same whatever was there.
+QImage Triangle(QSize area, Corner corner, const QColor& color, const QColor& background)
+{
+    const QRectF box({}, area);
+    QPolygonF points{box.topLeft(), box.topRight(), box.bottomRight(), box.bottomLeft()};
+    // The corner opposite to the filled one is cut off.
+    switch (corner) {
+    case Corner::TopLeft:
+        points.remove(2);
+        break;
+    case Corner::TopRight:
+        points.remove(3);
+        break;
+    case Corner::BottomLeft:
+        points.remove(1);
+        break;
+    case Corner::BottomRight:
+        points.remove(0);
+        break;
+    }
+    QImage image(area, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawPolygon(points);
+    painter.end();
+    for (int y = 0; y < area.height(); ++y) {
+        for (int x = 0; x < area.width(); ++x) {
+            const int covered = image.pixelColor(x, y).alpha();
+            const auto mixed = [&](int a, int b) { return (a * covered + b * (255 - covered)) / 255; };
+            if (covered == 0) continue;
+            image.setPixelColor(x, y,
+                                QColor(mixed(color.red(), background.red()), mixed(color.green(), background.green()),
+                                       mixed(color.blue(), background.blue())));
+        }
+    }
+    return image;
 }
 
 } // namespace
@@ -111,6 +154,15 @@ void PersistentPicture::DrawLine(Point from, Point to, OleColor color)
 {
     const Rect line = Normalized({from.x, from.y, to.x, to.y});
     Fill({line.left, line.top, line.right + 1, line.bottom + 1}, Translate(color));
+}
+
+void PersistentPicture::FillTriangle(const Rect& square, Corner corner, OleColor color)
+{
+    if (mGrid.Ratio() <= 1) return Surface::FillTriangle(square, corner, color);
+    const QRect device = mGrid.Device(square);
+    if (device.isEmpty()) return;
+    Painter().drawImage(device.topLeft(), Triangle(device.size(), corner, Translate(color), mBackground));
+    Changed(device);
 }
 
 void PersistentPicture::DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color)

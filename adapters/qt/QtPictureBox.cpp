@@ -89,6 +89,11 @@ void QtPictureBox::DrawLine(Point from, Point to, OleColor color)
     if (mWidget) mWidget->Picture().DrawLine(from, to, color);
 }
 
+void QtPictureBox::FillTriangle(const Rect& square, Corner corner, OleColor color)
+{
+    if (mWidget) mWidget->Picture().FillTriangle(square, corner, color);
+}
+
 void QtPictureBox::DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color)
 {
     if (mWidget) mWidget->Picture().DrawCenteredText(text, box, weight, color);

@@ -29,6 +29,10 @@ public:
     {
         if (mWidget) mWidget->setVisible(bVisible);
     }
+    void Slope(std::int32_t lRightHeight) override
+    {
+        if (mWidget) mWidget->Slope(lRightHeight);
+    }
 
 private:
     QPointer<ShapeWidget> mWidget;

@@ -5,6 +5,7 @@
 #include "zqbchwcx/qt/SystemColors.h"
 
 #include <QPainter>
+#include <QPolygonF>
 
 namespace zqbchwcx::qt {
 
@@ -27,9 +28,35 @@ QColor ShapeWidget::FillColor() const
     return ReadableOn(mColor, outermost != nullptr ? outermost->BackgroundColor() : palette().color(QPalette::Base));
 }
 
+void ShapeWidget::Slope(int rightHeight)
+{
+    mRightHeight = rightHeight;
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+void ShapeWidget::Paint(QPainter& painter, const QRect& area, double ratio) const
+{
+    if (!mRightHeight || ratio <= 1) return painter.fillRect(area, FillColor());
+    const QRectF box(area);
+    const double middle = box.center().y();
+    const double half = *mRightHeight * ratio / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(FillColor());
+    painter.drawPolygon(
+        QPolygonF{box.topLeft(), {box.right(), middle - half}, {box.right(), middle + half}, box.bottomLeft()});
+    painter.restore();
+}
+
 void ShapeWidget::paintEvent(QPaintEvent* /*event*/)
 {
-    QPainter(this).fillRect(rect(), FillColor());
+    const PixelGrid grid(devicePixelRatioF());
+    const QPoint corner = mapTo(window(), QPoint());
+    const QSize device = grid.Device(MakeRect(corner.x(), corner.y(), width(), height())).size();
+    QPainter painter(this);
+    UseDevicePixels(painter, grid.Ratio());
+    Paint(painter, QRect({}, device), grid.Ratio());
 }
 
 } // namespace zqbchwcx::qt

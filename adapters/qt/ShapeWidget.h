@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QPainter;
 
 namespace zqbchwcx::qt {
@@ -15,13 +17,20 @@ class ShapeWidget : public QWidget {
 public:
     ShapeWidget(QWidget& parent, const QString& name, const Rect& rect, OleColor color);
 
-    QColor FillColor() const;
+    /// Makes it a slope that is this high at its right end, in logical pixels.
+    void Slope(int rightHeight);
+    /// Fills the area, which stands for the window in device pixels: with the slope, or wholly where the ratio leaves
+    /// no room for one.
+    void Paint(QPainter& painter, const QRect& area, double ratio) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QColor FillColor() const;
+
     OleColor mColor;
+    std::optional<int> mRightHeight;
 };
 
 } // namespace zqbchwcx::qt

@@ -72,6 +72,29 @@ TEST_P(DrawingAtRatio, anInvertedRectangleTwiceIsNothing)
     EXPECT_EQ(mPicture.Pixels(), before) << "a rectangle without width";
 }
 
+TEST_P(DrawingAtRatio, aTriangleLooksTheSameOverAnotherAndStaysWithinItsRows)
+{
+    for (const Corner corner : {Corner::TopLeft, Corner::TopRight, Corner::BottomLeft, Corner::BottomRight}) {
+        PersistentPicture rows({90, 70}, GetParam());
+        mPicture.BackColor(vxColorWindowBackground);
+        mPicture.FillTriangle(MakeRect(20, 20, 7, 7), corner, Red);
+        const QImage once = mPicture.Pixels().copy();
+        mPicture.FillTriangle(MakeRect(20, 20, 7, 7), corner, Blue);
+        mPicture.FillTriangle(MakeRect(20, 20, 7, 7), corner, Red);
+        EXPECT_EQ(mPicture.Pixels(), once);
+        rows.Surface::FillTriangle(MakeRect(20, 20, 7, 7), corner, Red);
+        const QRect difference = DifferenceOf(once, rows.Pixels());
+        EXPECT_EQ(difference.isEmpty(), GetParam() == 1.0);
+        for (int y = 0; y < once.height(); ++y) {
+            for (int x = 0; x < once.width(); ++x) {
+                if (rows.Pixels().pixel(x, y) == qRgb(255, 255, 255)) {
+                    ASSERT_EQ(once.pixel(x, y), qRgb(255, 255, 255)) << x << ',' << y;
+                }
+            }
+        }
+    }
+}
+
 TEST_P(DrawingAtRatio, anotherWeightOrColourOfATextLeavesNothingOfTheFirst)
 {
     mPicture.Font(qt::UiFont("Tahoma", 8.25));

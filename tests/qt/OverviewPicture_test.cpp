@@ -4,7 +4,10 @@
 #include "zqbchwcx/foundation/PlacePosition.h"
 #include "zqbchwcx/qt/ControlWidget.h"
 
+#include <algorithm>
+#include <functional>
 #include <random>
+#include <vector>
 
 namespace zqbchwcx::testing {
 namespace {
@@ -22,6 +25,38 @@ TEST(OverviewPicture, looksAsStoredAtRatios1And2InLightAndDark)
     stage.View().Refresh();
     EXPECT_TRUE(LooksLikeReference(stage.widget->RenderToImage(2), "online-dark-2x"));
     EXPECT_TRUE(stage.services.host->reports.empty());
+}
+
+/// How much of each line of the area is not the background: of its columns, or of its rows.
+std::vector<int> InkOf(const QImage& picture, const QRect& area, Qt::Orientation lines)
+{
+    std::vector<int> ink;
+    const bool bRows = lines == Qt::Horizontal;
+    for (int line = 0; line < (bRows ? area.height() : area.width()); ++line) {
+        ink.push_back(0);
+        for (int i = 0; i < (bRows ? area.width() : area.height()); ++i) {
+            const QPoint at = area.topLeft() + (bRows ? QPoint(i, line) : QPoint(line, i));
+            ink.back() += 255 - qGray(picture.pixel(at));
+        }
+    }
+    return ink;
+}
+
+TEST(OverviewPicture, slopesHaveNoStepsWhereADeviceHasMorePixels)
+{
+    OverviewStage stage;
+    stage.SelectPlace(0, 5);
+    for (const int ratio : {2, 3}) {
+        const QImage picture = stage.widget->RenderToImage(ratio);
+        const auto scaled = [&](int x, int y, int width, int height) {
+            return QRect(x * ratio, y * ratio, width * ratio, height * ratio);
+        };
+        // The mark above the place's left corner, and the head of the arrow to its row.
+        const auto mark = InkOf(picture, scaled(97, 300, 5, 5), Qt::Horizontal);
+        const auto head = InkOf(picture, scaled(stage.widget->width() - 8, 101, 8, 14), Qt::Vertical);
+        EXPECT_TRUE(std::ranges::is_sorted(mark, std::less_equal<>()) && mark.back() > 0) << ratio;
+        EXPECT_TRUE(std::ranges::is_sorted(head, std::greater_equal<>()) && head.front() > 0) << ratio;
+    }
 }
 
 /// Random changes of everything that the overview shows.

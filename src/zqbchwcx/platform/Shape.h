@@ -16,6 +16,9 @@ public:
     virtual void Move(const Rect& rect) = 0;
     virtual bool Visible() const = 0;
     virtual void Visible(bool bVisible) = 0;
+    /// The shape is a step of a stair that narrows towards its right end, where it is this high. A window with several
+    /// device pixels to a logical one may draw a slope instead, within the bounds.
+    virtual void Slope(std::int32_t /*lRightHeight*/) {}
 };
 using ShapePtr = std::unique_ptr<Shape>;
 

@@ -21,6 +21,8 @@ enum class DrawStyle {
 
 enum class FontWeight { Regular, Bold };
 
+enum class Corner { TopLeft, TopRight, BottomLeft, BottomRight };
+
 /// A persistent picture that is drawn on in logical pixels. Colours may be system-colour references.
 class Surface {
 public:
@@ -30,6 +32,18 @@ public:
     virtual void FillBox(const Rect& rect, OleColor color) = 0;
     /// Draws a horizontal or vertical line, one pixel wide; both end points belong to it.
     virtual void DrawLine(Point from, Point to, OleColor color) = 0;
+    /// Fills the half of the square that lies in the corner, diagonal included: rows that grow by one pixel towards it.
+    /// A surface that has several device pixels to a logical one may draw the diagonal smooth, within these rows.
+    virtual void FillTriangle(const Rect& square, Corner corner, OleColor color)
+    {
+        const bool bTop = corner == Corner::TopLeft || corner == Corner::TopRight;
+        const bool bLeft = corner == Corner::TopLeft || corner == Corner::BottomLeft;
+        for (std::int32_t y = square.top; y < square.bottom; ++y) {
+            const std::int32_t width = bTop ? square.bottom - y : y - square.top + 1;
+            const std::int32_t left = bLeft ? square.left : square.right - width;
+            DrawLine({left, y}, {left + width - 1, y}, color);
+        }
+    }
     /// Draws one line of text centred in the box in the control's font. The cell of the text is first filled with
     /// the surface's background colour, so that drawing another text over it leaves nothing of the first.
     virtual void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) = 0;

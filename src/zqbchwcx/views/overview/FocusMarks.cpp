@@ -18,11 +18,6 @@ constexpr std::int32_t TriangleDistanceBelow = 1;
 constexpr std::int32_t GapMarkDistance = 6;
 constexpr std::int32_t GapLineErasedHeight = 47;
 
-void DrawRow(Surface& surface, std::int32_t xFrom, std::int32_t xTo, std::int32_t y, OleColor color)
-{
-    surface.DrawLine({xFrom, y}, {xTo, y}, color);
-}
-
 } // namespace
 
 FocusMarks::FocusMarks(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas,
@@ -51,15 +46,16 @@ void FocusMarks::P_SetPlaceFocus(std::int32_t lRack, std::int32_t lPlace) noexce
         auto& surface = mCanvas.Box();
         const Rect place = mLayout.PlaceRect(lRack, lPlace);
         const OleColor color = FocusColor();
-        for (std::int32_t k = 0; k < TriangleLeg; ++k) {
-            const std::int32_t above = place.top - TriangleDistanceAbove + k;
-            DrawRow(surface, place.left - k, place.left, above, color);
-            DrawRow(surface, place.right, place.right + k, above, color);
-            const std::int32_t below = place.bottom + TriangleDistanceBelow + k;
-            const std::int32_t width = TriangleLeg - 1 - k;
-            DrawRow(surface, place.left - width, place.left, below, color);
-            DrawRow(surface, place.right, place.right + width, below, color);
-        }
+        const std::int32_t left = place.left - TriangleLeg + 1;
+        const std::int32_t above = place.top - TriangleDistanceAbove;
+        const std::int32_t below = place.bottom + TriangleDistanceBelow;
+        const auto fill = [&](std::int32_t x, std::int32_t y, Corner corner) {
+            surface.FillTriangle(MakeRect(x, y, TriangleLeg, TriangleLeg), corner, color);
+        };
+        fill(left, above, Corner::BottomRight);
+        fill(place.right, above, Corner::BottomLeft);
+        fill(left, below, Corner::TopRight);
+        fill(place.right, below, Corner::TopLeft);
     });
 }
 

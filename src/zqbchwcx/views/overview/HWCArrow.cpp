@@ -46,8 +46,11 @@ HWCArrow::HWCArrow(UserControl& oControl) noexcept : mRegistration(ClassName), m
         auto& toolkit = *G_ServiceRoot().toolkit;
         for (std::size_t i = 0; i < mashpArrow.size(); ++i)
             mashpArrow[i] = toolkit.CreateShape(mControl, "shp_Arrow", ShaftDesign[i]);
-        for (std::size_t i = 0; i < mashpEnd.size(); ++i)
+        for (std::size_t i = 0; i < mashpEnd.size(); ++i) {
             mashpEnd[i] = toolkit.CreateShape(mControl, "shp_End", HeadDesign[i]);
+            const bool bTip = i + 1 == HeadDesign.size();
+            if (mashpEnd[i]) mashpEnd[i]->Slope(bTip ? 0 : HeadDesign[i + 1].height());
+        }
     });
     P_HideArrow();
 }
