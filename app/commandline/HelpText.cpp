@@ -78,12 +78,14 @@ LocalizedText checkText()
 {
     return {R"(Usage: quillon-ed check STATION... [--lang de|en]
 
-Names every broken rule of the stations, one a line: file, place, rule and reason.
+Names every broken rule of the stations, one a line: file, place, rule and reason. A station that is larger than its
+picture is named, too; that breaks no rule.
 Exits with 0 when there is none, with 1 when there is one, and with 3 when a file could not be read.
 )",
             R"(Aufruf: quillon-ed check STATION... [--lang de|en]
 
-Nennt jede verletzte Regel der Stationen, eine je Zeile: Datei, Platz, Regel und Grund.
+Nennt jede verletzte Regel der Stationen, eine je Zeile: Datei, Platz, Regel und Grund. Auch eine Station, die größer
+als ihr Bild ist, wird genannt; das verletzt keine Regel.
 Der Rückgabewert ist 0, wenn es keine gibt, 1, wenn es eine gibt, und 3, wenn sich eine Datei nicht lesen ließ.
 )"};
 }

@@ -1,6 +1,7 @@
 #include "app/commandline/RunCommand.h"
 
 #include "app/commandline/TellErrors.h"
+#include "app/export/PartShown.h"
 #include "app/host/ShippedData.h"
 #include "zqbchwcx/reference/commands/CheckReport.h"
 #include "zqbchwcx/reference/commands/Convert.h"
@@ -28,6 +29,9 @@ int checkStations(const CommandLine& line, const CommandStreams& streams)
             const StationData station = LoadStation(file, catalogue).data;
             const std::string report = WriteCheckReport(CheckStation(station, catalogue), file, LanguageOf(line));
             streams.out << report;
+            // Worth knowing, but no rule is broken.
+            if (const auto part = PartShown(station))
+                streams.out << file << ": larger-than-picture: " << part->In(LanguageOf(line)) << '\n';
             return report.empty() ? ExitClean : ExitBrokenRules;
         });
         worst = std::max(worst, result);

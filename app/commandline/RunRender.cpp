@@ -3,6 +3,7 @@
 #include "app/commandline/RunCommand.h"
 #include "app/commandline/TellErrors.h"
 #include "app/export/ExportOverview.h"
+#include "app/export/PartShown.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/reference/files/StationReader.h"
@@ -38,6 +39,8 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
         if (data.kind != zqbchwcx::vxStationKindCentral)
             throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed",
                             "die Übersicht zeigt zentrale Stationen, und diese ist dezentral");
+        if (const auto part = PartShown(data))
+            streams.err << "quillon-ed: " << file << ": " << part->In(LanguageOf(line)) << '\n';
         const PageHeader header{ToQString(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
         ExportOverview(std::make_shared<Station>(services.Context(), std::move(data)), header, line.scale,

@@ -29,7 +29,8 @@ QList<QStringList> Shortcuts()
         {ShortcutTexts::tr("Ctrl + A"), ShortcutTexts::tr("Select all places of the rack")},
         {ShortcutTexts::tr("Ctrl + F"), ShortcutTexts::tr("Find a module type; Enter inserts it at the focus")},
         {ShortcutTexts::tr("Menu key, Shift + F10"), ShortcutTexts::tr("Menu of the focused place")},
-        {ShortcutTexts::tr("Drag a module"), ShortcutTexts::tr("Move it to a place or a gap, with Ctrl copy it")},
+        {ShortcutTexts::tr("Drag a module"),
+         ShortcutTexts::tr("Move it to a place or a gap; Ctrl on the way copies it")},
         {ShortcutTexts::tr("Drag on empty ground"), ShortcutTexts::tr("Select the places in the frame")},
     };
 }

@@ -7,7 +7,7 @@
 namespace quillon_ed {
 
 /// The path, without an ending, that a file made from the document is proposed to have: beside the station's own file,
-/// or among the user's documents under the station's name.
-QString ProposedName(const Document& document);
+/// or in the other folder when there is none, or no folder of it any more; without a file under the station's name.
+QString ProposedName(const Document& document, const QString& otherFolder);
 
 } // namespace quillon_ed

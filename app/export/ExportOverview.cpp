@@ -1,6 +1,7 @@
 #include "app/export/ExportOverview.h"
 
 #include "app/export/PaperOverview.h"
+#include "app/export/PartShown.h"
 #include "app/export/ShowStation.h"
 #include "app/export/WriteBytes.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
+#include <QPalette>
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
@@ -20,17 +22,28 @@ using namespace zqbchwcx;
 
 namespace {
 
-QByteArray PngOf(const VxHWStationPtr& station, double scale)
+QByteArray PngOf(const reference::StationPtr& station, double scale)
 {
     qt::RackOverviewWidget widget;
     widget.resize(widget.sizeHint());
     ShowStation(*widget.Control(), station);
+    const QImage overview = widget.RenderToImage(scale);
+    const PictureCaption caption(PartShownText(*station), widget.width());
+    const QPalette& palette = widget.palette();
+    QImage image(overview.width(), overview.height() + static_cast<int>(caption.Height() * scale), overview.format());
+    image.fill(palette.color(QPalette::Base));
+    QPainter painter(&image);
+    painter.drawImage(0, 0, overview);
+    painter.translate(0, overview.height());
+    painter.scale(scale, scale);
+    caption.Paint(painter, palette.color(QPalette::Text));
+    painter.end();
     QBuffer buffer;
-    widget.RenderToImage(scale).save(&buffer, "PNG");
+    image.save(&buffer, "PNG");
     return buffer.data();
 }
 
-QByteArray SvgOf(const VxHWStationPtr& station, const QString& title)
+QByteArray SvgOf(const reference::StationPtr& station, const QString& title)
 {
     const PaperOverview overview(station);
     QBuffer buffer;
@@ -46,7 +59,7 @@ QByteArray SvgOf(const VxHWStationPtr& station, const QString& title)
     return buffer.data();
 }
 
-QByteArray PdfOf(const VxHWStationPtr& station, const PageHeader& header)
+QByteArray PdfOf(const reference::StationPtr& station, const PageHeader& header)
 {
     const PaperOverview overview(station);
     QBuffer buffer;
@@ -72,7 +85,8 @@ std::optional<PictureFormat> PictureFormatOf(const QString& fileName)
     return {};
 }
 
-void ExportOverview(const VxHWStationPtr& station, const PageHeader& header, double scale, const QString& fileName)
+void ExportOverview(const reference::StationPtr& station, const PageHeader& header, double scale,
+                    const QString& fileName)
 {
     const auto format = PictureFormatOf(fileName);
     if (!format)

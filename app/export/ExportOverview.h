@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/export/StationPages.h"
-#include "zqbchwcx/foundation/model/Fwd.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
 
 #include <QString>
 
@@ -15,9 +15,10 @@ enum class PictureFormat { Png, Svg, Pdf };
 std::optional<PictureFormat> PictureFormatOf(const QString& fileName);
 
 /// Draws the overview of a central station into the file, replacing it in one step: pixels with that many device
-/// pixels to a logical one (PNG), a vector picture (SVG), or a page with a header (PDF; vectors).
+/// pixels to a logical one (PNG), a vector picture (SVG), or a page with a header (PDF; vectors). What the overview
+/// leaves out of the station stands below it.
 /// Throws FileError when the file name has another ending or the file cannot be written; it is then as it was.
-void ExportOverview(const zqbchwcx::VxHWStationPtr& station, const PageHeader& header, double scale,
+void ExportOverview(const zqbchwcx::reference::StationPtr& station, const PageHeader& header, double scale,
                     const QString& fileName);
 
 } // namespace quillon_ed

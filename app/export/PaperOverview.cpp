@@ -2,9 +2,12 @@
 
 #include "app/export/PaperSite.h"
 #include "app/export/PaperToolkit.h"
+#include "app/export/PartShown.h"
 #include "app/export/ShowStation.h"
 #include "zqbchwcx/foundation/ServiceRoot.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+
+#include <QPainter>
 
 namespace quillon_ed {
 
@@ -31,7 +34,8 @@ private:
 
 } // namespace
 
-PaperOverview::PaperOverview(const VxHWStationPtr& station) : moSite(std::make_unique<PaperSite>(nullptr, SheetRect))
+PaperOverview::PaperOverview(const reference::StationPtr& station)
+    : mCaption(PartShownText(*station), SheetRect.width()), moSite(std::make_unique<PaperSite>(nullptr, SheetRect))
 {
     const PaperBracket paper;
     moView = std::make_unique<VxHWRackOverview>(*moSite);
@@ -43,12 +47,16 @@ PaperOverview::~PaperOverview() = default;
 QSizeF PaperOverview::Size() const
 {
     const zqbchwcx::Size extent = moSite->Extent();
-    return QSizeF(extent.width, extent.height);
+    return QSizeF(extent.width, extent.height + mCaption.Height());
 }
 
 void PaperOverview::Paint(QPainter& painter) const
 {
     moSite->Paint(painter);
+    painter.save();
+    painter.translate(0, moSite->Extent().height);
+    mCaption.Paint(painter, Qt::black);
+    painter.restore();
 }
 
 } // namespace quillon_ed

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "zqbchwcx/foundation/model/Fwd.h"
+#include "app/export/PictureCaption.h"
+#include "zqbchwcx/reference/model/contract/Station.h"
 
 #include <QSizeF>
 
@@ -16,13 +17,14 @@ namespace quillon_ed {
 
 class PaperSite;
 
-/// The overview of a central station on paper: in vectors, on white, without selection and focus.
+/// The overview of a central station on paper: in vectors, on white, without selection and focus. What it leaves out
+/// stands below it.
 ///
 /// Needs the service root of the screen, whose pictures it uses. Shows the station as it was at the creation or at
 /// a later change of the station.
 class PaperOverview {
 public:
-    explicit PaperOverview(const zqbchwcx::VxHWStationPtr& station);
+    explicit PaperOverview(const zqbchwcx::reference::StationPtr& station);
     ~PaperOverview();
 
     /// In logical pixels.
@@ -30,6 +32,7 @@ public:
     void Paint(QPainter& painter) const;
 
 private:
+    PictureCaption mCaption;
     std::unique_ptr<PaperSite> moSite;
     std::unique_ptr<zqbchwcx::VxHWRackOverview> moView;
 };

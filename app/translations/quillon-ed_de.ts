@@ -733,8 +733,8 @@
         <translation>Baugruppe ziehen</translation>
     </message>
     <message>
-        <source>Move it to a place or a gap, with Ctrl copy it</source>
-        <translation>Verschiebt sie auf einen Platz oder in eine Lücke, mit Strg kopiert</translation>
+        <source>Move it to a place or a gap; Ctrl on the way copies it</source>
+        <translation>Verschiebt sie auf einen Platz oder in eine Lücke; Strg unterwegs kopiert sie</translation>
     </message>
     <message>
         <source>Drag on empty ground</source>

@@ -1,6 +1,7 @@
 #include "app/window/ExportCommands.h"
 
 #include "app/document/Document.h"
+#include "app/document/LastFolder.h"
 #include "app/document/ProposedName.h"
 #include "app/export/ExportModuleList.h"
 #include "app/export/ExportOverview.h"
@@ -41,9 +42,10 @@ QString SuffixOf(const QString& filter)
 }
 
 /// Beside the station, under its name. Empty when the user changed their mind.
-QString AskFileName(const Document& document, const QString& title, const QStringList& filters, QWidget* parent)
+QString AskFileName(const Document& document, AppServices& services, const QString& title, const QStringList& filters,
+                    QWidget* parent)
 {
-    const QFileInfo proposed(ProposedName(document));
+    const QFileInfo proposed(ProposedName(document, LastFolder(services.Settings())));
     QFileDialog dialog(parent, title, proposed.absolutePath());
     dialog.setNameFilters(filters);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -65,6 +67,7 @@ QString Export(const QString& file, AppServices& services, QWidget* parent, cons
     if (file.isEmpty()) return {};
     try {
         step();
+        RememberFolderOf(file, services.Settings());
         return ExportTexts::tr("“%1” was written.").arg(QDir::toNativeSeparators(file));
     } catch (const reference::FileError& error) {
         QMessageBox box(QMessageBox::Critical, ExportTexts::tr("Quillon Ed"), failure, QMessageBox::Close, parent);
@@ -78,7 +81,7 @@ QString Export(const QString& file, AppServices& services, QWidget* parent, cons
 
 QString ExportPicture(AppServices& services, const Document& document, QWidget* parent)
 {
-    const QString file = AskFileName(document, ExportTexts::tr("Export picture"),
+    const QString file = AskFileName(document, services, ExportTexts::tr("Export picture"),
                                      {ExportTexts::tr("Page (*.pdf)"), ExportTexts::tr("Picture (*.png)"),
                                       ExportTexts::tr("Vector picture (*.svg)")},
                                      parent);
@@ -89,7 +92,7 @@ QString ExportPicture(AppServices& services, const Document& document, QWidget* 
 QString ExportList(AppServices& services, const Document& document, QWidget* parent)
 {
     const QString file =
-        AskFileName(document, ExportTexts::tr("Export module list"),
+        AskFileName(document, services, ExportTexts::tr("Export module list"),
                     {ExportTexts::tr("Comma-separated values (*.csv)"), ExportTexts::tr("Markdown (*.md)")}, parent);
     return Export(file, services, parent, ExportTexts::tr("The module list cannot be exported."), [&] {
         ExportModuleList(document.Station()->Data(), services.Catalogue(), services.CurrentLanguage(), file);

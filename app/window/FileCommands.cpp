@@ -3,6 +3,7 @@
 #include "app/dialogs/NewStationDialog.h"
 #include "app/dialogs/RecoveryDialog.h"
 #include "app/document/JournalDirectory.h"
+#include "app/document/LastFolder.h"
 #include "app/document/ProposedName.h"
 #include "app/host/ShippedData.h"
 #include "app/host/Strings.h"
@@ -86,10 +87,9 @@ void FileCommands::New()
 
 void FileCommands::Open()
 {
-    const QString directory =
-        moDocument && !moDocument->FileName().isEmpty() ? QFileInfo(moDocument->FileName()).absolutePath() : QString();
-    const QString fileName = QFileDialog::getOpenFileName(&moWindow, tr("Open station"), directory,
-                                                          tr("Stations (*.station.json *.json);;All files (*)"));
+    const QString fileName =
+        QFileDialog::getOpenFileName(&moWindow, tr("Open station"), LastFolder(moServices.Settings()),
+                                     tr("Stations (*.station.json *.json);;All files (*)"));
     if (!fileName.isEmpty()) OpenFile(fileName);
 }
 
@@ -100,7 +100,7 @@ bool FileCommands::OpenFile(const QString& fileName)
     try {
         LoadedStation loaded = LoadStation(path.toStdString(), moServices.Catalogue());
         Adopt(MakeDocument(std::move(loaded.data), {path.toStdString(), loaded.stamp}));
-        moRecentFiles.Add(path);
+        Remember(path);
         return true;
     } catch (const FileError& error) {
         if (!QFileInfo::exists(path)) moRecentFiles.Remove(path);
@@ -123,10 +123,10 @@ void FileCommands::OpenExample(const QString& resource)
     }
 }
 
-QString FileCommands::ProposedFileName() const
+void FileCommands::Remember(const QString& fileName)
 {
-    if (!moDocument->FileName().isEmpty()) return moDocument->FileName();
-    return ProposedName(*moDocument) + u'.' + StationSuffix;
+    moRecentFiles.Add(fileName);
+    RememberFolderOf(fileName, moServices.Settings());
 }
 
 bool FileCommands::Save()
@@ -147,10 +147,12 @@ bool FileCommands::Save()
 bool FileCommands::SaveAs()
 {
     if (!moDocument) return false;
-    QFileDialog dialog(&moWindow, tr("Save station"), ProposedFileName(), tr("Stations (*.station.json)"));
+    const QFileInfo proposed(ProposedName(*moDocument, LastFolder(moServices.Settings())) + u'.' + StationSuffix);
+    QFileDialog dialog(&moWindow, tr("Save station"), proposed.absolutePath(), tr("Stations (*.station.json)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(StationSuffix);
-    dialog.selectFile(ProposedFileName());
+    const QString& file = moDocument->FileName();
+    dialog.selectFile(file.isEmpty() ? proposed.fileName() : QFileInfo(file).fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
     return SaveTo(dialog.selectedFiles().front());
 }
@@ -159,7 +161,7 @@ bool FileCommands::SaveTo(const QString& fileName)
 {
     try {
         moDocument->Save(fileName);
-        moRecentFiles.Add(fileName);
+        Remember(fileName);
         return true;
     } catch (const FileError& error) {
         QMessageBox box(QMessageBox::Critical, tr("Quillon Ed"),

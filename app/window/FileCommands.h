@@ -66,7 +66,8 @@ private:
     void AnswerForeignChange(zqbchwcx::reference::FileChange change);
     void Recover(const zqbchwcx::reference::RecoverableJournal& journal);
     void Tell(const QString& what, const QString& reason);
-    QString ProposedFileName() const;
+    /// The file is the one that the user works with now.
+    void Remember(const QString& fileName);
 
     AppServices& moServices;
     RecentFiles& moRecentFiles;

@@ -45,11 +45,27 @@ constexpr char ClassName[] = "MainWindow";
 const QString GeometryKey = QStringLiteral("Window/Geometry");
 const QString StateKey = QStringLiteral("Window/State");
 
-bool HasParamDialogInSelection(const VxHWSelectionHandler& handler)
+/// What can be done with a station and its selection.
+struct EditOffer {
+    bool copy = false;
+    bool change = false;
+    bool paste = false;
+    bool parameters = false;
+    bool picture = false;
+};
+
+/// Pasting is offered wherever the focus is, as inserting is: what speaks against a place is told when it is tried.
+EditOffer OfferOf(const VxHWStation& station, const VxHWSelectionHandler& handler, bool hasClipboard)
 {
-    bool found = false;
-    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) found = found || place->Module()->HasParamDialog();
-    return found;
+    EditOffer offer;
+    offer.copy = handler.IsModuleInSelection() && station.DisplayMode() == vxDisplayModeOffline;
+    offer.change = offer.copy && !station.IsReadOnly();
+    offer.paste = hasClipboard && !station.IsReadOnly();
+    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
+        offer.parameters = offer.parameters || place->Module()->HasParamDialog();
+    }
+    offer.picture = station.StationKind() == vxStationKindCentral;
+    return offer;
 }
 
 QString InSentence(const QString& step, Language language)
@@ -179,7 +195,7 @@ void MainWindow::ConnectEditActions()
     on(moActions.editRedo, [this] { Step(&reference::History::Redo); });
     on(moActions.editCut, [this] { moView->Manager().Cut(); });
     on(moActions.editCopy, [this] { moView->Manager().Copy(); });
-    on(moActions.editPaste, [this] { moView->Manager().Paste(); });
+    on(moActions.editPaste, [this] { Paste(); });
     on(moActions.editDelete, [this] { moView->Manager().Delete(); });
     on(moActions.editParameters, [this] { moView->Manager().EditModuleParams(); });
     on(moActions.editSelectRack, [this] { SelectRack(); });
@@ -316,35 +332,34 @@ void MainWindow::UpdateActions()
     UpdateTitle();
     Document* document = moView ? moFiles.Current() : nullptr;
     moStatusLine->Show(document, moView);
-    for (QAction* action : {&moActions.fileSave, &moActions.fileSaveAs, &moActions.fileClose, &moActions.exportPicture,
-                            &moActions.exportList, &moActions.filePrint, &moActions.editUndo, &moActions.editRedo,
-                            &moActions.editCut, &moActions.editCopy, &moActions.editPaste, &moActions.editDelete,
-                            &moActions.editParameters, &moActions.editSelectRack}) {
+    for (QAction* action : {&moActions.fileSave, &moActions.fileSaveAs, &moActions.fileClose, &moActions.exportList,
+                            &moActions.filePrint, &moActions.editSelectRack}) {
         action->setEnabled(document != nullptr);
     }
     if (moCatalogue) moCatalogue->InsertEnabled(document && !document->Station()->IsReadOnly());
-    moActions.NameUndo({}, {});
-    if (!document) return;
-    const Language language = moServices.CurrentLanguage();
-    const reference::History& history = document->History();
-    moActions.editUndo.setEnabled(history.CanUndo());
-    moActions.editRedo.setEnabled(history.CanRedo());
-    moActions.NameUndo(InSentence(ToQString(history.UndoName()), language),
-                       InSentence(ToQString(history.RedoName()), language));
-    G_Trap(ClassName, "UpdateEditActions", [&] { UpdateEditActions(*document->Station()); });
-}
 
-void MainWindow::UpdateEditActions(const VxHWStation& station)
-{
-    const VxHWSelectionHandler& handler = *moView->Handler();
-    const bool mayCopy = handler.IsModuleInSelection() && station.DisplayMode() == vxDisplayModeOffline;
-    const bool mayChange = mayCopy && !station.IsReadOnly();
-    moActions.editCopy.setEnabled(mayCopy);
-    moActions.editCut.setEnabled(mayChange);
-    moActions.editDelete.setEnabled(mayChange);
-    moActions.editPaste.setEnabled(CanPaste(station));
-    moActions.editParameters.setEnabled(HasParamDialogInSelection(handler));
-    moActions.exportPicture.setEnabled(station.StationKind() == vxStationKindCentral);
+    // What is shown changes once and only when it is different: tools that are switched off and on again flicker.
+    const reference::History* history = document ? &document->History() : nullptr;
+    const auto name = [&](const std::string& step) {
+        return InSentence(ToQString(step), moServices.CurrentLanguage());
+    };
+    moActions.editUndo.setEnabled(history && history->CanUndo());
+    moActions.editRedo.setEnabled(history && history->CanRedo());
+    moActions.NameUndo(history ? name(history->UndoName()) : QString(),
+                       history ? name(history->RedoName()) : QString());
+    EditOffer offer;
+    if (document) {
+        G_Trap(ClassName, "UpdateActions", [&] {
+            const bool hasClipboard = moClipboardModules && moClipboardModules->Count() > 0;
+            offer = OfferOf(*document->Station(), *moView->Handler(), hasClipboard);
+        });
+    }
+    moActions.editCopy.setEnabled(offer.copy);
+    moActions.editCut.setEnabled(offer.change);
+    moActions.editDelete.setEnabled(offer.change);
+    moActions.editPaste.setEnabled(offer.paste);
+    moActions.editParameters.setEnabled(offer.parameters);
+    moActions.exportPicture.setEnabled(offer.picture);
 }
 
 void MainWindow::ReadClipboard()
@@ -355,10 +370,22 @@ void MainWindow::ReadClipboard()
     }
 }
 
-bool MainWindow::CanPaste(const VxHWStation& station) const
+void MainWindow::Paste()
 {
-    if (station.IsReadOnly() || !moClipboardModules || moClipboardModules->Count() == 0) return false;
-    return station.CanBePlaced(moView->Handler()->FocusPosition(), moClipboardModules, false, nullptr);
+    QString refusal;
+    G_Trap(ClassName, "Paste", [&] {
+        const auto objection = moFiles.Current()->Station()->AgainstPlacing(moView->Handler()->FocusPosition(),
+                                                                            moClipboardModules, false, nullptr);
+        if (objection) refusal = ToQString(objection->text, moServices.CurrentLanguage());
+    });
+    if (refusal.isEmpty()) moView->Manager().Paste();
+    else Refuse(refusal);
+}
+
+void MainWindow::Refuse(const QString& reason)
+{
+    QApplication::beep();
+    moStatusLine->Tell(reason);
 }
 
 void MainWindow::SelectRack()
@@ -375,9 +402,7 @@ void MainWindow::Insert(const QString& orderNumber)
     Document* document = moFiles.Current();
     if (!document) return;
     const QString refusal = InsertModule(moServices, *document, *moView, orderNumber);
-    if (refusal.isEmpty()) return;
-    QApplication::beep();
-    moStatusLine->Tell(refusal);
+    if (!refusal.isEmpty()) Refuse(refusal);
 }
 
 void MainWindow::Step(bool (reference::History::*step)())

@@ -49,9 +49,10 @@ private:
     void ShowDocument();
     void UpdateTitle();
     void UpdateActions();
-    void UpdateEditActions(const zqbchwcx::VxHWStation& station);
     void ReadClipboard();
-    bool CanPaste(const zqbchwcx::VxHWStation& station) const;
+    void Paste();
+    /// Tells why something was not done.
+    void Refuse(const QString& reason);
     void SelectRack();
     void Insert(const QString& orderNumber);
     void Step(bool (zqbchwcx::reference::History::*step)());

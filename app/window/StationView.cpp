@@ -2,13 +2,17 @@
 
 #include "app/document/Document.h"
 #include "app/document/SharedView.h"
+#include "app/export/PartShown.h"
 #include "app/window/DistributedNote.h"
 #include "app/window/ModuleList.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
 #include "zqbchwcx/reference/services/QuietView.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
 
 namespace quillon_ed {
 
@@ -47,7 +51,7 @@ StationView::StationView(Document& document, QWidget* parent)
       moManager(std::make_unique<VxHWConfigManager>())
 {
     const reference::StationPtr& station = document.Station();
-    QWidget* left = station->StationKind() == vxStationKindCentral ? MakeOverview() : MakeNote();
+    QWidget* left = MakeLeftSide();
     moManager->Initialize(static_cast<VxEnumStationType>(station->StationKind()), moOverview, moTable, station);
     moHandler = moManager->VxHWSelectionHandler();
     moDragWatch = std::make_shared<DragWatch>(moTable->VxHWDragDropController(), moHandler);
@@ -83,6 +87,33 @@ StationView::~StationView()
     moManager->Terminate();
 }
 
+QWidget* StationView::MakeLeftSide()
+{
+    const reference::Station& station = *moDocument.Station();
+    if (station.StationKind() != vxStationKindCentral) return MakeNote();
+    QWidget* overview = MakeOverview();
+    const QString part = PartShownText(station);
+    if (part.isEmpty()) return overview;
+    auto* left = new QWidget(this);
+    auto* column = new QVBoxLayout(left);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    moPartShown = new QLabel(part, left);
+    moPartShown->setTextFormat(Qt::PlainText);
+    moPartShown->setWordWrap(true);
+    moPartShown->setMargin(6);
+    moPartShown->setFixedWidth(OverviewWidth);
+    column->addWidget(overview, 1);
+    column->addWidget(moPartShown);
+    connect(&moDocument, &Document::changed, this, &StationView::TellPartShown);
+    return left;
+}
+
+void StationView::TellPartShown()
+{
+    if (moPartShown) moPartShown->setText(PartShownText(*moDocument.Station()));
+}
+
 QWidget* StationView::MakeOverview()
 {
     auto* widget = new qt::RackOverviewWidget(this);
@@ -103,6 +134,12 @@ QWidget* StationView::MakeNote()
 reference::ViewState StationView::View() const
 {
     return moDragWatch->IsDragging() ? moDragWatch->ViewBefore() : CaptureView(*moHandler);
+}
+
+void StationView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) TellPartShown();
 }
 
 void StationView::FocusStation()

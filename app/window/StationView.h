@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+class QLabel;
+
 namespace quillon_ed {
 
 class Document;
@@ -32,6 +34,9 @@ public:
     zqbchwcx::reference::ViewState View() const;
     void FocusStation();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 signals:
     void selectionChanged();
     void menuRequested(const QPoint& globalPosition);
@@ -39,6 +44,8 @@ signals:
 private:
     class DragWatch;
 
+    QWidget* MakeLeftSide();
+    void TellPartShown();
     QWidget* MakeOverview();
     QWidget* MakeNote();
 
@@ -50,6 +57,7 @@ private:
     std::shared_ptr<DragWatch> moDragWatch;
     QWidget* moOverviewWidget = nullptr;
     QWidget* moList = nullptr;
+    QLabel* moPartShown = nullptr; ///< below a picture that is not whole
     std::vector<zqbchwcx::EventConnection> mcolConnections;
 };
 

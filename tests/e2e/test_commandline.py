@@ -166,14 +166,32 @@ class Render(Home):
         self.assertGreater(tags.count("path") + tags.count("rect") + tags.count("polygon"), 100)
         self.assertNotIn("image", tags)
 
+    def pdf_text(self):
+        return subprocess.run(["pdftotext", "-layout", "view.pdf", "-"], cwd=self.folder, text=True, check=True,
+                              stdout=subprocess.PIPE).stdout
+
     def test_a_pdf_page_has_a_header(self):
         station = self.station()
         name = json.loads(station.read_text(encoding="utf-8"))["name"]
         self.succeed("render", station, "-o", "view.pdf")
-        text = subprocess.run(["pdftotext", "-layout", "view.pdf", "-"], cwd=self.folder, text=True, check=True,
-                              stdout=subprocess.PIPE).stdout
-        self.assertIn(name, text)
-        self.assertIn("Page 1 of 1", text)
+        self.assertIn(name, self.pdf_text())
+        self.assertIn("Page 1 of 1", self.pdf_text())
+
+    def test_a_station_that_is_larger_than_its_picture_is_told_everywhere(self):
+        station = self.station()
+        self.succeed("render", station, "-o", "view.png")
+        height = read_png(self.folder / "view.png").height
+        data = json.loads(station.read_text(encoding="utf-8"))
+        data["racks"] = data["racks"][:1] + [{"present": True, "placeCount": 12}] * 4
+        station.write_text(json.dumps(data), encoding="utf-8")
+        text = "The picture shows 4 of 5 racks and 11 of 12 places in a rack; modules left out: 0"
+        self.assertEqual(self.succeed("check", station), f"{station}: larger-than-picture: {text}\n")
+        for ending in ("png", "svg", "pdf"):
+            done = self.run_command("render", station, "-o", f"view.{ending}")
+            self.assertEqual((done.returncode, done.stderr), (CLEAN, f"quillon-ed: {station}: {text}\n"))
+        self.assertGreater(read_png(self.folder / "view.png").height, height)
+        self.assertIn("The picture shows 4 of 5", (self.folder / "view.svg").read_text(encoding="utf-8"))
+        self.assertIn("The picture shows 4 of 5", self.pdf_text())
 
     def test_what_cannot_be_drawn_or_written_is_told_and_leaves_no_half_file(self):
         station = self.station()

@@ -107,10 +107,10 @@ TEST_F(DocumentTest, NoticesWhatAnotherProgramDidToTheFile)
 
 TEST_F(DocumentTest, ProposesNamesThatAFileCanHave)
 {
-    EXPECT_EQ(ProposedName(*document), path.chopped(QStringLiteral(".station.json").size()));
+    EXPECT_EQ(ProposedName(*document, {}), path.chopped(QStringLiteral(".station.json").size()));
     StationData unsaved = document->Station()->Data();
     unsaved.name = "Hall 1/2: \"old\"";
-    EXPECT_EQ(QFileInfo(ProposedName(*MakeDocument(unsaved))).fileName(), QStringLiteral("Hall 1-2- -old-"));
+    EXPECT_EQ(ProposedName(*MakeDocument(unsaved), QStringLiteral("/tmp")), QStringLiteral("/tmp/Hall 1-2- -old-"));
 }
 
 TEST_F(DocumentTest, AJournalHoldsWhatADyingProgramHadNotSaved)

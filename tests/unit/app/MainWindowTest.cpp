@@ -22,6 +22,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <gmock/gmock.h>
+
 namespace quillon_ed {
 namespace {
 
@@ -71,6 +73,21 @@ protected:
         timer->start(1);
     }
 
+    /// Answers the next question for a file with that one.
+    void SaveAs(const QString& file, QString* proposedFolder = nullptr) const
+    {
+        auto* timer = new QTimer(window.get());
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, file, proposedFolder] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            timer->stop();
+            if (proposedFolder) *proposedFolder = dialog->directory().absolutePath();
+            dialog->selectFile(file);
+            QMetaObject::invokeMethod(dialog, "accept");
+        });
+        timer->start(1);
+    }
+
     std::unique_ptr<MainWindow> window;
 };
 
@@ -91,7 +108,7 @@ TEST_F(MainWindowTest, OffersOnlyWhatCanBeDone)
     EXPECT_FALSE(window->isWindowModified());
 }
 
-TEST_F(MainWindowTest, PasteFollowsTheClipboardAndTheFocus)
+TEST_F(MainWindowTest, PasteFollowsTheClipboardAndSaysWhyNot)
 {
     Open();
     auto* view = window->findChild<StationView*>();
@@ -99,12 +116,32 @@ TEST_F(MainWindowTest, PasteFollowsTheClipboardAndTheFocus)
     Action("Select all of the rack")->trigger();
     Action("Copy")->trigger();
     QCoreApplication::processEvents();
-    EXPECT_FALSE(IsEnabled("Paste")) << "every place is occupied";
+    Action("Paste")->trigger();
+    EXPECT_THAT(window->statusBar()->currentMessage().toStdString(), ::testing::HasSubstr("place 4 of rack 0"));
+    EXPECT_FALSE(window->isWindowModified());
     Action("Delete")->trigger();
     view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 1));
     EXPECT_TRUE(IsEnabled("Paste"));
     Action("Paste")->trigger();
     EXPECT_TRUE(IsEnabled("Undo paste"));
+}
+
+TEST_F(MainWindowTest, ActionsChangeOnlyWhenTheirStateDoes)
+{
+    Open();
+    auto* view = window->findChild<StationView*>();
+    Action("Copy")->trigger();
+    Action("Delete")->trigger();
+    Action("Undo delete")->trigger();
+    QCoreApplication::processEvents();
+    view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 4));
+    QStringList changed;
+    const QObject watch;
+    for (auto* menu : window->findChildren<QMenu*>())
+        for (auto* action : menu->actions())
+            QObject::connect(action, &QAction::changed, &watch, [&, action] { changed << action->text(); });
+    for (const std::int32_t place : {5, 11, 1}) view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, place));
+    EXPECT_EQ(changed.join(u' ').toStdString(), "");
 }
 
 TEST_F(MainWindowTest, SpeaksTheLanguageThatIsChosenWhileItRuns)
@@ -249,18 +286,31 @@ TEST_F(MainWindowTest, SavingElsewhereWhileClosingCloses)
     WriteFile(path, ReadWhole(QStringLiteral(":/examples/packaging-line.station.json")));
     Answer("Save");
     Answer("Save as…");
-    auto* timer = new QTimer(window.get());
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, copy] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog) return;
-        timer->stop();
-        dialog->selectFile(copy);
-        QMetaObject::invokeMethod(dialog, "accept");
-    });
-    timer->start(1);
+    SaveAs(copy);
     EXPECT_TRUE(window->Files().Close());
     EXPECT_TRUE(QFile::exists(copy));
     EXPECT_FALSE(window->Files().Current());
+}
+
+TEST_F(MainWindowTest, ProposesTheLastFolderOrElseOneThatExists)
+{
+    const QByteArray home = qgetenv("HOME");
+    qputenv("HOME", folder.path().toLocal8Bit()); // without a folder for documents
+    const QString used = Path("used");
+    const auto proposed = [&](const QString& savedIn) {
+        Open();
+        QString proposal;
+        SaveAs(savedIn + QStringLiteral("/new.station.json"), &proposal);
+        QFile::remove(savedIn + QStringLiteral("/new.station.json"));
+        EXPECT_TRUE(window->Files().Save());
+        return proposal;
+    };
+    ASSERT_TRUE(QDir().mkdir(used));
+    EXPECT_EQ(proposed(used), folder.path());
+    EXPECT_EQ(proposed(used), used);
+    QDir(used).removeRecursively();
+    EXPECT_EQ(proposed(folder.path()), folder.path());
+    qputenv("HOME", home);
 }
 
 TEST_F(MainWindowTest, ClosesItsMenuBeforeItself)

@@ -15,9 +15,12 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QTableView>
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace quillon_ed {
 namespace {
@@ -148,6 +151,29 @@ TEST_F(StationViewTest, PositionsAreToldForPeople)
     EXPECT_EQ(text(G_GapPosition(0, 0)), "Rack 0 · before place 1");
     EXPECT_EQ(text(G_GapPosition(0, 11)), "Rack 0 · behind place 11");
     EXPECT_EQ(text(vxNoPosition), "");
+}
+
+TEST_F(StationViewTest, APictureThatIsNotWholeSaysSo)
+{
+    const auto told = [&](std::size_t racks, std::size_t places) {
+        view.reset();
+        reference::StationData data = OpenExample()->Station()->Data();
+        reference::RackData rack = *data.racks.front();
+        rack.places.resize(places);
+        rack.places.back().module = rack.places.front().module;
+        data.racks.assign(racks, std::make_shared<const reference::RackData>(rack));
+        document = MakeDocument(data);
+        view = std::make_unique<StationView>(*document, nullptr);
+        QString text;
+        for (const auto* label : view->findChildren<QLabel*>()) text += label->text();
+        return text.toStdString();
+    };
+    EXPECT_EQ(told(4, 11), "");
+    EXPECT_EQ(told(2, 13), "The picture shows 11 of 13 places in a rack; modules left out: 2");
+    const auto inRack = 1 + std::ranges::count_if(OpenExample()->Station()->Data().racks.front()->places,
+                                                  [](const auto& place) { return place.module != nullptr; });
+    EXPECT_EQ(told(5, 12), "The picture shows 4 of 5 racks and 11 of 12 places in a rack; modules left out: " +
+                               std::to_string(4 + inRack));
 }
 
 TEST_F(StationViewTest, EveryExampleCanBeShownAndClosed)
