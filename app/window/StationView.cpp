@@ -103,6 +103,9 @@ QWidget* StationView::MakeLeftSide()
     moPartShown->setWordWrap(true);
     moPartShown->setMargin(6);
     moPartShown->setFixedWidth(OverviewWidth);
+    moPartShown->setBackgroundRole(QPalette::Base);
+    moPartShown->setForegroundRole(QPalette::Text);
+    moPartShown->setAutoFillBackground(true);
     column->addWidget(overview, 1);
     column->addWidget(moPartShown);
     connect(&moDocument, &Document::changed, this, &StationView::TellPartShown);
