@@ -1,21 +1,15 @@
 #include "zqbchwcx/qt/QtTooltips.h"
 
 #include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/PlainText.h"
 #include "zqbchwcx/qt/WindowHandle.h"
 
 #include <QHelpEvent>
 #include <QPointer>
-#include <QTextDocument>
 #include <QToolTip>
 
 namespace zqbchwcx::qt {
 namespace {
-
-QString PlainText(const std::string& text)
-{
-    const QString plain = QString::fromStdString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    return Qt::mightBeRichText(plain) ? Qt::convertFromPlainText(plain) : plain;
-}
 
 class Connection : public QObject, public TooltipConnection {
 public:
@@ -35,7 +29,7 @@ protected:
             event->ignore();
         } else {
             const Rect& area = tooltip.area;
-            QToolTip::showText(help.globalPos(), PlainText(tooltip.text), mWidget,
+            QToolTip::showText(help.globalPos(), ToolTipText(QString::fromStdString(tooltip.text)), mWidget,
                                QRect(area.left, area.top, area.width(), area.height()));
         }
         return true;

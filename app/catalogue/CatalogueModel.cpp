@@ -1,5 +1,6 @@
 #include "app/catalogue/CatalogueModel.h"
 
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/foundation/mdl_VarConst.h"
 #include "zqbchwcx/qt/ClipboardFormats.h"
@@ -23,7 +24,7 @@ public:
     void Fill(QStandardItem& parent, const std::vector<CatalogueGroup>& groups) const
     {
         for (const CatalogueGroup& group : groups) {
-            auto* item = new QStandardItem(ToQString(group.name, meLanguage));
+            auto* item = new QStandardItem(PlainText(group.name, meLanguage));
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             Fill(*item, group.groups);
             for (const std::string& orderNumber : group.orderNumbers) AddType(*item, orderNumber);
@@ -43,15 +44,15 @@ private:
         const ModuleType* type = moCatalogue.Find(orderNumber);
         if (!type || type->isSubModule || !type->FitsStation(mlStationKind)) return;
         const QString number = ToQString(orderNumber);
-        const QString name = ToQString(type->name, meLanguage);
+        const QString name = PlainText(type->name, meLanguage);
         const QString description = ToQString(type->description, meLanguage);
         const QString searched = QStringLiteral("%1 %2 %3").arg(number, name, description).toLower();
-        QList<QStandardItem*> row{new QStandardItem(name), new QStandardItem(number)};
+        QList<QStandardItem*> row{new QStandardItem(name), new QStandardItem(PlainText(number))};
         for (QStandardItem* item : row) {
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled);
             item->setData(number, CatalogueModel::OrderNumberRole);
             item->setData(searched, CatalogueModel::SearchTextRole);
-            item->setToolTip(description);
+            item->setToolTip(ToolTipText(description));
         }
         parent.appendRow(row);
     }

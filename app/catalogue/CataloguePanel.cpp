@@ -3,6 +3,7 @@
 #include "app/catalogue/CatalogueFilter.h"
 #include "app/catalogue/CatalogueTree.h"
 #include "app/catalogue/ModuleTypeCard.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/SvgIcon.h"
 #include "zqbchwcx/foundation/model/Enumerations.h"
 
@@ -21,7 +22,7 @@ using namespace zqbchwcx::reference;
 namespace {
 
 constexpr double CardScale = 1.5;
-constexpr int SmallestWidthInCharacters = 47; ///< names and order numbers are whole
+constexpr int LeastCharacters = 30; ///< names are whole
 
 } // namespace
 
@@ -45,7 +46,7 @@ CataloguePanel::CataloguePanel(const Catalogue& catalogue, ModulePictures& pictu
     moSearch->installEventFilter(this);
     moCount->setForegroundRole(QPalette::PlaceholderText);
     moInsert->setAutoDefault(false);
-    setMinimumWidth(SmallestWidthInCharacters * fontMetrics().averageCharWidth());
+    setMinimumWidth(TextSize(*this, LeastCharacters, 1).width());
 
     auto* cardScroll = new QScrollArea(this);
     cardScroll->setWidgetResizable(true);

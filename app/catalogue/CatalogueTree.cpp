@@ -46,6 +46,18 @@ void CatalogueTree::ShowAll()
     for (QModelIndex row = model()->index(0, 0); row.isValid(); row = indexBelow(row)) {
         setFirstColumnSpanned(row.row(), row.parent(), OrderNumberAt(row).isEmpty());
     }
+    ShowOrderNumbersIfWhole();
+}
+
+void CatalogueTree::ShowOrderNumbersIfWhole()
+{
+    setColumnHidden(1, sizeHintForColumn(0) + sizeHintForColumn(1) > viewport()->width());
+}
+
+void CatalogueTree::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    ShowOrderNumbersIfWhole();
 }
 
 void CatalogueTree::startDrag(Qt::DropActions)

@@ -25,11 +25,15 @@ signals:
     void chosen(const QString& orderNumber);
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    /// Where there is no room for both, the names come first.
+    void ShowOrderNumbersIfWhole();
+
     DragPicture moDragPicture;
 };
 

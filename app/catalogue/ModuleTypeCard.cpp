@@ -1,5 +1,6 @@
 #include "app/catalogue/ModuleTypeCard.h"
 
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 
 #include <QHBoxLayout>
@@ -61,17 +62,17 @@ void ModuleTypeCard::ShowHint(const QString& text)
 
 void ModuleTypeCard::Show(const ModuleType& type, const QPixmap& picture, Language language)
 {
-    ShowText(ToQString(type.description, language), false);
+    ShowText(PlainText(type.description, language, LongestDescription), false);
     moPicture->setPixmap(picture);
-    moName->setText(ToQString(type.name, language));
-    moOrderNumber->setText(ToQString(type.orderNumber));
+    moName->setText(PlainText(type.name, language));
+    moOrderNumber->setText(PlainText(type.orderNumber));
 
     QString rows;
     if (type.placeCount > 1) rows += FactRow(tr("Places"), QString::number(type.placeCount));
     if (type.inputBytes > 0) rows += FactRow(tr("Inputs"), tr("%n byte(s)", nullptr, type.inputBytes));
     if (type.outputBytes > 0) rows += FactRow(tr("Outputs"), tr("%n byte(s)", nullptr, type.outputBytes));
     for (const auto& [name, value] : type.facts) {
-        rows += FactRow(ToQString(name, language), ToQString(value, language));
+        rows += FactRow(PlainText(name, language), PlainText(value, language));
     }
     moFacts->setText(QStringLiteral("<table cellspacing='0'>%1</table>").arg(rows));
 }

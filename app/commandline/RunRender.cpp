@@ -5,6 +5,7 @@
 #include "app/export/ExportOverview.h"
 #include "app/export/PartShown.h"
 #include "app/host/AppServices.h"
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/reference/files/StationReader.h"
 #include "zqbchwcx/reference/json/FileError.h"
@@ -41,7 +42,7 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
                             "die Übersicht zeigt zentrale Stationen, und diese ist dezentral");
         if (const auto part = PartShown(data))
             streams.err << "quillon-ed: " << file << ": " << part->In(LanguageOf(line)) << '\n';
-        const PageHeader header{ToQString(data.name), QDate::currentDate(),
+        const PageHeader header{PlainText(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
         ExportOverview(std::make_shared<Station>(services.Context(), std::move(data)), header, line.scale,
                        ToQString(line.output));

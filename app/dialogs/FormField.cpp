@@ -1,5 +1,8 @@
 #include "app/dialogs/FormField.h"
 
+#include "app/host/PlainText.h"
+#include "app/host/ReadableColors.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/SvgIcon.h"
 
 #include <QEvent>
@@ -14,13 +17,14 @@ namespace quillon_ed {
 
 namespace {
 
-constexpr int EditorWidth = 220;
-constexpr int NoteWidth = 160;
+constexpr int EditorCharacters = 18;
+constexpr int NoteCharacters = 14;
+constexpr QRgb Red = 0xB02A1E;
 
-/// Readable on light and on dark backgrounds.
 QColor ReasonColor(const QPalette& palette)
 {
-    return palette.color(QPalette::Window).lightness() < 128 ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x2a, 0x1e);
+    return ReadableColor(Red, palette.color(QPalette::WindowText),
+                         {palette.color(QPalette::Window), palette.color(QPalette::Base)});
 }
 
 } // namespace
@@ -29,11 +33,12 @@ FormField::FormField(QWidget* editor, const QString& note, QWidget* parent)
     : QWidget(parent), moEditor(editor), moReason(new QLabel(this)), moReset(new QToolButton(this))
 {
     moEditor->setParent(this);
-    moEditor->setMinimumWidth(EditorWidth);
+    moEditor->setMinimumWidth(TextSize(*this, EditorCharacters, 1).width());
     setFocusProxy(moEditor);
 
     auto* noteLabel = new QLabel(note, this);
-    noteLabel->setMinimumWidth(NoteWidth);
+    noteLabel->setMinimumWidth(TextSize(*this, NoteCharacters, 1).width());
+    noteLabel->setWordWrap(true);
     noteLabel->setForegroundRole(QPalette::PlaceholderText);
 
     moReset->setIcon(SvgIcon(QStringLiteral("reset")));
@@ -65,7 +70,7 @@ FormField::FormField(QWidget* editor, const QString& note, QWidget* parent)
 void FormField::ShowReason(const QString& reason)
 {
     const bool invalid = !reason.isEmpty();
-    moReason->setText(reason);
+    moReason->setText(PlainText(reason, LongestDescription));
     moReason->setVisible(invalid);
     const QColor color = ReasonColor(palette());
     QPalette reasonPalette = moReason->palette();

@@ -1,6 +1,7 @@
 #include "app/dialogs/ModuleForm.h"
 
 #include "app/dialogs/FormField.h"
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 
 #include <QFormLayout>
@@ -40,7 +41,7 @@ ModuleForm::ModuleForm(const ModuleType& type, const ModuleData& module, Languag
 {
     auto* form = new QFormLayout(this);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     AddGeneral(*form, type);
     if (!type.parameters.empty()) form->addRow(Heading(tr("Parameters")));
     mcolParameters.reserve(type.parameters.size());
@@ -60,7 +61,7 @@ void ModuleForm::AddGeneral(QFormLayout& form, const ModuleType& type)
     };
     addLine(tr("Name"), moModule.name, moName, moNameField);
     moName->setPlaceholderText(
-        ToQString(type.name, moLocale.language() == QLocale::German ? Language::German : Language::English));
+        PlainText(type.name, moLocale.language() == QLocale::German ? Language::German : Language::English));
     setFocusProxy(moName);
     addLine(tr("Comment"), moModule.comment, moComment, moCommentField);
     AddAddress(form, AddressArea::Input, tr("Input address"), type);
@@ -92,8 +93,8 @@ void ModuleForm::AddParameter(QFormLayout& form, const ParameterDefinition& defi
         line.input.write(line.definition->defaultValue);
         line.input.widget->setFocus();
     });
-    auto* label = new QLabel(ToQString(definition.label, language) + u':', this);
-    label->setToolTip(ToQString(definition.help, language));
+    auto* label = new QLabel(WithoutMnemonic(PlainText(definition.label, language)) + u':', this);
+    label->setToolTip(ToolTipText(ToQString(definition.help, language)));
     label->setBuddy(input.widget);
     form.addRow(label, field);
     mcolParameters.push_back({&definition, std::move(input), field});

@@ -1,6 +1,7 @@
 #include "app/dialogs/NewStationDialog.h"
 
 #include "app/document/NewStation.h"
+#include "app/host/ScreenRoom.h"
 #include "zqbchwcx/foundation/model/Enumerations.h"
 
 #include <QComboBox>
@@ -16,6 +17,12 @@ namespace quillon_ed {
 
 using namespace zqbchwcx;
 
+namespace {
+
+constexpr int WidthInCharacters = 58;
+
+} // namespace
+
 NewStationDialog::NewStationDialog(QWidget* parent)
     : QDialog(parent), moName(new QLineEdit(tr("New station"), this)), moKind(new QComboBox(this)),
       moKindNote(new QLabel(this)), moRacks(new QSpinBox(this)), moPlaces(new QSpinBox(this))
@@ -25,10 +32,13 @@ NewStationDialog::NewStationDialog(QWidget* parent)
     moKind->addItem(tr("Central station"), vxStationKindCentral);
     moKind->addItem(tr("Distributed station, on a rail"), vxStationKindDistributed1);
     moKind->addItem(tr("Distributed station, self-contained modules"), vxStationKindDistributed2);
+    moKind->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     moKindNote->setWordWrap(true);
     moKindNote->setForegroundRole(QPalette::PlaceholderText);
 
     auto* form = new QFormLayout;
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->addRow(tr("&Name:"), moName);
     form->addRow(tr("&Kind:"), moKind);
     form->addRow(QString(), moKindNote);
@@ -49,7 +59,7 @@ NewStationDialog::NewStationDialog(QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     ShowKind();
     moName->selectAll();
-    setMinimumWidth(420);
+    setMinimumWidth(TextSize(*this, WidthInCharacters, 1).width());
 }
 
 void NewStationDialog::ShowKind()

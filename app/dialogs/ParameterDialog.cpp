@@ -1,5 +1,7 @@
 #include "app/dialogs/ParameterDialog.h"
 
+#include "app/host/PlainText.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
 
@@ -9,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -20,8 +23,10 @@ using namespace zqbchwcx::reference;
 
 namespace {
 
-constexpr int HeightAroundForm = 170; // heading, buttons, margins
-constexpr int LargestHeight = 760;
+constexpr int FormCharacters = 90;
+constexpr int PagesCharacters = 28;
+constexpr int LinesAroundForm = 11; // heading, buttons, margins
+constexpr int MostLines = 50;
 
 } // namespace
 
@@ -39,12 +44,13 @@ ParameterDialog::ParameterDialog(const ModuleData& module, const ParameterDialog
         if (!subType) continue;
         mcolSubModuleIndex.push_back(index);
         const QString name =
-            subModule.name.empty() ? ToQString(subType->name, context.language) : ToQString(subModule.name);
+            subModule.name.empty() ? PlainText(subType->name, context.language) : PlainText(subModule.name);
         AddPage(subModule, *subType, context, QStringLiteral("%1 · %2").arg(index + 1).arg(name), context.addressCheck);
     }
     moPages->setVisible(mcolForms.size() > 1);
     moPages->setAccessibleName(tr("Module and sub-modules"));
-    moPages->setMaximumWidth(220);
+    moPages->setMaximumWidth(TextSize(*this, PagesCharacters, 1).width());
+    moPages->setWordWrap(true);
     moPages->setCurrentRow(0);
     connect(moPages, &QListWidget::currentRowChanged, moStack, &QStackedWidget::setCurrentIndex);
 
@@ -72,8 +78,10 @@ ParameterDialog::ParameterDialog(const ModuleData& module, const ParameterDialog
         });
     }
     Update();
-    const int formHeight = mcolForms.front()->sizeHint().height();
-    resize(mcolForms.size() > 1 ? 820 : 640, std::min(formHeight + HeightAroundForm, LargestHeight));
+    const int characters = FormCharacters + (mcolForms.size() > 1 ? PagesCharacters : 0);
+    const QSize most = TextSize(*this, characters, MostLines);
+    const int height = mcolForms.front()->sizeHint().height() + TextSize(*this, 0, LinesAroundForm).height();
+    resize(WithinScreen(*this, {most.width(), std::min(height, most.height())}));
     mcolForms.front()->setFocus();
 }
 
@@ -89,17 +97,18 @@ QWidget* ParameterDialog::MakeHeading(const ModuleType& type, const ParameterDia
     picture->setPixmap(context.picture);
     picture->setVisible(!context.picture.isNull());
 
-    auto* name = new QLabel(ToQString(type.name, context.language), heading);
+    auto* name = new QLabel(PlainText(type.name, context.language), heading);
     QFont font = name->font();
     font.setPointSizeF(font.pointSizeF() * 1.25);
     font.setBold(true);
     name->setFont(font);
+    name->setWordWrap(true);
     auto* order =
-        new QLabel(context.place.isEmpty() ? ToQString(type.orderNumber)
-                                           : QStringLiteral("%1 · %2").arg(ToQString(type.orderNumber), context.place),
+        new QLabel(context.place.isEmpty() ? PlainText(type.orderNumber)
+                                           : QStringLiteral("%1 · %2").arg(PlainText(type.orderNumber), context.place),
                    heading);
     order->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* description = new QLabel(ToQString(type.description, context.language), heading);
+    auto* description = new QLabel(PlainText(type.description, context.language, LongestDescription), heading);
     description->setWordWrap(true);
     description->setForegroundRole(QPalette::PlaceholderText);
 
@@ -127,6 +136,8 @@ void ParameterDialog::AddPage(const ModuleData& module, const ModuleType& type, 
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidget(form);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setMinimumWidth(form->minimumSizeHint().width() + scroll->verticalScrollBar()->sizeHint().width());
     moStack->addWidget(scroll);
     moPages->addItem(title);
     mcolForms.push_back(form);
@@ -143,7 +154,7 @@ void ParameterDialog::Update()
         item->setToolTip(valid ? QString() : tr("Something here is not valid"));
     }
     const QString reason = allValid && moModuleCheck && !mbReadOnly ? moModuleCheck(Result()) : QString();
-    moReason->setText(reason);
+    moReason->setText(PlainText(reason, LongestDescription));
     moReason->setVisible(!reason.isEmpty());
     if (QPushButton* ok = moButtons->button(QDialogButtonBox::Ok)) ok->setEnabled(allValid && reason.isEmpty());
     if (QPushButton* reset = moButtons->button(QDialogButtonBox::RestoreDefaults)) {

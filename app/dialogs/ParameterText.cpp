@@ -1,5 +1,6 @@
 #include "app/dialogs/ParameterText.h"
 
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 
 #include <QCoreApplication>
@@ -110,10 +111,10 @@ ParsedParameter ParseParameter(const ParameterDefinition& definition, const QStr
 QString RangeNote(const ParameterDefinition& definition, const QLocale& locale)
 {
     const bool number = definition.kind == ParameterKind::Integer || definition.kind == ParameterKind::Real;
-    if (!number) return ToQString(definition.unit);
+    if (!number) return PlainText(definition.unit);
     const QString range =
         QStringLiteral("%1 … %2").arg(FormatReal(definition.minimum, locale), FormatReal(definition.maximum, locale));
-    return definition.unit.empty() ? range : range + u' ' + ToQString(definition.unit);
+    return definition.unit.empty() ? range : range + u' ' + PlainText(definition.unit);
 }
 
 ParsedAddress ParseAddress(const QString& text, std::int32_t bytes)

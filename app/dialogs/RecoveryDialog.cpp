@@ -1,5 +1,7 @@
 #include "app/dialogs/RecoveryDialog.h"
 
+#include "app/host/PlainText.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/Strings.h"
 
 #include <QDateTime>
@@ -23,6 +25,7 @@ RecoveryDialog::RecoveryDialog(std::vector<RecoverableJournal> journals, QWidget
 {
     setWindowTitle(tr("Recover unsaved stations"));
     auto* text = new QLabel(tr("Quillon Ed ended before these stations were saved."), this);
+    text->setWordWrap(true);
     moList->setRootIsDecorated(false);
     moList->setAccessibleName(tr("Unsaved stations"));
     moList->setHeaderLabels({tr("Station"), tr("Last change"), tr("State")});
@@ -30,16 +33,17 @@ RecoveryDialog::RecoveryDialog(std::vector<RecoverableJournal> journals, QWidget
     for (const RecoverableJournal& journal : mcolJournals) {
         const QString file = ToQString(journal.origin.stationFile);
         auto* item = new QTreeWidgetItem(moList);
-        item->setText(0, file.isEmpty() ? tr("never saved") : QFileInfo(file).fileName());
-        item->setToolTip(0, file.isEmpty() ? ToQString(journal.journalFile) : file);
+        item->setText(0, file.isEmpty() ? tr("never saved") : PlainText(QFileInfo(file).fileName()));
+        item->setToolTip(0, ToolTipText(file.isEmpty() ? ToQString(journal.journalFile) : file));
         const auto when = QDateTime::fromMSecsSinceEpoch(journal.writtenNanoseconds / 1'000'000);
         item->setText(1, locale.toString(when, QLocale::ShortFormat));
         item->setText(2, journal.damage ? tr("damaged") : tr("can be recovered"));
-        if (journal.damage) item->setToolTip(2, ToQString(*journal.damage));
+        if (journal.damage) item->setToolTip(2, ToolTipText(ToQString(*journal.damage)));
     }
     moList->setCurrentItem(moList->topLevelItem(0));
-    moList->resizeColumnToContents(0);
-    moList->resizeColumnToContents(1);
+    moList->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    moList->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    moList->header()->setStretchLastSection(false);
 
     auto* buttons = new QDialogButtonBox(this);
     buttons->addButton(moRecover, QDialogButtonBox::ActionRole);
@@ -50,7 +54,7 @@ RecoveryDialog::RecoveryDialog(std::vector<RecoverableJournal> journals, QWidget
     column->addWidget(text);
     column->addWidget(moList, 1);
     column->addWidget(buttons);
-    resize(560, 280);
+    resize(WithinScreen(*this, TextSize(*this, 80, 18)));
     moRecover->setDefault(true);
 
     connect(moList, &QTreeWidget::currentItemChanged, this, &RecoveryDialog::UpdateButtons);

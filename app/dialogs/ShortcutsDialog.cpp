@@ -1,10 +1,12 @@
 #include "app/dialogs/ShortcutsDialog.h"
 
+#include "app/host/ScreenRoom.h"
+
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QTreeWidget>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace quillon_ed {
@@ -41,18 +43,30 @@ void ShowShortcuts(QWidget* parent)
 {
     QDialog dialog(parent);
     dialog.setWindowTitle(ShortcutTexts::tr("Keyboard and mouse"));
-    auto* list = new QTreeWidget(&dialog);
-    list->setRootIsDecorated(false);
-    list->setHeaderLabels({ShortcutTexts::tr("Key"), ShortcutTexts::tr("What it does")});
+    const QList<QStringList> shortcuts = Shortcuts();
+    auto* list = new QTableWidget(static_cast<int>(shortcuts.size()), 2, &dialog);
+    list->setHorizontalHeaderLabels({ShortcutTexts::tr("Key"), ShortcutTexts::tr("What it does")});
     list->setAccessibleName(dialog.windowTitle());
-    for (const QStringList& line : Shortcuts()) new QTreeWidgetItem(list, line);
-    list->resizeColumnToContents(0);
+    for (int row = 0; row < list->rowCount(); ++row)
+        for (int column : {0, 1}) list->setItem(row, column, new QTableWidgetItem(shortcuts[row][column]));
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setSelectionBehavior(QAbstractItemView::SelectRows);
+    list->setTabKeyNavigation(false);
+    list->setShowGrid(false);
+    list->verticalHeader()->hide();
+    list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    list->horizontalHeader()->setHighlightSections(false);
+    list->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    list->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
+    // As high as its text needs in the width that it gets.
+    list->verticalHeader()->setMinimumSectionSize(list->fontMetrics().height());
+    list->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
     auto* column = new QVBoxLayout(&dialog);
     column->addWidget(list);
     column->addWidget(buttons);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-    dialog.resize(620, 380);
+    dialog.resize(WithinScreen(dialog, TextSize(dialog, 92, 25)));
     dialog.exec();
 }
 

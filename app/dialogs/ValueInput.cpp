@@ -1,5 +1,6 @@
 #include "app/dialogs/ValueInput.h"
 
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 
 #include <QCheckBox>
@@ -36,8 +37,10 @@ ValueInput MakeList(const ParameterDefinition& definition, Language language, co
                     const std::function<void()>& changed)
 {
     auto* list = new QComboBox;
+    // As wide as there is room; what it opens shows the choices whole.
+    list->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     for (const ParameterChoice& choice : definition.choices) {
-        list->addItem(ToQString(choice.label, language), ToQString(choice.key));
+        list->addItem(PlainText(choice.label, language), ToQString(choice.key));
     }
     const int offered = list->count();
     QObject::connect(list, &QComboBox::currentIndexChanged, list, [changed] { changed(); });
@@ -52,7 +55,7 @@ ValueInput MakeList(const ParameterDefinition& definition, Language language, co
         int index = list->findData(key);
         if (index < 0) {
             if (list->count() > offered) list->removeItem(offered);
-            list->addItem(key, key);
+            list->addItem(PlainText(key), key);
             index = offered;
         }
         list->setCurrentIndex(index);
@@ -85,8 +88,8 @@ ValueInput MakeValueInput(const ParameterDefinition& definition, Language langua
         input = MakeLine(definition, locale, changed);
         break;
     }
-    input.widget->setToolTip(ToQString(definition.help, language));
-    input.widget->setAccessibleName(ToQString(definition.label, language));
+    input.widget->setToolTip(ToolTipText(ToQString(definition.help, language)));
+    input.widget->setAccessibleName(PlainText(definition.label, language));
     return input;
 }
 

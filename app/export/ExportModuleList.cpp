@@ -1,6 +1,7 @@
 #include "app/export/ExportModuleList.h"
 
 #include "app/export/WriteBytes.h"
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/reference/commands/ModuleListText.h"
 #include "zqbchwcx/reference/json/FileError.h"
@@ -51,8 +52,8 @@ PrintedTable ModuleListTable(const StationData& station, const Catalogue& catalo
           LocalizedText{"O address", "A-Adresse"}, LocalizedText{"Comment", "Kommentar"}})
         table.headings << ToQString(heading, language);
     for (const ModuleRow& row : ListModules(station, catalogue, language))
-        table.rows.push_back({placeText(row), ToQString(row.module), ToQString(row.orderNumber), ToQString(row.inputs),
-                              ToQString(row.outputs), ToQString(row.comment)});
+        table.rows.push_back({placeText(row), PlainText(row.module), PlainText(row.orderNumber), PlainText(row.inputs),
+                              PlainText(row.outputs), PlainText(row.comment)});
     return table;
 }
 

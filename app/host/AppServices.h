@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/host/ModulePictures.h"
+#include "app/host/PlainLabels.h"
+#include "app/host/ReadableColors.h"
 #include "app/host/UiTranslation.h"
 #include "zqbchwcx/reference/catalogue/Catalogue.h"
 #include "zqbchwcx/reference/model/contract/ModelContext.h"
@@ -56,6 +58,8 @@ private:
     void Install();
 
     QSettings& moSettings;
+    PlainLabels moPlainLabels;
+    ReadableColors moReadableColors;
     UiTranslation moTranslation;
     std::shared_ptr<zqbchwcx::qt::QtToolkit> moToolkit;
     std::shared_ptr<zqbchwcx::reference::Texts> moTexts;

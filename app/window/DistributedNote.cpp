@@ -21,7 +21,7 @@ DistributedNote::DistributedNote(QWidget* parent)
         label->setAlignment(Qt::AlignHCenter);
     }
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 24, 24, 24);
+    column->setContentsMargins(12, 24, 12, 24);
     column->setSpacing(8);
     column->addStretch(1);
     column->addWidget(picture, 0, Qt::AlignHCenter);

@@ -7,6 +7,7 @@
 #include "app/export/ExportOverview.h"
 #include "app/export/PrintStation.h"
 #include "app/host/AppServices.h"
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/reference/json/FileError.h"
 
@@ -32,7 +33,7 @@ struct ExportTexts {
 
 PageHeader HeaderOf(const Document& document)
 {
-    return {ToQString(document.Station()->Data().name), QDate::currentDate(), QLocale()};
+    return {PlainText(document.Station()->Data().name), QDate::currentDate(), QLocale()};
 }
 
 /// Of a filter such as "Picture (*.png)".

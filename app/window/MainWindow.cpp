@@ -4,6 +4,8 @@
 #include "app/dialogs/AboutDialog.h"
 #include "app/dialogs/ShortcutsDialog.h"
 #include "app/document/SharedView.h"
+#include "app/host/PlainText.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/ShippedData.h"
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
@@ -42,6 +44,8 @@ using reference::Language;
 namespace {
 
 constexpr char ClassName[] = "MainWindow";
+constexpr qsizetype LongestMenuText = 60;
+constexpr int CatalogueCharacters = 48; ///< names and order numbers are whole
 const QString GeometryKey = QStringLiteral("Window/Geometry");
 const QString StateKey = QStringLiteral("Window/State");
 
@@ -131,7 +135,8 @@ void MainWindow::AddDocks()
 {
     moCatalogueDock->setObjectName(QStringLiteral("catalogueDock"));
     addDockWidget(Qt::RightDockWidgetArea, moCatalogueDock);
-    resizeDocks({moCatalogueDock}, {330}, Qt::Horizontal);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea); // so that messages take no height from the catalogue
+    resizeDocks({moCatalogueDock}, {TextSize(*this, CatalogueCharacters, 1).width()}, Qt::Horizontal);
 
     moMessages = new MessagesDock(moServices.Errors(), this);
     addDockWidget(Qt::BottomDockWidgetArea, moMessages);
@@ -265,8 +270,8 @@ void MainWindow::FillRecentMenu()
     moActions.recentMenu->clear();
     moActions.recentMenu->setEnabled(!files.isEmpty());
     for (const QString& file : files) {
-        QString shown = file;
-        connect(moActions.recentMenu->addAction(shown.replace(u'&', QStringLiteral("&&"))), &QAction::triggered, this,
+        const QString shown = WithoutMnemonic(PlainText(file, LongestMenuText));
+        connect(moActions.recentMenu->addAction(shown), &QAction::triggered, this,
                 [this, file] { moFiles.OpenFile(file); });
     }
     moActions.recentMenu->addSeparator();
@@ -322,8 +327,9 @@ void MainWindow::UpdateTitle()
 {
     const Document* document = moFiles.Current();
     setWindowModified(document && document->IsModified());
-    setWindowTitle(document ? QStringLiteral("%1[*] – Quillon Ed").arg(document->Title())
-                            : QStringLiteral("Quillon Ed"));
+    setWindowTitle(document
+                       ? QStringLiteral("%1[*] – Quillon Ed").arg(WithoutModifiedMark(PlainText(document->Title())))
+                       : QStringLiteral("Quillon Ed"));
     setWindowFilePath(document ? document->FileName() : QString());
 }
 

@@ -1,5 +1,7 @@
 #include "app/window/MessagesDock.h"
 
+#include "app/host/PlainText.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
 
@@ -18,8 +20,8 @@ using namespace zqbchwcx;
 
 namespace {
 
-constexpr int WhereWidth = 300;
-constexpr int ListHeight = 84;
+constexpr int WhereCharacters = 22;
+constexpr int LeastLines = 3; ///< with the headings
 
 } // namespace
 
@@ -30,10 +32,11 @@ MessagesDock::MessagesDock(reference::ErrorLog& log, QWidget* parent)
     moList->setRootIsDecorated(false);
     moList->setColumnCount(3);
     moList->setUniformRowHeights(true);
+    moList->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     moList->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     moList->header()->setStretchLastSection(false);
-    moList->header()->resizeSection(2, WhereWidth);
-    moList->setMinimumHeight(ListHeight);
+    moList->header()->resizeSection(2, TextSize(*this, WhereCharacters, 1).width());
+    moList->setMinimumHeight(TextSize(*this, 0, LeastLines).height());
     moClear->setAutoDefault(false);
 
     auto* content = new QWidget(this);
@@ -68,9 +71,11 @@ void MessagesDock::changeEvent(QEvent* event)
 
 void MessagesDock::Add(const QString& text, const QString& source)
 {
-    auto* item = new QTreeWidgetItem(moList, {QTime::currentTime().toString(QStringLiteral("HH:mm:ss")), text, source});
+    auto* item = new QTreeWidgetItem(moList, {QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
+                                              PlainText(text, LongestDescription), PlainText(source)});
     item->setIcon(1, SvgIcon(QStringLiteral("warning")));
-    item->setToolTip(1, text);
+    item->setToolTip(1, ToolTipText(text));
+    item->setToolTip(2, ToolTipText(source));
     if (moList->topLevelItemCount() > static_cast<int>(reference::ErrorLog::MostEntries)) {
         delete moList->takeTopLevelItem(0);
     }

@@ -17,17 +17,19 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon_ed {
 
 using namespace zqbchwcx;
 
 namespace {
 
-// Tabs and column headings together, and each row, as the overview's arrow takes them to be.
+// Tabs and column headings together, and each row, as the overview's arrow takes them to be; more only where the font
+// needs it.
 constexpr int TabHeight = 20;
 constexpr int HeaderHeight = 21;
 constexpr int RowHeight = 15;
-constexpr int FontPixels = 11;
 
 } // namespace
 
@@ -37,13 +39,8 @@ ModuleList::ModuleList(VxHWStationPtr station, VxHWSelectionHandlerPtr handler, 
       moTable(new RangeTable([this] { return moModel->RowOf(moHandler->ShiftSelPosition()); }, this)),
       moRefresh(new QTimer(this))
 {
-    QFont small = font();
-    small.setPixelSize(FontPixels);
-    moTabs->setFont(small);
-    moTabs->setFixedHeight(TabHeight);
     moTabs->setDrawBase(false);
     moTabs->setExpanding(false);
-    moTable->setFont(small);
     moTable->setModel(moModel);
     moTable->setFrameShape(QFrame::NoFrame);
     moTable->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -55,16 +52,11 @@ ModuleList::ModuleList(VxHWStationPtr station, VxHWSelectionHandlerPtr handler, 
     moTable->setWordWrap(false);
     moTable->setContextMenuPolicy(Qt::CustomContextMenu);
     moTable->verticalHeader()->hide();
-    moTable->verticalHeader()->setMinimumSectionSize(RowHeight);
-    moTable->verticalHeader()->setDefaultSectionSize(RowHeight);
-    moTable->horizontalHeader()->setFont(small);
-    moTable->horizontalHeader()->setFixedHeight(HeaderHeight);
     moTable->horizontalHeader()->setStretchLastSection(true);
     moTable->horizontalHeader()->setHighlightSections(false);
     moTable->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int widths[] = {44, 160, 92, 64, 64};
-    for (int column = 0; column < ModuleListModel::Comment; ++column) moTable->setColumnWidth(column, widths[column]);
     moTable->installEventFilter(this);
+    FitToFont();
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -112,9 +104,23 @@ void ModuleList::RetranslateUi()
     for (int tab = 0; tab < moTabs->count(); ++tab) moTabs->setTabText(tab, tr("Rack %1").arg(tab));
 }
 
+void ModuleList::FitToFont()
+{
+    const QFontMetrics metrics = fontMetrics();
+    moTabs->setFixedHeight(std::max(TabHeight, metrics.height() + 4));
+    moTable->horizontalHeader()->setFixedHeight(std::max(HeaderHeight, metrics.height() + 4));
+    const int row = std::max(RowHeight, metrics.height());
+    moTable->verticalHeader()->setMinimumSectionSize(row);
+    moTable->verticalHeader()->setDefaultSectionSize(row);
+    const int characters[] = {7, 26, 15, 11, 11};
+    for (int column = 0; column < ModuleListModel::Comment; ++column)
+        moTable->setColumnWidth(column, characters[column] * metrics.averageCharWidth());
+}
+
 void ModuleList::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) FitToFont();
     if (event->type() != QEvent::LanguageChange) return;
     RetranslateUi();
     emit moModel->headerDataChanged(Qt::Horizontal, 0, ModuleListModel::ColumnCount - 1);

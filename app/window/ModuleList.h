@@ -37,6 +37,7 @@ protected:
 
 private:
     void RetranslateUi();
+    void FitToFont();
     void FillTabs();
     void ShowRack(std::int32_t lRack);
     void ShowSelection();

@@ -1,5 +1,6 @@
 #include "app/window/ModuleListModel.h"
 
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/foundation/mdl_Main.h"
@@ -80,17 +81,17 @@ QString ModuleListModel::Text(const VxHWRackPlace& place, int column) const
     if (module->IsEmpty()) return {};
     switch (column) {
     case Module: {
-        const QString name = ToQString(module->Name());
+        const QString name = PlainText(module->Name());
         return module->IndexInParent() > 1 ? tr("%1 (continued)").arg(name) : name;
     }
     case OrderNumber:
-        return ToQString(module->OrderNumber());
+        return PlainText(module->OrderNumber());
     case InputAddress:
         return ToQString(module->InputAddressText());
     case OutputAddress:
         return ToQString(module->OutputAddressText());
     case Comment:
-        return ToQString(module->GetAttribute("COMMENT"));
+        return PlainText(module->GetAttribute("COMMENT"));
     default:
         return {};
     }
@@ -103,8 +104,10 @@ QVariant ModuleListModel::data(const QModelIndex& index, int role) const
     G_Trap(ClassName, "data", [&] {
         switch (role) {
         case Qt::DisplayRole:
-        case Qt::ToolTipRole:
             result = Text(*PlaceAt(index.row()), index.column());
+            break;
+        case Qt::ToolTipRole:
+            result = ToolTipText(Text(*PlaceAt(index.row()), index.column()));
             break;
         case Qt::TextAlignmentRole:
             if (index.column() == Place) result = QVariant(Qt::AlignHCenter | Qt::AlignVCenter);

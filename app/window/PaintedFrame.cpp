@@ -1,10 +1,10 @@
 #include "app/window/PaintedFrame.h"
 
+#include "app/host/ScreenRoom.h"
 #include "app/window/AfterFirstPaint.h"
 
 #include <QCloseEvent>
 #include <QEventLoop>
-#include <QScreen>
 
 #include <memory>
 
@@ -13,13 +13,12 @@ namespace quillon_ed {
 namespace {
 
 constexpr QSize ComfortableSize(1180, 720);
-constexpr QSize FrameRoom(16, 48); ///< for what the window manager puts around it
 
 } // namespace
 
 PaintedFrame::PaintedFrame(const QByteArray& geometry)
 {
-    resize(ComfortableSize.boundedTo(screen()->availableSize() - FrameRoom));
+    resize(WithinScreen(*this, ComfortableSize));
     restoreGeometry(geometry);
     show();
     // Shared, because the application may end the loop before the window is painted.

@@ -1,5 +1,6 @@
 #include "app/window/PositionText.h"
 
+#include "app/host/PlainText.h"
 #include "app/host/Strings.h"
 #include "zqbchwcx/foundation/mdl_Main.h"
 #include "zqbchwcx/foundation/model/VxHWModule.h"
@@ -39,7 +40,7 @@ void AddPlaceTexts(QStringList& parts, const VxHWRackPlace& place)
         }
         return;
     }
-    parts << ToQString(module->Name()) << ToQString(module->OrderNumber());
+    parts << PlainText(module->Name()) << PlainText(module->OrderNumber());
     const QString addresses = AddressText(*module);
     if (!addresses.isEmpty()) parts << addresses;
 }

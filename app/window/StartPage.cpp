@@ -1,5 +1,7 @@
 #include "app/window/StartPage.h"
 
+#include "app/host/PlainText.h"
+#include "app/host/ScreenRoom.h"
 #include "app/host/SvgIcon.h"
 
 #include <QAction>
@@ -8,6 +10,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -15,7 +18,9 @@ namespace quillon_ed {
 
 namespace {
 
-constexpr int ContentWidth = 720;
+constexpr int ContentCharacters = 100;
+constexpr int LeastRows = 3;
+constexpr int ComfortableRows = 18;
 
 QToolButton* MakeButton(QAction& action, QWidget* parent)
 {
@@ -44,7 +49,7 @@ public:
         moList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         moList->setTextElideMode(Qt::ElideMiddle);
         moList->setSpacing(2);
-        moList->setMinimumHeight(260);
+        moList->setMinimumHeight(TextSize(*moList, 0, LeastRows).height());
 
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(0, 0, 0, 0);
@@ -60,10 +65,15 @@ public:
 
     void Clear() { moList->clear(); }
 
+    QSize sizeHint() const override
+    {
+        return QWidget::sizeHint().expandedTo({0, TextSize(*this, 0, ComfortableRows).height()});
+    }
+
     void Add(const QString& text, const QString& target, const QString& toolTip = {})
     {
-        auto* item = new QListWidgetItem(text, moList);
-        item->setToolTip(toolTip);
+        auto* item = new QListWidgetItem(PlainText(text), moList);
+        item->setToolTip(ToolTipText(toolTip));
         item->setData(Qt::UserRole, target);
     }
 
@@ -81,7 +91,7 @@ private:
 };
 
 StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
-    : QWidget(parent), moHeading(new QLabel(this)), moHint(new QLabel(this)), moRecent(new TitledList(this)),
+    : QScrollArea(parent), moHeading(new QLabel(this)), moHint(new QLabel(this)), moRecent(new TitledList(this)),
       moExamples(new TitledList(this))
 {
     auto* picture = new QLabel(this);
@@ -89,10 +99,12 @@ StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
     QFont large = moHeading->font();
     large.setPointSizeF(large.pointSizeF() * 1.7);
     moHeading->setFont(large);
+    moHint->setWordWrap(true);
     moHint->setForegroundRole(QPalette::PlaceholderText);
 
     auto* content = new QWidget(this);
-    content->setMaximumWidth(ContentWidth);
+    const int contentWidth = TextSize(*this, ContentCharacters, 1).width();
+    content->setMaximumWidth(contentWidth);
     auto* grid = new QGridLayout(content);
     grid->setHorizontalSpacing(32);
     grid->setColumnStretch(0, 1);
@@ -119,14 +131,18 @@ StartPage::StartPage(QAction& actionNew, QAction& actionOpen, QWidget* parent)
     lists->addWidget(moExamples, 1);
     grid->addLayout(lists, 4, 0, 1, 2);
 
-    auto* column = new QVBoxLayout(this);
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
     column->addStretch(2);
     auto* middle = new QHBoxLayout;
     middle->addStretch(1);
-    middle->addWidget(content, ContentWidth); // far more than the margins get, up to its maximum
+    middle->addWidget(content, contentWidth); // far more than the margins get, up to its maximum
     middle->addStretch(1);
     column->addLayout(middle);
     column->addStretch(3);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setWidget(page);
 
     moRecent->OnChosen([this](const QString& file) { emit fileChosen(file); });
     moExamples->OnChosen([this](const QString& resource) { emit exampleChosen(resource); });
@@ -141,9 +157,16 @@ void StartPage::RetranslateUi()
     moExamples->SetTitle(tr("Examples"));
 }
 
+/// Scrolls down at most, never sideways.
+QSize StartPage::minimumSizeHint() const
+{
+    const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+    return {width, QScrollArea::minimumSizeHint().height()};
+}
+
 void StartPage::changeEvent(QEvent* event)
 {
-    QWidget::changeEvent(event);
+    QScrollArea::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) RetranslateUi();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QScrollArea>
 
 class QAction;
 class QLabel;
@@ -8,7 +8,7 @@ class QLabel;
 namespace quillon_ed {
 
 /// What the window shows while no station is open: the ways to get one.
-class StartPage : public QWidget {
+class StartPage : public QScrollArea {
     Q_OBJECT
 
 public:
@@ -17,6 +17,8 @@ public:
     void RecentFiles(const QStringList& files);
     /// Pairs of a name to show and the resource to open.
     void Examples(const QList<std::pair<QString, QString>>& examples);
+
+    QSize minimumSizeHint() const override;
 
 signals:
     void fileChosen(const QString& fileName);

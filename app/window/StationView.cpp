@@ -12,6 +12,8 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace quillon_ed {
@@ -21,6 +23,22 @@ using namespace zqbchwcx;
 namespace {
 
 constexpr int OverviewWidth = 262; // the racks, and room for the arrow to the list
+
+/// On a low screen the picture is seen in parts.
+QScrollArea* MakeScrollable(QWidget* left)
+{
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setFixedWidth(OverviewWidth);
+    scroll->setWidget(left);
+    // The first rack is the lowest one.
+    QScrollBar* bar = scroll->verticalScrollBar();
+    QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
+    return scroll;
+}
 
 } // namespace
 
@@ -70,7 +88,7 @@ StationView::StationView(Document& document, QWidget* parent)
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(0);
-    line->addWidget(left);
+    line->addWidget(MakeScrollable(left));
     line->addWidget(list, 1);
 
     mcolConnections.push_back(moHandler->SelChange.Connect([this] { emit selectionChanged(); }));
@@ -99,10 +117,8 @@ QWidget* StationView::MakeLeftSide()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     moPartShown = new QLabel(part, left);
-    moPartShown->setTextFormat(Qt::PlainText);
     moPartShown->setWordWrap(true);
     moPartShown->setMargin(6);
-    moPartShown->setFixedWidth(OverviewWidth);
     moPartShown->setBackgroundRole(QPalette::Base);
     moPartShown->setForegroundRole(QPalette::Text);
     moPartShown->setAutoFillBackground(true);
@@ -120,7 +136,6 @@ void StationView::TellPartShown()
 QWidget* StationView::MakeOverview()
 {
     auto* widget = new qt::RackOverviewWidget(this);
-    widget->setFixedWidth(OverviewWidth);
     moOverview = widget->Control();
     moOverviewWidget = widget;
     return widget;
@@ -129,9 +144,7 @@ QWidget* StationView::MakeOverview()
 QWidget* StationView::MakeNote()
 {
     moOverview = std::make_shared<reference::QuietView>();
-    auto* note = new DistributedNote(this);
-    note->setFixedWidth(OverviewWidth);
-    return note;
+    return new DistributedNote(this);
 }
 
 reference::ViewState StationView::View() const

@@ -1,6 +1,7 @@
 #include "app/window/StatusLine.h"
 
 #include "app/document/Document.h"
+#include "app/host/PlainText.h"
 #include "app/window/PositionText.h"
 #include "app/window/StationView.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
@@ -53,7 +54,7 @@ void StatusLine::ShowStates(const Document& document, const StationView& view)
 
 void StatusLine::Tell(const QString& text)
 {
-    showMessage(text, TellMilliseconds);
+    showMessage(PlainText(text, LongestDescription), TellMilliseconds);
 }
 
 } // namespace quillon_ed
