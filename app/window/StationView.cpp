@@ -10,6 +10,7 @@
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QEvent>
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
@@ -91,6 +92,7 @@ StationView::StationView(Document& document, QWidget* parent)
     line->addWidget(MakeScrollable(left));
     line->addWidget(list, 1);
 
+    AddRefusedKeys();
     mcolConnections.push_back(moHandler->SelChange.Connect([this] { emit selectionChanged(); }));
     mcolConnections.push_back(moHandler->FocusChange.Connect([this](std::int32_t) { emit selectionChanged(); }));
     document.ShownBy(
@@ -145,6 +147,19 @@ QWidget* StationView::MakeNote()
 {
     moOverview = std::make_shared<reference::QuietView>();
     return new DistributedNote(this);
+}
+
+/// The controllers of a station that may not be changed are silent, and so are the window's disabled commands.
+void StationView::AddRefusedKeys()
+{
+    if (!moDocument.Station()->IsReadOnly()) return;
+    auto* refuse = new QAction(this);
+    refuse->setShortcuts({QKeySequence::Delete, QKeySequence::Cut, QKeySequence::Paste});
+    refuse->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(refuse, &QAction::triggered, this, [this] {
+        if (const auto objection = moDocument.Station()->AgainstEditing()) emit refused(*objection);
+    });
+    addAction(refuse);
 }
 
 reference::ViewState StationView::View() const

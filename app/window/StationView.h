@@ -3,6 +3,7 @@
 #include "zqbchwcx/foundation/Event.h"
 #include "zqbchwcx/managers/VxHWConfigManager.h"
 #include "zqbchwcx/reference/history/ViewState.h"
+#include "zqbchwcx/reference/model/rules/Refusal.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <QWidget>
@@ -40,6 +41,8 @@ protected:
 signals:
     void selectionChanged();
     void menuRequested(const QPoint& globalPosition);
+    /// A key that would have changed a station that may not be changed.
+    void refused(const zqbchwcx::reference::Refusal& refusal);
 
 private:
     class DragWatch;
@@ -48,6 +51,7 @@ private:
     void TellPartShown();
     QWidget* MakeOverview();
     QWidget* MakeNote();
+    void AddRefusedKeys();
 
     Document& moDocument;
     std::shared_ptr<zqbchwcx::IVxHWControl> moOverview;

@@ -36,12 +36,13 @@ public:
     /// Ignored without an action that was begun.
     void EndUserAction() override;
 
-    bool CanUndo() const { return !IsGroupOpen() && mnDone > 0; }
-    bool CanRedo() const { return !IsGroupOpen() && mnDone < mcolSteps.size(); }
+    bool CanUndo() const { return MayStep() && mnDone > 0; }
+    bool CanRedo() const { return MayStep() && mnDone < mcolSteps.size(); }
     /// The name of the step; empty when there is none.
     std::string UndoName() const;
     std::string RedoName() const;
-    /// False, with nothing changed, when there is no such step or an action is still open.
+    /// False, with nothing changed, when there is no such step, an action is still open, or the station may not be
+    /// changed.
     bool Undo();
     bool Redo();
 
@@ -66,6 +67,7 @@ private:
     };
 
     bool IsGroupOpen() const { return mlOpenActions > 0 || mbBatchOpen; }
+    bool MayStep() const { return !IsGroupOpen() && !moStation->IsReadOnly(); }
     void OpenGroup();
     void CloseGroup();
     void OnChanging(EditKind kind);

@@ -202,6 +202,11 @@ std::string Station::ModuleTooltip(const VxHWModulePtr& oModule) const
     return body.data ? ModuleText(*body.data, ModuleTypes(), Context()->CurrentLanguage()) : std::string();
 }
 
+Objection Station::AgainstEditing() const
+{
+    return reference::AgainstEditing(Data());
+}
+
 Objection Station::AgainstPlacing(std::int32_t lPosition, const VxHWModulesPtr& oModules, bool bMove,
                                   const VxHWRackPlacesPtr& oSourcePlaces) const
 {

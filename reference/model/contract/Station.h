@@ -26,7 +26,8 @@ public:
 
     std::int32_t DisplayMode() const override { return moState->Data().displayMode; }
     std::int32_t StationKind() const override { return moState->Data().kind; }
-    bool IsReadOnly() const override { return moState->Data().readOnly; }
+    /// Of an online station, too.
+    bool IsReadOnly() const override { return AgainstEditing().has_value(); }
     VxHWRacksPtr Racks() const override;
     bool IsDrawable() const override { return mbDrawable; }
     void IsDrawable(bool bDrawable) override;
@@ -66,6 +67,8 @@ public:
     const Catalogue& ModuleTypes() const { return moState->ModuleTypes(); }
     const ModelContextPtr& Context() const { return moState->Context(); }
     EditContext EditFrom() const { return moState->EditFrom(); }
+    /// Why nothing in the station may be changed; nothing when it may.
+    Objection AgainstEditing() const;
     /// Why the modules cannot be put there; nothing when they can.
     Objection AgainstPlacing(std::int32_t lPosition, const VxHWModulesPtr& oModules, bool bMove,
                              const VxHWRackPlacesPtr& oSourcePlaces) const;

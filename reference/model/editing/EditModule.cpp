@@ -230,6 +230,7 @@ Outcome<Edit> ReplaceModule(const EditContext& context, PlaceRef place, const Mo
 
 Outcome<Edit> SetAttribute(const EditContext& context, PlaceRef place, std::string_view name, std::string_view value)
 {
+    if (Objection objection = AgainstEditing(context.data)) return *std::move(objection);
     StationDraft draft(context);
     const PlaceRef firstPlace = draft.FirstPlaceOf(place);
     if (firstPlace.place == 0) return NoModule(place);

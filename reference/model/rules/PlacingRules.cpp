@@ -104,8 +104,13 @@ const PlaceData* FindPlace(const StationData& data, PlaceRef place)
 
 Objection AgainstEditing(const StationData& data)
 {
-    if (!data.readOnly) return {};
-    return Refusal{Rule::ReadOnly, {}, {"The station is read-only", "Die Station ist schreibgeschützt"}};
+    if (data.readOnly)
+        return Refusal{Rule::ReadOnly, {}, {"The station is read-only", "Die Station ist schreibgeschützt"}};
+    if (data.displayMode == vxDisplayModeOffline) return {};
+    return Refusal{Rule::Online,
+                   {},
+                   {"The station is online: it can be looked at, not changed",
+                    "Die Station ist online: sie kann betrachtet, aber nicht geändert werden"}};
 }
 
 Objection AgainstRack(const StationData& data, std::int32_t rack)

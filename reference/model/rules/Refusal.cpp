@@ -13,9 +13,9 @@ std::string_view RuleId(Rule rule)
         "wrong-place",       "span-too-long",      "leader-missing",    "gap-in-module",    "no-room-to-shift",
         "sources-differ",    "no-free-address",    "address-syntax",    "address-range",    "address-overlap",
         "address-missing",   "address-unexpected", "no-such-attribute", "text-too-long",    "unknown-parameter",
-        "value-not-allowed", "sub-modules",        "damaged-text",
+        "value-not-allowed", "sub-modules",        "damaged-text",      "online",
     };
-    static_assert(ids.size() == static_cast<std::size_t>(Rule::DamagedText) + 1);
+    static_assert(ids.size() == static_cast<std::size_t>(Rule::Online) + 1);
     return ids[static_cast<std::size_t>(rule)];
 }
 

@@ -39,6 +39,7 @@ enum class Rule {
     ValueNotAllowed,
     SubModules,
     DamagedText,
+    Online,
 };
 
 /// The rule's stable name in reports, such as "wrong-place".

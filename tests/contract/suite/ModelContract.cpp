@@ -220,25 +220,40 @@ void DropPlacesAgreeWithPlacing(const ContractHost& host)
     }
 }
 
-void ReadOnlyStationStaysAsItIs(const ContractHost& host)
+void LockedStationStaysAsItIs(const ContractHost& host)
 {
     const std::string before = Content(*host.station);
     EXPECT_TRUE(host.station->IsReadOnly());
     const VxHWModulesPtr modules = Collection(host, {host.singleModule()});
     const std::int32_t position = PlacePosition(host, host.firstPlace);
+    const auto expectReason = [&](const char* operation) {
+        if (!host.takeReason) return;
+        EXPECT_NE(host.takeReason(), "") << operation;
+    };
     EXPECT_FALSE(host.station->CanBePlaced(position, modules, false, nullptr));
     EXPECT_FALSE(host.station->PlaceModules(position, modules, host.factory->CreateRackPlaces()));
+    expectReason("PlaceModules");
     for (const VxHWRackPlacePtr& place : AllPlaces(*host.station)) {
         if (place->Module()->IsEmpty()) continue;
         EXPECT_FALSE(host.station->SetModuleAttribute(place, host.textAttribute, "new"));
+        expectReason("SetModuleAttribute");
         const VxHWRackPlacesPtr source = host.factory->CreateRackPlaces();
         source->Add(place);
         const VxHWModulesPtr moved = Collection(host, {place->Module()});
         EXPECT_FALSE(host.station->MoveModules(position, moved, source, host.factory->CreateRackPlaces()));
+        expectReason("MoveModules");
         host.station->DeleteModules(source);
+        expectReason("DeleteModules");
+        EXPECT_EQ(host.station->OpenModuleParamDialog(place), 0);
     }
     EXPECT_EQ(Content(*host.station), before);
     EXPECT_NE(host.station->GetPossibleDropPlaces(host.singleModule()).Get(host.rack, host.firstPlace), -1);
+}
+
+void OnlineStationStaysAsItIs(const ContractHost& host)
+{
+    EXPECT_NE(host.station->DisplayMode(), vxDisplayModeOffline);
+    LockedStationStaysAsItIs(host);
 }
 
 void MembersKnowTheirParent(const ContractHost& host)
@@ -386,7 +401,7 @@ void ClipboardCarriesModules(const ContractHost& host)
 struct Rule {
     const char* name;
     void (*test)(const ContractHost& host);
-    bool readOnly = false; ///< which kind of station it wants
+    ContractStation station = ContractStation::Editable;
 };
 
 constexpr Rule Rules[] = {
@@ -403,7 +418,8 @@ constexpr Rule Rules[] = {
     {"AttributesAreWrittenAndTold", AttributesAreWrittenAndTold},
     {"BatchIsToldWhenItIsOver", BatchIsToldWhenItIsOver},
     {"DropPlacesAgreeWithPlacing", DropPlacesAgreeWithPlacing},
-    {"ReadOnlyStationStaysAsItIs", ReadOnlyStationStaysAsItIs, true},
+    {"ReadOnlyStationStaysAsItIs", LockedStationStaysAsItIs, ContractStation::ReadOnly},
+    {"OnlineStationStaysAsItIs", OnlineStationStaysAsItIs, ContractStation::Online},
     {"MembersKnowTheirParent", MembersKnowTheirParent},
     {"AnyMemberStandsForTheWhole", AnyMemberStandsForTheWhole},
     {"SpanIsNotCut", SpanIsNotCut},
@@ -420,7 +436,9 @@ public:
 
     void TestBody() override
     {
-        const ContractHost host = mFactory(moRule.readOnly);
+        const ContractHost host = mFactory(moRule.station);
+        if (!host.station && moRule.station != ContractStation::Editable)
+            GTEST_SKIP() << "the host has no such station";
         ASSERT_TRUE(host.station && host.factory && host.singleModule && host.spanningModule);
         ASSERT_GE(host.lastPlace - host.firstPlace, 7) << "the run of places is too short for the tests";
         moRule.test(host);

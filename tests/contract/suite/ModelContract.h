@@ -13,7 +13,7 @@ namespace zqbchwcx::testing {
 ///
 /// The run of places must be active, empty and at least 8 long, and every place of it must take the sample modules.
 struct ContractHost {
-    VxHWStationPtr station; ///< present, offline and, unless read-only is asked for, free to be changed
+    VxHWStationPtr station; ///< as it was asked for; null: the host has none that is
     std::shared_ptr<VxHWModelFactory> factory;
 
     std::int32_t rack = 0;       ///< where the run of places is
@@ -24,18 +24,28 @@ struct ContractHost {
     std::function<VxHWModulePtr()> spanningModule;   ///< makes one that fills 2 or 3 places
     std::function<VxHWModulePtr()> moduleWithSlots;  ///< makes one with sub-module slots; empty: the host has none
     std::function<ExchangeDataPtr()> exchangeObject; ///< makes an empty one; empty: the host has none
-    std::string textAttribute = "COMMENT";           ///< one that every sample module has and that takes any text
+    /// Takes the reason that the user was told for the last refusal; empty when there was none since. Empty: the host
+    /// tells no reasons.
+    std::function<std::string()> takeReason;
+    std::string textAttribute = "COMMENT"; ///< one that every sample module has and that takes any text
+};
+
+/// Which station a test wants.
+enum class ContractStation {
+    Editable, ///< offline and free to be changed
+    ReadOnly, ///< offline
+    Online,   ///< and not to be changed; a host that changes stations while they run has none
 };
 
 /// Makes what one test needs; called anew for each.
-using ContractHostFactory = std::function<ContractHost(bool bReadOnly)>;
+using ContractHostFactory = std::function<ContractHost(ContractStation)>;
 
 /// Adds a test for every rule of the model contract to the test program, named "<host name>.<rule>". A host's test
 /// program links `zqbchwcx_contract_tests`, includes this header and calls it before `RUN_ALL_TESTS`, or while its
 /// globals are made:
 ///
 ///     const bool registered = [] {
-///         zqbchwcx::testing::RegisterModelContract("MyModel", [](bool bReadOnly) { return MyHost(bReadOnly); });
+///         zqbchwcx::testing::RegisterModelContract("MyModel", MyHost);
 ///         return true;
 ///     }();
 ///

@@ -4,6 +4,7 @@
 #include "app/window/MainWindow.h"
 #include "app/window/StationView.h"
 #include "app/window/StatusLine.h"
+#include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
@@ -19,6 +20,8 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QTableView>
+#include <QTest>
 #include <QThread>
 #include <QTimer>
 
@@ -105,6 +108,29 @@ TEST_F(MainWindowTest, OffersOnlyWhatCanBeDone)
     EXPECT_TRUE(window->isWindowModified());
     Action("Undo delete")->trigger();
     EXPECT_TRUE(IsEnabled("Redo delete"));
+    EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, WhatIsGreyInAnOnlineStationIsRefusedByKeysToo)
+{
+    window->show();
+    Open(":/examples/district-heating-online.station.json");
+    auto* view = window->findChild<StationView*>();
+    zqbchwcx::reference::Station& station = *window->Files().Current()->Station();
+    for (const char* text : {"Cut", "Copy", "Paste", "Delete"}) EXPECT_FALSE(IsEnabled(text)) << text;
+    const QString reason = QString::fromStdString(station.AgainstEditing()->text.en);
+    for (const auto& key : {std::pair(Qt::Key_Delete, Qt::NoModifier), std::pair(Qt::Key_X, Qt::ControlModifier)}) {
+        window->statusBar()->clearMessage();
+        QWidget* focused = view->findChild<QTableView*>();
+        focused->setFocus();
+        QTest::keyClick(focused, key.first, key.second);
+        EXPECT_TRUE(window->statusBar()->currentMessage() == reason || StatusTexts().contains(reason)) << key.first;
+    }
+    view->Manager().Delete();
+    view->Manager().Cut();
+    EXPECT_FALSE(view->Manager().SetSingleModuleToCurPos(station.CreateModule("Q3-DI16-A")));
+    const auto drag = view->DragDropController();
+    EXPECT_FALSE(drag->IsValidDragPosition(zqbchwcx::G_PlacePosition(0, 4)));
     EXPECT_FALSE(window->isWindowModified());
 }
 

@@ -128,5 +128,16 @@ TEST_F(HistoryOfStation, ModifiedMeansDifferentFromWhatWasSaved)
     EXPECT_FALSE(history->CanUndo());
 }
 
+TEST_F(HistoryOfStation, AStationThatWentOnlineIsNotChangedByUndo)
+{
+    Comment(4, "a");
+    StationData online = station->Data();
+    online.displayMode = 1;
+    station->Restore(online);
+    EXPECT_FALSE(history->CanUndo());
+    EXPECT_FALSE(history->Undo());
+    EXPECT_EQ(Comments(), "a");
+}
+
 } // namespace
 } // namespace zqbchwcx::testing
