@@ -2,7 +2,28 @@
 
 #include <utility>
 
+#include <algorithm>
+
 namespace zqbchwcx::reference {
+
+bool IsNumber(ParameterKind kind)
+{
+    return kind == ParameterKind::Integer || kind == ParameterKind::Real;
+}
+
+std::optional<double> NumberIn(const ParameterValue& value)
+{
+    if (const auto* real = std::get_if<double>(&value)) return *real;
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) return static_cast<double>(*whole);
+    return {};
+}
+
+const ParameterDefinition* FindParameter(const ModuleType& type, std::string_view key)
+{
+    const auto found = std::find_if(type.parameters.begin(), type.parameters.end(),
+                                    [&](const ParameterDefinition& definition) { return definition.key == key; });
+    return found == type.parameters.end() ? nullptr : &*found;
+}
 
 Catalogue::Catalogue(std::string maker, std::vector<ModuleType> types, std::vector<CatalogueGroup> groups)
     : msMaker(std::move(maker)), mcolTypes(std::move(types)), mcolGroups(std::move(groups))

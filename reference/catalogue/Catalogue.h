@@ -4,6 +4,7 @@
 #include "zqbchwcx/reference/model/StationData.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -40,7 +41,14 @@ struct ParameterDefinition {
     double maximum = 0; ///< Integer and Real; Text: largest length
     ParameterValue defaultValue;
     std::vector<ParameterChoice> choices;
+    std::string notAbove =
+        {}; ///< Integer and Real: key of the type's parameter that this one must not exceed; or empty
 };
+
+/// Integer and Real.
+bool IsNumber(ParameterKind kind);
+/// Nothing for a value that is no number.
+std::optional<double> NumberIn(const ParameterValue& value);
 
 struct ModuleType {
     std::string orderNumber;
@@ -66,6 +74,9 @@ struct ModuleType {
         return fitsDistributed && (distributedKind == 0 || distributedKind == stationKind);
     }
 };
+
+/// Null when the type has no such parameter.
+const ParameterDefinition* FindParameter(const ModuleType& type, std::string_view key);
 
 /// A folder of the catalogue tree.
 struct CatalogueGroup {

@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::string_view Format = "quillon-catalogue";
 constexpr std::int32_t NewestVersion = 1;
-constexpr std::size_t LargestFile = std::size_t{64} << 20;
+constexpr std::size_t LargestFile = std::size_t{16} << 20;
 constexpr std::size_t MostTypes = 100'000;
 constexpr std::size_t MostGroups = 1'000;
 constexpr std::size_t MostFacts = 100;
@@ -166,6 +166,21 @@ private:
                 add(ReadParameterDefinition(definition), definition);
         if (type.parameters.size() > MaxParameters)
             cursor.Fail("has more than " + std::to_string(MaxParameters) + " parameters");
+        CheckOrder(cursor, type);
+    }
+
+    /// A parameter is compared with a number of the same type, and the defaults are in order.
+    static void CheckOrder(const JsonCursor& cursor, const ModuleType& type)
+    {
+        for (const ParameterDefinition& lower : type.parameters) {
+            if (lower.notAbove.empty()) continue;
+            const ParameterDefinition* upper = FindParameter(type, lower.notAbove);
+            if (!upper || upper == &lower || !IsNumber(upper->kind))
+                cursor.Fail("the parameter \"" + lower.key + "\" is compared with \"" + lower.notAbove +
+                            "\", which is no other number of this type");
+            if (NumberIn(lower.defaultValue) > NumberIn(upper->defaultValue))
+                cursor.Fail("the default of \"" + lower.key + "\" is greater than that of \"" + upper->key + "\"");
+        }
     }
 
     static void ReadFacts(const JsonCursor& cursor, ModuleType& type)

@@ -23,7 +23,7 @@ constexpr std::size_t MostChoices = 256;
 
 bool HasRange(ParameterKind kind)
 {
-    return kind == ParameterKind::Integer || kind == ParameterKind::Real || kind == ParameterKind::Text;
+    return IsNumber(kind) || kind == ParameterKind::Text;
 }
 
 void ReadRange(const JsonCursor& cursor, ParameterDefinition& definition)
@@ -104,7 +104,8 @@ LocalizedText ReadLocalizedText(const JsonCursor& text)
 
 ParameterDefinition ReadParameterDefinition(const JsonCursor& cursor)
 {
-    cursor.AllowMembers({"key", "label", "help", "kind", "unit", "minimum", "maximum", "default", "choices"});
+    cursor.AllowMembers(
+        {"key", "label", "help", "kind", "unit", "minimum", "maximum", "default", "choices", "notAbove"});
     ParameterDefinition definition;
     definition.key = cursor.Member("key").Text(1, MaxTextBytes);
     definition.label = ReadLocalizedText(cursor.Member("label"));
@@ -113,6 +114,10 @@ ParameterDefinition ReadParameterDefinition(const JsonCursor& cursor)
     if (const auto unit = cursor.OptionalMember("unit")) definition.unit = unit->Text(1, MaxTextBytes);
     ReadRange(cursor, definition);
     ReadChoices(cursor, definition);
+    if (const auto notAbove = cursor.OptionalMember("notAbove")) {
+        if (!IsNumber(definition.kind)) notAbove->Fail("only numbers can be compared");
+        definition.notAbove = notAbove->Text(1, MaxTextBytes);
+    }
     definition.defaultValue = ReadDefault(cursor.Member("default"), definition);
     return definition;
 }

@@ -5,35 +5,44 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <optional>
 #include <sstream>
 #include <string>
 
 namespace zqbchwcx::reference {
 namespace {
 
-std::string NumberText(double value)
+/// As it is written in the language, without separators of thousands.
+LocalizedText NumberText(double value)
 {
     std::ostringstream text;
     text.imbue(std::locale::classic());
     text.precision(12);
     text << value;
-    return text.str();
+    LocalizedText number{text.str(), text.str()};
+    std::replace(number.de.begin(), number.de.end(), '.', ',');
+    return number;
+}
+
+LocalizedText LabelOf(const ParameterDefinition& definition)
+{
+    const std::string& en = definition.label.en.empty() ? definition.key : definition.label.en;
+    const std::string& de = definition.label.de.empty() ? en : definition.label.de;
+    return {"\"" + en + "\"", "\"" + de + "\""};
 }
 
 Refusal BadValue(const ParameterDefinition& definition, const LocalizedText& wanted, PlaceRef place)
 {
-    const std::string& en = definition.label.en.empty() ? definition.key : definition.label.en;
-    const std::string& de = definition.label.de.empty() ? en : definition.label.de;
-    return {Rule::ValueNotAllowed,
-            place,
-            {"\"" + en + "\" must be " + wanted.en, "\"" + de + "\" muss " + wanted.de + " sein"}};
+    const LocalizedText label = LabelOf(definition);
+    return {
+        Rule::ValueNotAllowed, place, {label.en + " must be " + wanted.en, label.de + " muss " + wanted.de + " sein"}};
 }
 
 LocalizedText RangeText(const ParameterDefinition& definition)
 {
-    const std::string low = NumberText(definition.minimum);
-    const std::string high = NumberText(definition.maximum);
-    return {"a number from " + low + " to " + high, "eine Zahl von " + low + " bis " + high};
+    const LocalizedText low = NumberText(definition.minimum);
+    const LocalizedText high = NumberText(definition.maximum);
+    return {"a number from " + low.en + " to " + high.en, "eine Zahl von " + low.de + " bis " + high.de};
 }
 
 bool InRange(const ParameterDefinition& definition, double value)
@@ -53,8 +62,8 @@ Objection AgainstTextValue(const ParameterDefinition& definition, const std::str
     if (Objection tooLong = AgainstText(value, place)) return tooLong;
     const double length = CharacterCount(value);
     if (length >= definition.minimum && length <= definition.maximum) return {};
-    const std::string low = NumberText(definition.minimum);
-    const std::string high = NumberText(definition.maximum);
+    const std::string low = NumberText(definition.minimum).en;
+    const std::string high = NumberText(definition.maximum).en;
     return BadValue(
         definition,
         {"a text of " + low + " to " + high + " characters", "ein Text mit " + low + " bis " + high + " Zeichen"},
@@ -73,6 +82,44 @@ void AgainstParameters(const ModuleData& module, const ModuleType& type, PlaceRe
         } else if (Objection objection = AgainstValue(*definition, value, place)) {
             found.push_back(*std::move(objection));
         }
+    }
+}
+
+/// The number that the module has for the parameter; nothing when its value is none.
+std::optional<double> NumberOf(const ModuleData& module, const ParameterDefinition& definition)
+{
+    const auto own = module.parameters.find(definition.key);
+    return NumberIn(own == module.parameters.end() ? definition.defaultValue : own->second);
+}
+
+/// Against a number that is greater than the one of the parameter that it must not exceed.
+Objection AgainstGreater(const ModuleData& module, const ParameterDefinition& lower, const ParameterDefinition& upper,
+                         PlaceRef place)
+{
+    const std::optional<double> low = NumberOf(module, lower);
+    const std::optional<double> high = NumberOf(module, upper);
+    if (!low || !high || *low <= *high) return {};
+    const auto named = [](const ParameterDefinition& definition, double value) {
+        const std::string unit = definition.unit.empty() ? std::string() : " " + definition.unit;
+        const LocalizedText number = NumberText(value);
+        const LocalizedText label = LabelOf(definition);
+        return LocalizedText{label.en + " (" + number.en + unit + ")", label.de + " (" + number.de + unit + ")"};
+    };
+    const LocalizedText below = named(lower, *low);
+    const LocalizedText above = named(upper, *high);
+    return Refusal{
+        Rule::ValueNotAllowed,
+        place,
+        {below.en + " must not be greater than " + above.en, below.de + " darf nicht größer sein als " + above.de}};
+}
+
+void AgainstOrder(const ModuleData& module, const ModuleType& type, PlaceRef place, std::vector<Refusal>& found)
+{
+    for (const ParameterDefinition& lower : type.parameters) {
+        if (lower.notAbove.empty()) continue;
+        const ParameterDefinition* upper = FindParameter(type, lower.notAbove);
+        if (!upper) continue;
+        if (Objection objection = AgainstGreater(module, lower, *upper, place)) found.push_back(*std::move(objection));
     }
 }
 
@@ -104,6 +151,7 @@ std::vector<Refusal> AgainstModule(const ModuleData& module, const Catalogue& ca
     for (const std::string& text : {std::cref(module.name), std::cref(module.comment)})
         if (Objection objection = AgainstText(text, place)) found.push_back(*std::move(objection));
     AgainstParameters(module, *type, place, found);
+    AgainstOrder(module, *type, place, found);
     if (!HasTypesOf(module.subModules, type->subModules)) {
         found.push_back({Rule::SubModules,
                          place,
@@ -207,13 +255,6 @@ Objection AgainstValue(const ParameterDefinition& definition, const ParameterVal
     }
     }
     return {};
-}
-
-const ParameterDefinition* FindParameter(const ModuleType& type, std::string_view key)
-{
-    const auto found = std::find_if(type.parameters.begin(), type.parameters.end(),
-                                    [&](const ParameterDefinition& definition) { return definition.key == key; });
-    return found == type.parameters.end() ? nullptr : &*found;
 }
 
 ModuleData NewModule(const ModuleType& type, const Catalogue& catalogue)

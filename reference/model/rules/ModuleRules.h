@@ -12,8 +12,8 @@ namespace zqbchwcx::reference {
 
 /// The rules of one module by itself, each as a function over plain data. The place is the one that reasons name.
 
-/// Everything against the module: type, texts, parameters, sub-modules and (unless they are still to be allotted)
-/// addresses, its sub-modules included.
+/// Everything against the module: type, texts, parameters (each, and those that must not exceed others), sub-modules
+/// and (unless they are still to be allotted) addresses, its sub-modules included.
 std::vector<Refusal> AgainstModule(const ModuleData& module, const Catalogue& catalogue, PlaceRef place);
 /// Everything against the addresses of the module and its sub-modules, overlaps with other modules apart.
 std::vector<Refusal> AgainstAddresses(const ModuleData& module, const Catalogue& catalogue, std::int32_t areaSize,
@@ -26,9 +26,6 @@ Objection AgainstRange(AddressArea area, std::int32_t address, std::int32_t byte
 Objection AgainstText(std::string_view text, PlaceRef place);
 /// Against a value of a parameter: its kind, range, choice or length.
 Objection AgainstValue(const ParameterDefinition& definition, const ParameterValue& value, PlaceRef place);
-
-/// Null when the type has no such parameter.
-const ParameterDefinition* FindParameter(const ModuleType& type, std::string_view key);
 
 /// A module of the type as it comes from the catalogue, with its sub-modules and without addresses. A sub-module
 /// type that the catalogue lacks is left out.

@@ -82,6 +82,8 @@ TEST(SetAttribute, ReadsParametersByTheirKindAndDropsDefaults)
         {"DELAY", "20", Done},
         {"delay", "21", Rule::ValueNotAllowed},
         {"delay", "1.5", Rule::ValueNotAllowed},
+        {"scale", "9.5", Done},
+        {"delay", "9", Rule::ValueNotAllowed}, // "scale" is greater
         {"scale", "-9.25", Done},
         {"scale", "nan", Rule::ValueNotAllowed},
         {"scale", "11", Rule::ValueNotAllowed},

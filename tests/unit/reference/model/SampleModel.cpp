@@ -32,7 +32,7 @@ std::vector<ModuleType> SampleTypes()
     di.parameters = {
         {"alarm", {}, {}, ParameterKind::Boolean, "", 0, 0, false, {}},
         {"delay", {}, {}, ParameterKind::Integer, "ms", 0, 20, std::int64_t{3}, {}},
-        {"scale", {}, {}, ParameterKind::Real, "", -10, 10, 1.5, {}},
+        {"scale", {}, {}, ParameterKind::Real, "", -10, 10, 1.5, {}, "delay"},
         {"edge", {}, {}, ParameterKind::Choice, "", 0, 0, "rising", {{"rising", {}}, {"falling", {}}}},
         {"label", {}, {}, ParameterKind::Text, "", 0, 8, "", {}},
     };
