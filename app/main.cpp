@@ -3,9 +3,12 @@
 #include "app/commandline/ParseCommandLine.h"
 #include "app/commandline/RunCommand.h"
 #include "app/commandline/RunRender.h"
+#include "app/commandline/TellErrors.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 
 #include <QApplication>
 
+#include <cstdlib>
 #include <iostream>
 
 using namespace quillon_ed;
@@ -23,11 +26,46 @@ int refuse(const UsageError& error)
 }
 
 /// What the window system's layer remarks about the desktop is nothing to a command that needs none.
-void keepQuietAboutTheDesktop()
+void keepQuietAboutTheDesktop(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-        if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << "quillon-ed: " << text.toStdString() << '\n';
-    });
+    if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << "quillon-ed: " << text.toStdString() << '\n';
+}
+
+Language languageOfStart = Language::English;
+
+/// Without a display the toolkit would explain itself in many lines and abort.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&)
+{
+    if (type != QtFatalMsg) return;
+    const LocalizedText reason{"no window can be opened: no display can be reached",
+                               "es kann kein Fenster geöffnet werden: kein Bildschirm ist erreichbar"};
+    std::cerr << "quillon-ed: " << reason.In(languageOfStart) << '\n';
+    std::_Exit(ExitFile);
+}
+
+/// An exception must not travel through the toolkit: it is told among the messages, and the window goes on.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        bool handled = false;
+        zqbchwcx::G_Trap("Application", "notify", [&] { handled = QApplication::notify(receiver, event); });
+        return handled;
+    }
+};
+
+int runApplication(const CommandLine& line, const CommandStreams& streams, char** argv)
+{
+    languageOfStart = LanguageOf(line);
+    if (line.command == Command::Render) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(endWithoutDisplay);
+    // The arguments have been read; the application gets none of them.
+    int count = 1;
+    const Application application(count, argv);
+    qInstallMessageHandler(line.command == Command::Render ? keepQuietAboutTheDesktop : nullptr);
+    return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
 }
 
 void nameProgram()
@@ -38,9 +76,7 @@ void nameProgram()
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quillon Ed"));
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+int run(int argc, char** argv)
 {
     const auto parsed = ParseCommandLine({argv + 1, argv + argc});
     if (const auto* error = std::get_if<UsageError>(&parsed)) return refuse(*error);
@@ -53,15 +89,13 @@ int main(int argc, char** argv)
     }
 
     nameProgram();
-    if (line.command == Command::Open || line.command == Command::Render) {
-        if (line.command == Command::Render) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-            keepQuietAboutTheDesktop();
-        }
-        // The arguments have been read; the application gets none of them.
-        int count = 1;
-        const QApplication application(count, argv);
-        return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
-    }
+    if (line.command == Command::Open || line.command == Command::Render) return runApplication(line, streams, argv);
     return EndOutput(streams, LanguageOf(line), RunCommand(line, streams));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return TellErrors(std::cerr, Language::English, [&] { return run(argc, argv); });
 }

@@ -27,16 +27,16 @@ std::size_t EditDistance(std::string_view a, std::string_view b)
 
 std::string ClosestWord(std::string_view typed, const std::vector<std::string>& words)
 {
-    std::size_t best = typed.size() > 3 ? 2 : 1;
-    std::string closest;
-    for (const std::string& word : words) {
-        const std::size_t distance = EditDistance(typed, word);
-        if (distance < best || (distance == best && closest.empty())) {
-            best = distance;
-            closest = word;
-        }
-    }
-    return closest;
+    const std::size_t most = typed.size() > 3 ? 2 : 1;
+    const std::string nearest = NearestWord(typed, words);
+    return EditDistance(typed, nearest) <= most ? nearest : std::string();
+}
+
+std::string NearestWord(std::string_view typed, const std::vector<std::string>& words)
+{
+    return *std::min_element(words.begin(), words.end(), [&](const std::string& a, const std::string& b) {
+        return EditDistance(typed, a) < EditDistance(typed, b);
+    });
 }
 
 } // namespace quillon_ed

@@ -26,7 +26,7 @@ Exit codes:
   0  done; "check" found nothing
   1  "check" found broken rules
   2  the command line is wrong
-  3  a file could not be read or written
+  3  a file could not be read or written, or there is no display for the window
 )",
             R"(Quillon Ed: die Hardware-Konfiguration von Stationen speicherprogrammierbarer Steuerungen
 
@@ -48,7 +48,7 @@ Rückgabewerte:
   0  getan; "check" hat nichts gefunden
   1  "check" hat verletzte Regeln gefunden
   2  die Befehlszeile ist falsch
-  3  eine Datei ließ sich nicht lesen oder schreiben
+  3  eine Datei ließ sich nicht lesen oder schreiben, oder dem Fenster fehlt ein Bildschirm
 )"};
 }
 

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <filesystem>
 #include <initializer_list>
 #include <string_view>
+#include <system_error>
 
 namespace quillon_ed {
 
@@ -138,7 +140,10 @@ bool endsInOneOf(const std::string& name, std::initializer_list<std::string_view
 /// Reads one command line; each step returns why it cannot go on.
 class Reader {
 public:
-    explicit Reader(const std::vector<std::string>& arguments) : mcolArguments(arguments) {}
+    Reader(const std::vector<std::string>& arguments, const std::function<bool(const std::string&)>& isFileName)
+        : mcolArguments(arguments), mIsFileName(isFileName)
+    {
+    }
 
     Reason Read()
     {
@@ -149,7 +154,9 @@ public:
             else if (optionsEnded || argument.size() < 2 || argument[0] != '-') readWord(argument, !optionsEnded);
             else if (Reason reason = readOption(argument)) return reason;
         }
-        return line.help || line.version ? Reason() : checkFiles();
+        if (line.help || line.version) return {};
+        if (Reason mistyped = mistypedCommand()) return mistyped;
+        return checkFiles();
     }
 
     CommandLine line;
@@ -166,7 +173,7 @@ private:
                 line.command = rule.command;
                 return;
             }
-            mbMayBeMistyped = true;
+            mbMayBeMistyped = word.find_first_of("./") == std::string::npos && !mIsFileName(word);
         }
         line.files.push_back(word);
     }
@@ -236,10 +243,9 @@ private:
             return LocalizedText{"the name of the new file '" + line.files[1] + "' must end in .json, .csv or .md",
                                  "der Name der neuen Datei '" + line.files[1] +
                                      "' muss auf .json, .csv oder .md enden"};
-        return mistypedCommand();
+        return {};
     }
 
-    /// A first word like "rendr" is rather a mistyped command than a file; "./rendr" opens a file of that name.
     Reason mistypedCommand() const
     {
         if (!mbMayBeMistyped) return {};
@@ -247,23 +253,30 @@ private:
         for (const CommandRule& rule : CommandRules)
             if (!rule.word.empty()) words.emplace_back(rule.word);
         const std::string& first = line.files[0];
-        const std::string meant = ClosestWord(first, words);
-        if (meant.empty()) return {};
-        return withHint({"unknown command '" + first + "'", "unbekannter Befehl '" + first + "'"}, meant);
+        return withHint({"unknown command '" + first + "'", "unbekannter Befehl '" + first + "'"},
+                        NearestWord(first, words));
     }
 
     const std::vector<std::string>& mcolArguments;
+    const std::function<bool(const std::string&)>& mIsFileName;
     std::size_t mlNext = 0;
     bool mbFirstWord = true;
-    /// The first word is no command, but stands where one would.
+    /// The first word is no command, but stands where one would and names nothing else.
     bool mbMayBeMistyped = false;
 };
 
 } // namespace
 
-std::variant<CommandLine, UsageError> ParseCommandLine(const std::vector<std::string>& arguments)
+bool IsFileName(const std::string& name)
 {
-    Reader reader(arguments);
+    std::error_code ignored;
+    return std::filesystem::exists(name, ignored);
+}
+
+std::variant<CommandLine, UsageError> ParseCommandLine(const std::vector<std::string>& arguments,
+                                                       const std::function<bool(const std::string& name)>& isFileName)
+{
+    Reader reader(arguments, isFileName);
     if (Reason reason = reader.Read()) return UsageError{std::move(*reason), std::move(reader.line)};
     return std::move(reader.line);
 }

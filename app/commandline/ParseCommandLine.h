@@ -2,6 +2,7 @@
 
 #include "app/commandline/CommandLine.h"
 
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -14,8 +15,14 @@ struct UsageError {
     CommandLine understood; ///< as far as it was read
 };
 
-/// Reads the arguments behind the program's name. "--" ends the options.
-std::variant<CommandLine, UsageError> ParseCommandLine(const std::vector<std::string>& arguments);
+/// Whether there is a file of that name.
+bool IsFileName(const std::string& name);
+
+/// Reads the arguments behind the program's name. "--" ends the options. A first word without a dot or slash that is
+/// neither a command nor a file is a mistyped command.
+std::variant<CommandLine, UsageError>
+ParseCommandLine(const std::vector<std::string>& arguments,
+                 const std::function<bool(const std::string& name)>& isFileName = IsFileName);
 
 /// The word a user types for the command; empty for opening.
 std::string CommandWord(Command command);

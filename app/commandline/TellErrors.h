@@ -5,6 +5,7 @@
 #include "zqbchwcx/reference/json/FileError.h"
 
 #include <exception>
+#include <new>
 #include <ostream>
 
 namespace quillon_ed {
@@ -17,6 +18,10 @@ int TellErrors(std::ostream& err, zqbchwcx::reference::Language language, Body&&
         return body();
     } catch (const zqbchwcx::reference::FileError& error) {
         err << "quillon-ed: " << error.Message(language) << '\n';
+        return ExitFile;
+    } catch (const std::bad_alloc&) {
+        const LocalizedText reason{"there is not enough memory", "der Speicher reicht nicht"};
+        err << "quillon-ed: " << reason.In(language) << '\n';
         return ExitFile;
     } catch (const std::exception& error) {
         err << "quillon-ed: " << error.what() << '\n';

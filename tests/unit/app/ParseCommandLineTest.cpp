@@ -22,7 +22,7 @@ CommandLine Understood(const Arguments& arguments)
 
 std::string Refusal(const Arguments& arguments)
 {
-    const auto parsed = ParseCommandLine(arguments);
+    const auto parsed = ParseCommandLine(arguments, [](const std::string& name) { return name == "plant"; });
     const auto* error = std::get_if<UsageError>(&parsed);
     return error ? error->reason.en : "accepted";
 }
@@ -85,6 +85,10 @@ TEST(ParseCommandLine, RefusesTheRestAndSaysWhy)
         {{"--lang=de", "chekc", "s.json"}, "unknown command 'chekc'; did you mean 'check'?"},
         {{"rendr", "s.json", "-o", "x.png"}, "unknown command 'rendr'; did you mean 'render'?"},
         {{"./rendr"}, "accepted"},
+        {{"rendr.json"}, "accepted"},
+        {{"plant"}, "accepted"},
+        {{"compare", "a.json", "b.json"}, "unknown command 'compare'; did you mean 'convert'?"},
+        {{"lst", "--json", "a.json"}, "unknown command 'lst'; did you mean 'list'?"},
         {{"check", "s.json", "--scale", "2"}, "'check' has no option '--scale'"},
         {{"s.json", "-o", "x"}, "the option '-o' needs a command before it"},
         {{"render", "s.json", "-o"}, "the option '-o' needs a value"},
