@@ -4,11 +4,11 @@
 #include "app/commandline/TellErrors.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
+#include "app/host/UserSettings.h"
 #include "app/window/MainWindow.h"
 
 #include <QApplication>
 #include <QProcess>
-#include <QSettings>
 
 #include <iostream>
 
@@ -36,12 +36,13 @@ void openOtherStations(const CommandLine& line)
 int OpenStations(const CommandLine& line)
 {
     return TellErrors(std::cerr, LanguageOf(line), [&] {
-        QSettings settings;
-        AppServices services(settings);
+        UserSettings settings;
+        AppServices services(settings.Settings());
         if (line.language) services.ShowLanguage(*line.language);
         openOtherStations(line);
 
         MainWindow window(services);
+        if (settings.Refused()) window.Warn(ToQString(settings.Refused()->Message(services.CurrentLanguage())));
         window.Start(line.files.empty() ? QString() : ToQString(line.files.front()));
         return QApplication::exec();
     });

@@ -7,11 +7,10 @@
 #include "app/host/AppServices.h"
 #include "app/host/PlainText.h"
 #include "app/host/Strings.h"
+#include "app/host/UserSettings.h"
 #include "zqbchwcx/reference/files/StationReader.h"
 #include "zqbchwcx/reference/json/FileError.h"
 #include "zqbchwcx/reference/model/contract/Station.h"
-
-#include <QSettings>
 
 namespace quillon_ed {
 
@@ -31,9 +30,10 @@ void tellReports(const ErrorLog& log, std::ostream& err)
 int RunRender(const CommandLine& line, const CommandStreams& streams)
 {
     return TellErrors(streams.err, LanguageOf(line), [&] {
-        QSettings settings;
-        AppServices services(settings);
+        UserSettings settings;
+        AppServices services(settings.Settings());
         services.ShowLanguage(LanguageOf(line));
+        if (settings.Refused()) streams.err << "quillon-ed: " << settings.Refused()->Message(LanguageOf(line)) << '\n';
 
         const std::string& file = line.files[0];
         StationData data = LoadStation(file, services.Catalogue()).data;

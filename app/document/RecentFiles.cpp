@@ -3,11 +3,14 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <utility>
+
 namespace quillon_ed {
 
 namespace {
 
 const QString Key = QStringLiteral("RecentFiles");
+constexpr qsizetype LongestPath = 4096; ///< no file has a longer one
 
 } // namespace
 
@@ -17,7 +20,10 @@ QStringList RecentFiles::Files() const
 {
     // Other programs add to the list too.
     moSettings.sync();
-    return moSettings.value(Key).toStringList();
+    QStringList files;
+    for (const QString& file : moSettings.value(Key).toStringList())
+        if (files.size() < Capacity && file.size() <= LongestPath) files << file;
+    return files;
 }
 
 void RecentFiles::Add(const QString& fileName)
@@ -44,6 +50,7 @@ void RecentFiles::Store(const QStringList& files)
 {
     moSettings.setValue(Key, files);
     moSettings.sync();
+    if (moSettings.status() == QSettings::AccessError && !std::exchange(mbNotKept, true)) emit notKept();
     emit changed();
 }
 

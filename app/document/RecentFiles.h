@@ -24,11 +24,14 @@ public:
 
 signals:
     void changed();
+    /// The list will not outlive this run. Told once.
+    void notKept();
 
 private:
     void Store(const QStringList& files);
 
     QSettings& moSettings;
+    bool mbNotKept = false;
 };
 
 } // namespace quillon_ed

@@ -39,8 +39,7 @@ QByteArray PngOf(const reference::StationPtr& station, double scale)
     caption.Paint(painter, palette.color(QPalette::Text));
     painter.end();
     QBuffer buffer;
-    image.save(&buffer, "PNG");
-    return buffer.data();
+    return image.save(&buffer, "PNG") ? buffer.data() : QByteArray();
 }
 
 QByteArray SvgOf(const reference::StationPtr& station, const QString& title)
@@ -52,11 +51,11 @@ QByteArray SvgOf(const reference::StationPtr& station, const QString& title)
     generator.setTitle(title);
     generator.setSize(overview.Size().toSize());
     generator.setViewBox(QRectF(QPointF(), overview.Size()));
-    QPainter painter(&generator);
+    QPainter painter;
+    if (!painter.begin(&generator)) return {};
     painter.fillRect(generator.viewBoxF(), Qt::white);
     overview.Paint(painter);
-    painter.end();
-    return buffer.data();
+    return painter.end() ? buffer.data() : QByteArray();
 }
 
 QByteArray PdfOf(const reference::StationPtr& station, const PageHeader& header)
@@ -70,8 +69,7 @@ QByteArray PdfOf(const reference::StationPtr& station, const PageHeader& header)
     writer.setCreator(QStringLiteral("Quillon Ed"));
     StationPages pages(header, PageSizeOf(writer));
     pages.AddDrawing(overview.Size(), [&](QPainter& painter) { overview.Paint(painter); });
-    PaintPages(pages, writer, 1, pages.Count());
-    return buffer.data();
+    return PaintPages(pages, writer, 1, pages.Count()) ? buffer.data() : QByteArray();
 }
 
 } // namespace

@@ -2,7 +2,10 @@
 
 #include "app/export/ExportModuleList.h"
 #include "app/export/PaperOverview.h"
+#include "app/export/WriteBytes.h"
 
+#include <QBuffer>
+#include <QPdfWriter>
 #include <QPrinter>
 
 #include <algorithm>
@@ -11,6 +14,28 @@
 namespace quillon_ed {
 
 using namespace zqbchwcx;
+
+namespace {
+
+bool WritesFile(const QPrinter& printer)
+{
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+}
+
+/// The printer itself would not tell that the file it writes was cut off. Empty when the pages could not be made.
+QByteArray PdfOf(const StationPages& pages, const QPrinter& printer, int first, int last)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(printer.resolution());
+    writer.setPageLayout(printer.pageLayout());
+    writer.setTitle(printer.docName());
+    writer.setCreator(printer.creator());
+    return PaintPages(pages, writer, first, last) ? buffer.data() : QByteArray();
+}
+
+} // namespace
 
 bool PrintStation(const reference::StationPtr& station, const PageHeader& header, QPrinter& printer)
 {
@@ -26,7 +51,11 @@ bool PrintStation(const reference::StationPtr& station, const PageHeader& header
     const int first = isRange ? std::clamp(printer.fromPage(), 1, pages.Count()) : 1;
     const int last = isRange ? std::clamp(printer.toPage(), first, pages.Count()) : pages.Count();
     printer.setDocName(header.stationName);
-    return PaintPages(pages, printer, first, last);
+    if (WritesFile(printer)) {
+        WriteBytes(printer.outputFileName(), PdfOf(pages, printer, first, last));
+        return true;
+    }
+    return PaintPages(pages, printer, first, last) && printer.printerState() != QPrinter::Error;
 }
 
 } // namespace quillon_ed

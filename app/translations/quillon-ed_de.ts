@@ -157,6 +157,10 @@
         <translation>Die Baugruppenliste kann nicht exportiert werden.</translation>
     </message>
     <message>
+        <source>The station cannot be printed.</source>
+        <translation>Die Station kann nicht gedruckt werden.</translation>
+    </message>
+    <message>
         <source>The printer cannot be used.</source>
         <translation>Der Drucker kann nicht benutzt werden.</translation>
     </message>
@@ -261,6 +265,10 @@
 </context>
 <context>
     <name>quillon_ed::MainWindow</name>
+    <message>
+        <source>The list of recent stations cannot be kept: the settings cannot be written.</source>
+        <translation>Die Liste der zuletzt geöffneten Stationen kann nicht behalten werden: die Einstellungen lassen sich nicht schreiben.</translation>
+    </message>
     <message>
         <source>Catalogue</source>
         <translation>Katalog</translation>

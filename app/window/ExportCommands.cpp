@@ -62,6 +62,13 @@ QString AskFileName(const Document& document, AppServices& services, const QStri
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
+void Fail(const QString& failure, const QString& reason, QWidget* parent)
+{
+    QMessageBox box(QMessageBox::Critical, ExportTexts::tr("Quillon Ed"), failure, QMessageBox::Close, parent);
+    box.setInformativeText(reason);
+    box.exec();
+}
+
 template <class Step>
 QString Export(const QString& file, AppServices& services, QWidget* parent, const QString& failure, Step step)
 {
@@ -71,9 +78,7 @@ QString Export(const QString& file, AppServices& services, QWidget* parent, cons
         RememberFolderOf(file, services.Settings());
         return ExportTexts::tr("“%1” was written.").arg(QDir::toNativeSeparators(file));
     } catch (const reference::FileError& error) {
-        QMessageBox box(QMessageBox::Critical, ExportTexts::tr("Quillon Ed"), failure, QMessageBox::Close, parent);
-        box.setInformativeText(ToQString(error.Message(services.CurrentLanguage())));
-        box.exec();
+        Fail(failure, ToQString(error.Message(services.CurrentLanguage())), parent);
     }
     return {};
 }
@@ -100,15 +105,20 @@ QString ExportList(AppServices& services, const Document& document, QWidget* par
     });
 }
 
-QString Print(const Document& document, QWidget* parent)
+QString Print(AppServices& services, const Document& document, QWidget* parent)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(document.Title());
     QPrintDialog dialog(&printer, parent);
     if (dialog.exec() != QDialog::Accepted) return {};
-    if (PrintStation(document.Station(), HeaderOf(document), printer))
-        return ExportTexts::tr("The station was printed.");
-    QMessageBox::critical(parent, ExportTexts::tr("Quillon Ed"), ExportTexts::tr("The printer cannot be used."));
+    const QString failure = ExportTexts::tr("The station cannot be printed.");
+    try {
+        if (PrintStation(document.Station(), HeaderOf(document), printer))
+            return ExportTexts::tr("The station was printed.");
+        Fail(failure, ExportTexts::tr("The printer cannot be used."), parent);
+    } catch (const reference::FileError& error) {
+        Fail(failure, ToQString(error.Message(services.CurrentLanguage())), parent);
+    }
     return {};
 }
 

@@ -13,6 +13,6 @@ class Document;
 /// it is done; nothing when the user changed their mind, or has read why it failed.
 QString ExportPicture(AppServices& services, const Document& document, QWidget* parent);
 QString ExportList(AppServices& services, const Document& document, QWidget* parent);
-QString Print(const Document& document, QWidget* parent);
+QString Print(AppServices& services, const Document& document, QWidget* parent);
 
 } // namespace quillon_ed

@@ -131,6 +131,11 @@ void MainWindow::Start(const QString& file)
     });
 }
 
+void MainWindow::Warn(const QString& text)
+{
+    moMessages->Add(text);
+}
+
 void MainWindow::AddDocks()
 {
     moCatalogueDock->setObjectName(QStringLiteral("catalogueDock"));
@@ -182,12 +187,14 @@ void MainWindow::ConnectFileActions()
     on(moActions.exportPicture, this,
        [this] { moStatusLine->Tell(ExportPicture(moServices, *moFiles.Current(), this)); });
     on(moActions.exportList, this, [this] { moStatusLine->Tell(ExportList(moServices, *moFiles.Current(), this)); });
-    on(moActions.filePrint, this, [this] { moStatusLine->Tell(Print(*moFiles.Current(), this)); });
+    on(moActions.filePrint, this, [this] { moStatusLine->Tell(Print(moServices, *moFiles.Current(), this)); });
     on(moActions.fileQuit, this, &QWidget::close);
     connect(&moFiles, &FileCommands::aboutToClose, this, &MainWindow::CloseView);
     connect(&moFiles, &FileCommands::opened, this, &MainWindow::ShowDocument);
     connect(&moFiles, &FileCommands::changed, this, &MainWindow::UpdateActions);
-    connect(&moFiles, &FileCommands::warned, this, [this](const QString& text) { moMessages->Add(text); });
+    connect(&moFiles, &FileCommands::warned, this, &MainWindow::Warn);
+    connect(&moRecentFiles, &RecentFiles::notKept, this,
+            [this] { Warn(tr("The list of recent stations cannot be kept: the settings cannot be written.")); });
     connect(&moRecentFiles, &RecentFiles::changed, this, &MainWindow::FillRecentMenu);
     connect(moStartPage, &StartPage::fileChosen, &moFiles, &FileCommands::OpenFile);
     connect(moStartPage, &StartPage::exampleChosen, &moFiles, &FileCommands::OpenExample);
@@ -312,9 +319,11 @@ void MainWindow::ShowDocument()
                              &moActions.editDelete});
             menu.exec(point);
         });
-        moRefused = document->Station()->Refused.Connect([this](const reference::Refusal& refusal) {
+        const auto tell = [this](const reference::Refusal& refusal) {
             moStatusLine->Tell(ToQString(refusal.text, moServices.CurrentLanguage()));
-        });
+        };
+        connect(moView, &StationView::refused, this, tell);
+        moRefused = document->Station()->Refused.Connect(tell);
         ReadClipboard();
         moView->FocusStation();
     } else {

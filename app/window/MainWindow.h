@@ -28,6 +28,8 @@ public:
 
     /// Opens the file, or the start page for none, when the menus and tools have been painted.
     void Start(const QString& file);
+    /// Adds to the messages.
+    void Warn(const QString& text);
     FileCommands& Files() { return moFiles; }
 
 protected:

@@ -12,18 +12,49 @@ namespace {
 /// Names for temporary files that an earlier program may have left behind are passed over.
 constexpr int MostNameAttempts = 100;
 
+constexpr std::string_view TemporarySuffix = ".tmp";
+
+/// Temporary files of a target are hidden: ".plant.json.4711-0.tmp".
+std::string TemporaryPrefix(const std::string& target)
+{
+    return "." + FileNameOf(target) + ".";
+}
+
+bool IsTemporaryOf(const std::string& target, std::string_view name)
+{
+    const std::string prefix = TemporaryPrefix(target);
+    if (!name.starts_with(prefix) || !name.ends_with(TemporarySuffix)) return false;
+    if (name.size() < prefix.size() + TemporarySuffix.size()) return false;
+    const std::string_view number = name.substr(prefix.size(), name.size() - prefix.size() - TemporarySuffix.size());
+    return number.find('-') != std::string_view::npos &&
+           number.find_first_not_of("0123456789-") == std::string_view::npos;
+}
+
+/// What programs that died while they wrote the target have left beside it. Running ones hold theirs.
+void RemoveAbandoned(FileSystem& files, const std::string& target)
+{
+    const std::string directory = DirectoryOf(target);
+    try {
+        for (const std::string& name : files.List(directory)) {
+            if (!IsTemporaryOf(target, name)) continue;
+            static_cast<void>(files.RemoveAbandoned(std::string(directory).append("/").append(name)));
+        }
+    } catch (const std::system_error&) { // NOLINT(bugprone-empty-catch): the next write tries again
+    }
+}
+
 struct TemporaryFile {
     std::string path;
-    FileSystem::Handle handle;
+    OpenFile file;
 };
 
 TemporaryFile CreateBeside(FileSystem& files, const std::string& target)
 {
-    const std::string stem = DirectoryOf(target) + "/." + FileNameOf(target) + "." + std::to_string(::getpid());
+    const std::string stem = DirectoryOf(target) + "/" + TemporaryPrefix(target) + std::to_string(::getpid());
     for (int attempt = 0;; ++attempt) {
-        const std::string path = stem + "-" + std::to_string(attempt) + ".tmp";
+        const std::string path = stem + "-" + std::to_string(attempt) + std::string(TemporarySuffix);
         try {
-            return {path, files.CreateNew(path)};
+            return {path, OpenFile(files, files.CreateNew(path))};
         } catch (const std::system_error& error) {
             if (error.code() != std::errc::file_exists || attempt == MostNameAttempts) throw;
         }
@@ -76,7 +107,7 @@ private:
                             "ist schreibgeschützt" + OldUnchanged().de);
 
         mStep = {"no file can be made in its directory", "in ihrem Ordner lässt sich keine Datei anlegen"};
-        const TemporaryFile temporary = CreateBeside(moFiles, target);
+        TemporaryFile temporary = CreateBeside(moFiles, target);
         try {
             Fill(temporary, content, status);
             mStep = {"cannot be replaced", "kann nicht ersetzt werden"};
@@ -86,6 +117,10 @@ private:
             throw;
         }
         mbReplaced = true;
+        // Closed no earlier: until it has its name, the open file shows others that it is not abandoned.
+        mStep = {"cannot be closed", "kann nicht geschlossen werden"};
+        temporary.file.Close();
+        RemoveAbandoned(moFiles, target);
 
         mStep = {"the directory cannot be flushed", "der Ordner kann nicht gesichert werden"};
         OpenFile directory(moFiles, moFiles.OpenDirectory(DirectoryOf(target)));
@@ -101,13 +136,15 @@ private:
 
     void Fill(const TemporaryFile& temporary, std::string_view content, const std::optional<FileStatus>& status)
     {
-        OpenFile file(moFiles, temporary.handle);
+        const FileSystem::Handle handle = temporary.file.Handle();
+        const std::size_t bytes = content.size();
         mStep = {"the permissions cannot be kept", "die Zugriffsrechte können nicht erhalten werden"};
-        if (status) moFiles.TakePermissions(file.Handle(), *status);
+        if (status) moFiles.TakePermissions(handle, *status);
         mStep = {"cannot be written", "kann nicht geschrieben werden"};
-        while (!content.empty()) content.remove_prefix(moFiles.Write(file.Handle(), content));
-        moFiles.Flush(file.Handle());
-        file.Close();
+        while (!content.empty()) content.remove_prefix(moFiles.Write(handle, content));
+        moFiles.Flush(handle);
+        const auto written = moFiles.Status(temporary.path);
+        if (!written || written->bytes != bytes) throw std::system_error(std::make_error_code(std::errc::io_error));
     }
 
     void RemoveQuietly(const std::string& path)

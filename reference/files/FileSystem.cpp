@@ -2,7 +2,6 @@
 
 #include "zqbchwcx/reference/files/SystemFailure.h"
 
-#include <algorithm>
 #include <array>
 #include <exception>
 #include <filesystem>
@@ -44,22 +43,34 @@ std::vector<std::string> ListFiles(FileSystem& files, const std::string& directo
     }
 }
 
+namespace {
+
+FileError TooLarge(const std::string& path, std::size_t largestBytes)
+{
+    constexpr std::size_t mebibyte = std::size_t{1} << 20;
+    const std::string limit = largestBytes % mebibyte == 0 ? std::to_string(largestBytes / mebibyte) + " MiB"
+                                                           : std::to_string(largestBytes) + " bytes";
+    return {path, "", "is larger than the limit for such files, " + limit,
+            "ist größer als die Grenze für solche Dateien, " + limit};
+}
+
+} // namespace
+
 std::string ReadFile(FileSystem& files, const std::string& path, std::size_t largestBytes)
 {
     try {
         const auto status = files.Status(path);
         if (!status) throw FileError(path, "", "there is no such file", "die Datei fehlt");
         if (!status->isRegularFile) throw FileError(path, "", "is not a regular file", "ist keine gewöhnliche Datei");
+        if (status->bytes > largestBytes) throw TooLarge(path, largestBytes);
 
         const OpenFile file(files, files.OpenForReading(path));
         std::string text;
-        text.reserve(static_cast<std::size_t>(std::min<std::uint64_t>(status->bytes, largestBytes)));
+        text.reserve(static_cast<std::size_t>(status->bytes));
         std::array<char, std::size_t{64} << 10> buffer{};
         while (const std::size_t count = files.Read(file.Handle(), buffer)) {
             text.append(buffer.data(), count);
-            if (text.size() > largestBytes)
-                throw FileError(path, "", "is larger than " + std::to_string(largestBytes) + " bytes",
-                                "ist größer als " + std::to_string(largestBytes) + " Bytes");
+            if (text.size() > largestBytes) throw TooLarge(path, largestBytes);
         }
         return text;
     } catch (const std::system_error& error) {

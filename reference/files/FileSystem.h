@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zqbchwcx::reference {
@@ -34,8 +35,11 @@ public:
     virtual std::string ResolveLinks(const std::string& path) = 0;
 
     virtual Handle OpenForReading(const std::string& path) = 0;
-    /// Fails with std::errc::file_exists when the name is taken.
+    /// Fails with std::errc::file_exists when the name is taken. The file is held, where the file system can do that,
+    /// until the handle is closed or the program ends.
     virtual Handle CreateNew(const std::string& path) = 0;
+    /// Removes a file that `CreateNew` made and nobody holds any more; false when somebody does.
+    virtual bool RemoveAbandoned(const std::string& path) = 0;
     virtual Handle OpenDirectory(const std::string& path) = 0;
     /// Returns the number of bytes read; 0 at the end.
     virtual std::size_t Read(Handle handle, std::span<char> buffer) = 0;
@@ -70,6 +74,8 @@ public:
 
     FileSystem::Handle Handle() const { return *mHandle; }
     void Close();
+    /// Gives the handle to the caller.
+    FileSystem::Handle Release() { return *std::exchange(mHandle, std::nullopt); }
 
 private:
     FileSystem& moFiles;

@@ -14,6 +14,7 @@ namespace {
 constexpr std::string_view Format = "quillon-journal";
 constexpr std::int32_t Version = 1;
 constexpr std::size_t LongestPath = 65536;
+constexpr JsonLimits HeadLimits{.bytes = 2 * LongestPath, .depth = 2, .values = 100};
 constexpr std::size_t HashDigits = 16;
 constexpr int Hexadecimal = 16;
 
@@ -68,7 +69,7 @@ JournalEntry ParseJournalEntry(std::string_view content, std::string_view fileNa
     const std::size_t lineEnd = content.find('\n');
     if (lineEnd == std::string_view::npos)
         throw FileError(std::string(fileName), "", "the first line is cut off", "die erste Zeile ist abgeschnitten");
-    const JsonDocument document = ParseStrictJson(content.substr(0, lineEnd), fileName);
+    const JsonDocument document = ParseStrictJson(content.substr(0, lineEnd), fileName, HeadLimits);
     const JsonCursor head(document);
     ReadFormatVersion(head, Format, Version);
     head.AllowMembers({"format", "version", "stationFile", "stamp", "bytes", "hash"});

@@ -32,6 +32,15 @@ auto Checked(Call&& call)
     }
 }
 
+/// Whether the name still leads to the open file.
+bool IsStillThere(int handle, const std::string& path)
+{
+    struct stat open = {};
+    struct stat named = {};
+    return ::fstat(handle, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
+}
+
 } // namespace
 
 FileSystem& SystemFiles()
@@ -83,7 +92,24 @@ FileSystem::Handle PosixFiles::OpenForReading(const std::string& path)
 
 FileSystem::Handle PosixFiles::CreateNew(const std::string& path)
 {
-    return Checked([&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, ModeOfNewFiles); });
+    OpenFile file(
+        *this, Checked([&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, ModeOfNewFiles); }));
+    // Whoever looks for abandoned files may have been faster: then the name is as good as taken.
+    const bool isHeldByOther = ::flock(file.Handle(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    if (isHeldByOther || !IsStillThere(file.Handle(), path)) ThrowSystemError(EEXIST);
+    return file.Release();
+}
+
+bool PosixFiles::RemoveAbandoned(const std::string& path)
+{
+    const OpenFile file(*this, Checked([&] { return ::open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC); }));
+    if (::flock(file.Handle(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) return false;
+        ThrowSystemError(errno);
+    }
+    // Held now, it can get its last name no more; before that it may have.
+    if (IsStillThere(file.Handle(), path)) Remove(path);
+    return true;
 }
 
 FileSystem::Handle PosixFiles::OpenDirectory(const std::string& path)

@@ -12,6 +12,7 @@ public:
     std::string ResolveLinks(const std::string& path) override;
     Handle OpenForReading(const std::string& path) override;
     Handle CreateNew(const std::string& path) override;
+    bool RemoveAbandoned(const std::string& path) override;
     Handle OpenDirectory(const std::string& path) override;
     std::size_t Read(Handle handle, std::span<char> buffer) override;
     std::size_t Write(Handle handle, std::string_view bytes) override;

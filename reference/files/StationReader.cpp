@@ -6,6 +6,7 @@
 #include "zqbchwcx/reference/json/StationNames.h"
 
 #include <memory>
+#include <new>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -99,6 +100,14 @@ private:
     std::optional<FileError> moError;
 };
 
+LoadedStation ReadStation(const std::string& fileName, const Catalogue& catalogue, FileSystem& files)
+{
+    // The state is taken first: a change while reading is then noticed later, not overlooked.
+    const auto status = ReadStatus(files, fileName);
+    const std::string text = ReadFile(files, fileName, LargestStationFile);
+    return {ParseStation(text, fileName, catalogue), MakeStamp(status, text)};
+}
+
 } // namespace
 
 StationData ParseStation(std::string_view text, std::string_view fileName, const Catalogue& catalogue)
@@ -126,10 +135,11 @@ StationData ParseStation(std::string_view text, std::string_view fileName, const
 
 LoadedStation LoadStation(const std::string& fileName, const Catalogue& catalogue, FileSystem& files)
 {
-    // The state is taken first: a change while reading is then noticed later, not overlooked.
-    const auto status = ReadStatus(files, fileName);
-    const std::string text = ReadFile(files, fileName, LargestStationFile);
-    return {ParseStation(text, fileName, catalogue), MakeStamp(status, text)};
+    try {
+        return ReadStation(fileName, catalogue, files);
+    } catch (const std::bad_alloc&) {
+        throw FileError(fileName, "", "there is not enough memory for it", "der Speicher reicht dafür nicht");
+    }
 }
 
 } // namespace zqbchwcx::reference

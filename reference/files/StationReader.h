@@ -12,7 +12,8 @@ namespace zqbchwcx::reference {
 /// The name of the station file format and the version that is written.
 inline constexpr std::string_view StationFormat = "quillon-station";
 inline constexpr std::int32_t StationFormatVersion = 1;
-inline constexpr std::size_t LargestStationFile = std::size_t{256} << 20;
+/// Several times what 100 racks full of modules take.
+inline constexpr std::size_t LargestStationFile = std::size_t{64} << 20;
 
 /// A station and the state of the file that it was read from.
 struct LoadedStation {

@@ -72,9 +72,18 @@ public:
     }
 
 private:
+    /// How many objects and arrays are open around an element of an array of the root.
+    static constexpr std::size_t ElementDepth = 2;
+
     template <class Value>
     nlohmann::json* Insert(Value&& value)
     {
+        if (mcolOpen.size() == ElementDepth) mnValuesOutside = mnValues;
+        if (++mnValues > moLimits.values) {
+            const std::string limit = std::to_string(moLimits.values);
+            Refuse({"holds more than " + limit + " values, the limit",
+                    "enthält mehr als " + limit + " Werte, die Obergrenze"});
+        }
         if (mcolOpen.empty()) return &(moDocument.root = std::forward<Value>(value));
         nlohmann::json& parent = *mcolOpen.back();
         if (parent.is_array()) return &parent.emplace_back(std::forward<Value>(value));
@@ -108,13 +117,13 @@ private:
 
     void Take(nlohmann::json& element)
     {
-        constexpr std::size_t inArrayOfRoot = 2;
-        if (!moTaker.take || mcolOpen.size() != inArrayOfRoot || !mcolOpen.back()->is_array()) return;
+        if (!moTaker.take || mcolOpen.size() != ElementDepth || !mcolOpen.back()->is_array()) return;
         const nlohmann::json& root = moDocument.root;
         const auto array = root.is_object() ? root.find(moTaker.array) : root.end();
         if (array == root.end() || &*array != mcolOpen.back()) return;
         moTaker.take(moDocument, element);
         element = nullptr;
+        mnValues = mnValuesOutside + 1;
     }
 
     std::string Pointer() const
@@ -132,6 +141,8 @@ private:
     const ElementTaker& moTaker;
     std::vector<nlohmann::json*> mcolOpen;
     std::string msKey;
+    std::size_t mnValues = 0;
+    std::size_t mnValuesOutside = 0; ///< the same without the element of the array of the root that is being read
 };
 
 } // namespace

@@ -11,8 +11,9 @@ namespace zqbchwcx::reference {
 
 /// What hostile input may cost at most.
 struct JsonLimits {
-    std::size_t bytes = std::size_t{256} << 20;
-    std::size_t depth = 32; ///< nested objects and arrays
+    std::size_t bytes = std::size_t{64} << 20;
+    std::size_t depth = 32;         ///< nested objects and arrays
+    std::size_t values = 1'000'000; ///< that the document holds at one time
 };
 
 /// A JSON text that has been read, and the name under which errors in it are told.

@@ -25,12 +25,20 @@ class Usage(Home):
         for arguments, reason in ((["check"], "'check' needs a station file"),
                                   (["render", "x.json", "--sclae", "2"], "did you mean '--scale'?"),
                                   (["chekc", "x.json"], "did you mean 'check'?"),
+                                  (["compare", "x.json", "y.json"], "did you mean 'convert'?"),
                                   (["list", "x.json", "--lang", "fr"], "there is no language 'fr'")):
             done = self.run_command(*arguments)
             self.assertEqual((done.returncode, done.stdout), (USAGE, ""))
             self.assertTrue(done.stderr.startswith("quillon-ed: "), done.stderr)
             self.assertIn(reason, done.stderr)
             self.assertIn("--help", done.stderr)
+
+
+    def test_a_window_without_a_display_is_refused_in_one_line(self):
+        for arguments in ([], [EXAMPLES / "waterworks.station.json"]):
+            done = self.run_command(*arguments)
+            self.assertEqual((done.returncode, done.stdout), (UNREADABLE, ""))
+            self.assertRegex(done.stderr, r"^quillon-ed: no window can be opened: [^\n]+\n$")
 
 
 class Check(Home):
@@ -61,6 +69,25 @@ class Check(Home):
             self.assertRegex(done.stderr, rf"^quillon-ed: {damaged}: .+\n$", name)
             self.assertEqual(damaged.read_text(encoding="utf-8"), content, name)
         self.assertIn(": /surprise: ", done.stderr)
+
+    def test_limits_in_the_wrong_order_are_told_with_the_numbers_of_the_language(self):
+        path = self.station()
+        station = json.loads(path.read_text(encoding="utf-8"))
+        modules = [place["module"] for rack in station["racks"] for place in rack["places"]
+                   if "highLimit" in place.get("module", {}).get("parameters", {})]
+        modules[0]["parameters"].update(lowLimit=12.5, highLimit=11)
+        path.write_text(json.dumps(station), encoding="utf-8")
+        for language, low in (("en", "12.5 mA"), ("de", "12,5 mA")):
+            done = self.run_command("check", path, "--lang", language)
+            self.assertEqual((done.returncode, len(done.stdout.splitlines())), (BROKEN, 1), done.stdout)
+            self.assertIn(low, done.stdout)
+
+    def test_a_file_that_needs_more_memory_than_there_is_ends_nothing_but_the_command(self):
+        large = self.folder / "large.json"
+        large.write_text('{"name": "' + "x" * 60_000_000 + '"}', encoding="utf-8")
+        done = self.run_command("check", large, before=["bash", "-c", 'ulimit -v 150000; exec "$@"', "-"])
+        self.assertEqual(done.returncode, UNREADABLE)
+        self.assertRegex(done.stderr, r"^quillon-ed: [^\n]*enough memory[^\n]*\n$")
 
     def test_an_unreadable_file_does_not_hide_what_is_broken_in_the_others(self):
         path = EXAMPLES / "training-mistakes.station.json"
@@ -138,6 +165,15 @@ class Convert(Home):
 
 
 class Render(Home):
+    def test_settings_of_a_senseless_size_are_left_alone(self):
+        settings = self.home / "config" / "Halvar" / "Quillon_Ed.conf"
+        settings.parent.mkdir(parents=True)
+        settings.write_text("[" * 2_000_000, encoding="utf-8")
+        done = self.run_command("render", EXAMPLES / "waterworks.station.json", "-o", "view.png")
+        self.assertEqual(done.returncode, CLEAN)
+        self.assertRegex(done.stderr, rf"^quillon-ed: {settings}: [^\n]* 1 MiB\n$")
+        self.assertEqual(settings.stat().st_size, 2_000_000)
+
     def test_a_png_file_has_the_size_of_its_scale_and_shows_the_station(self):
         station = self.station()
         sizes, colours = [], []

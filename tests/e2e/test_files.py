@@ -131,6 +131,12 @@ class Files(OnDisplay):
         stays(lambda: not program.is_unsaved(), "nothing has changed")
         self.assertEqual(self.path.read_bytes(), text)
 
+    def print(self, program):
+        self.display.keys("ctrl+p")
+        question = program.dialog("Print")
+        self.display.keys("Return")
+        program.wait_closed(question)
+
     def test_the_window_exports_and_prints_what_it_shows(self):
         program, _ = self.open_and_change()
         drawn, exported = self.folder / "drawn.png", self.folder / "exported.png"
@@ -142,10 +148,14 @@ class Files(OnDisplay):
         self.display.type(str(exported))
         self.display.keys("Return")
         program.wait_closed(question)
-        self.display.keys("ctrl+p")
-        question = program.dialog("Print")
-        self.display.keys("Return")
-        program.wait_closed(question)
+        program.forbid_writing(4000)
+        self.print(program)
+        message = program.dialog()
+        self.display.keys("Escape")
+        program.wait_closed(message)
+        self.assertFalse(printed.exists(), "half a file")
+        program.allow_writing()
+        self.print(program)
         until(lambda: printed.exists() and printed.read_bytes().rstrip().endswith(b"%%EOF"), "the pages are written")
 
         self.display.keys("ctrl+s")

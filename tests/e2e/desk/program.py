@@ -96,9 +96,9 @@ class Program:
             self.process.kill()
         self.process.wait()
 
-    def forbid_writing(self):
-        """From now on no file of the program can grow: what a full disk does."""
-        resource.prlimit(self.process.pid, resource.RLIMIT_FSIZE, (0, resource.RLIM_INFINITY))
+    def forbid_writing(self, room=0):
+        """From now on no file of the program can grow beyond so many bytes: what a full disk does."""
+        resource.prlimit(self.process.pid, resource.RLIMIT_FSIZE, (room, resource.RLIM_INFINITY))
 
     def allow_writing(self):
         resource.prlimit(self.process.pid, resource.RLIMIT_FSIZE, (resource.RLIM_INFINITY, resource.RLIM_INFINITY))

@@ -178,6 +178,11 @@ TEST_F(DocumentTest, RecentFilesKeepEachOnceLatestFirst)
     EXPECT_EQ(recent.Files().count(Path("f5")), 1);
     recent.Remove(Path("f5"));
     EXPECT_EQ(RecentFiles(settings, nullptr).Files().front(), Path("f12")) << "kept in the settings";
+
+    QStringList senseless(1000, Path("f"));
+    senseless.prepend(QString(5000, u'x'));
+    settings.setValue(QStringLiteral("RecentFiles"), senseless);
+    EXPECT_EQ(recent.Files(), QStringList(RecentFiles::Capacity, Path("f")));
 }
 
 } // namespace

@@ -42,9 +42,10 @@ TEST_P(FailingWrite, LeavesOldOrNewContentAtEveryCall)
         EXPECT_THAT(content, AnyOf(OldContent, NewContent));
         const bool isDead = GetParam() == FaultyFiles::Fault::Dead;
         EXPECT_TRUE(isDead || directory.FileCount() == 1) << "a temporary file was left behind";
-        // What a dead program left does not stand in the way of the next one.
+        // What a dead program left does not stand in the way of the next one, which clears it away.
         AtomicWrite(SystemFiles(), directory.File("plant.json"), NewContent);
         EXPECT_EQ(directory.Read("plant.json"), NewContent);
+        EXPECT_EQ(directory.FileCount(), 1U);
         survived = files.Calls() < call;
         // Nobody is told any more that the directory could not be closed.
         if (error.reason == "no error") continue;
@@ -66,6 +67,21 @@ TEST(AtomicWrite, FlushesTheContentBeforeTheNameAndTheNameAfterwards)
     FaultyFiles files;
     AtomicWrite(files, directory.File("plant.json"), NewContent);
     EXPECT_EQ(files.Steps(), "write write write write flush rename flush ");
+}
+
+TEST(AtomicWrite, ClearsAwayOnlyWhatDeadProgramsLeft)
+{
+    const TemporaryDirectory directory;
+    const std::vector<std::string> kept = {".plant.json.bak", ".plant.json.7-0.tmp.json", ".other.json.7-0.tmp",
+                                           ".plant.json.note.tmp"};
+    for (const std::string& name : kept) directory.Write(name, "kept");
+    directory.Write(".plant.json.7-0.tmp", "of a dead program");
+    const std::string running = directory.File(".plant.json.7-1.tmp");
+    const OpenFile held(SystemFiles(), SystemFiles().CreateNew(running));
+    AtomicWrite(SystemFiles(), directory.File("plant.json"), NewContent);
+    EXPECT_FALSE(fs::exists(directory.File(".plant.json.7-0.tmp")));
+    EXPECT_TRUE(fs::exists(running));
+    EXPECT_EQ(directory.FileCount(), kept.size() + 2);
 }
 
 TEST(AtomicWrite, KeepsPermissionsAndFollowsLinks)
@@ -125,6 +141,8 @@ TEST(AtomicWrite, SurvivesAKilledProgramAHundredTimes)
         const StationData found = LoadStation(file, ShippedCatalogue()).data;
         ASSERT_TRUE(SameStation(found, small) || SameStation(found, large)) << "after kill " << i;
     }
+    SaveStation(small, file);
+    EXPECT_EQ(directory.FileCount(), 1U);
 }
 
 } // namespace

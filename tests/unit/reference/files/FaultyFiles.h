@@ -27,6 +27,11 @@ public:
     bool MayWrite(const std::string& path) override { return Count(), PosixFiles::MayWrite(path); }
     std::string ResolveLinks(const std::string& path) override { return Count(), PosixFiles::ResolveLinks(path); }
     Handle CreateNew(const std::string& path) override { return Count(), PosixFiles::CreateNew(path); }
+    bool RemoveAbandoned(const std::string& path) override { return Count(), PosixFiles::RemoveAbandoned(path); }
+    std::vector<std::string> List(const std::string& directory) override
+    {
+        return Count(), PosixFiles::List(directory);
+    }
     Handle OpenDirectory(const std::string& path) override { return Count(), PosixFiles::OpenDirectory(path); }
     std::size_t Write(Handle handle, std::string_view bytes) override
     {

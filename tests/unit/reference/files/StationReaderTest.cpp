@@ -1,4 +1,5 @@
 #include "tests/unit/reference/files/Damage.h"
+#include "tests/unit/reference/files/TemporaryDirectory.h"
 
 namespace zqbchwcx::reference {
 namespace {
@@ -106,6 +107,22 @@ TEST(StationReader, ReadsStationsThatBreakRules)
     EXPECT_EQ(data.racks[0]->places[6].module->parameters.at("highLimit"), ParameterValue(12.0)) << "real by its type";
     EXPECT_EQ(data.racks[0]->places[5].usability, 0);
     EXPECT_EQ(data.racks[0]->places[10].usability, 1);
+}
+
+TEST(StationReader, RefusesWhatIsTooMuchBeforeItCostsMemory)
+{
+    const TemporaryDirectory directory;
+    // Sparse: as large as it says, and not on the disk.
+    directory.Write("plant.json", "{");
+    std::filesystem::resize_file(directory.File("plant.json"), LargestStationFile + 1);
+    const FileError tooLarge = ErrorOf([&] { LoadStation(directory.File("plant.json"), ShippedCatalogue()); });
+    EXPECT_THAT(tooLarge.reason, HasSubstr("the limit for such files, 64 MiB"));
+    EXPECT_THAT(tooLarge.Reason(Language::German), HasSubstr("64 MiB"));
+
+    std::string empties;
+    for (int i = 0; i < 1'100'000; ++i) empties += "{},";
+    for (const std::string start : {"[", R"({"racks": [{"places": [)", R"({"other": [)"})
+        EXPECT_THAT(ParseError(start + empties).reason, HasSubstr("more than 1000000 values")) << start;
 }
 
 TEST(StationReader, TellsWhyAFileCannotBeRead)
