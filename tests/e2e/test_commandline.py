@@ -82,12 +82,14 @@ class Check(Home):
             self.assertEqual((done.returncode, len(done.stdout.splitlines())), (BROKEN, 1), done.stdout)
             self.assertIn(low, done.stdout)
 
-    def test_a_file_that_needs_more_memory_than_there_is_ends_nothing_but_the_command(self):
-        large = self.folder / "large.json"
-        large.write_text('{"name": "' + "x" * 60_000_000 + '"}', encoding="utf-8")
-        done = self.run_command("check", large, before=["bash", "-c", 'ulimit -v 150000; exec "$@"', "-"])
-        self.assertEqual(done.returncode, UNREADABLE)
-        self.assertRegex(done.stderr, r"^quillon-ed: [^\n]*enough memory[^\n]*\n$")
+    def test_a_file_that_costs_too_much_ends_nothing_but_the_command(self):
+        for content, limit, reason in (('{"racks": [{"places": [' + "{}," * 20_000_000, 600_000, "1000000 values"),
+                                       ('{"name": "' + "x" * 60_000_000 + '"}', 300_000, "enough memory")):
+            large = self.folder / "large.json"
+            large.write_text(content, encoding="utf-8")
+            done = self.run_command("check", large, before=["bash", "-c", f'ulimit -v {limit}; exec "$@"', "-"])
+            self.assertEqual(done.returncode, UNREADABLE, reason)
+            self.assertRegex(done.stderr, rf"^quillon-ed: [^\n]*{reason}[^\n]*\n$")
 
     def test_an_unreadable_file_does_not_hide_what_is_broken_in_the_others(self):
         path = EXAMPLES / "training-mistakes.station.json"
