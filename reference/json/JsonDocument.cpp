@@ -3,6 +3,8 @@
 #include "zqbchwcx/reference/json/FileError.h"
 #include "zqbchwcx/reference/json/JsonPointer.h"
 
+#include <algorithm>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -34,8 +36,9 @@ LocalizedText ReadableReason(std::string reason)
 /// knows at every moment where it is.
 class DocumentBuilder : public nlohmann::json_sax<nlohmann::json> {
 public:
-    DocumentBuilder(JsonDocument& document, const JsonLimits& limits, const ElementTaker& taker)
-        : moDocument(document), moLimits(limits), moTaker(taker)
+    DocumentBuilder(JsonDocument& document, const JsonLimits& limits, const ElementTaker& taker, std::size_t bytes)
+        : moDocument(document), moLimits(limits), moTaker(taker),
+          moReserve(new char[std::min(bytes, limits.values) * ReservePerValue])
     {
     }
 
@@ -72,6 +75,7 @@ public:
     }
 
 private:
+    static constexpr std::size_t ReservePerValue = 64;
     /// How many objects and arrays are open around an element of an array of the root.
     static constexpr std::size_t ElementDepth = 2;
 
@@ -139,6 +143,8 @@ private:
     JsonDocument& moDocument;
     const JsonLimits& moLimits;
     const ElementTaker& moTaker;
+    /// Taking a document apart needs memory, too. When none is left while it is read, this goes first.
+    std::unique_ptr<char[]> moReserve;
     std::vector<nlohmann::json*> mcolOpen;
     std::string msKey;
     std::size_t mnValues = 0;
@@ -157,7 +163,7 @@ JsonDocument ParseStrictJson(std::string_view text, std::string_view fileName, c
                             " are the most that is read",
                         "der Text hat " + std::to_string(text.size()) + " Bytes; höchstens " +
                             std::to_string(limits.bytes) + " werden gelesen");
-    DocumentBuilder builder(document, limits, taker);
+    DocumentBuilder builder(document, limits, taker, text.size());
     nlohmann::json::sax_parse(text, &builder);
     return document;
 }
