@@ -9,9 +9,8 @@
 #include "zqbchwcx/reference/services/QuietView.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
 
-#include <QEvent>
-#include <QAction>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -92,7 +91,7 @@ StationView::StationView(Document& document, QWidget* parent)
     line->addWidget(MakeScrollable(left));
     line->addWidget(list, 1);
 
-    AddRefusedKeys();
+    for (QWidget* child : findChildren<QWidget*>()) child->installEventFilter(this);
     mcolConnections.push_back(moHandler->SelChange.Connect([this] { emit selectionChanged(); }));
     mcolConnections.push_back(moHandler->FocusChange.Connect([this](std::int32_t) { emit selectionChanged(); }));
     document.ShownBy(
@@ -149,17 +148,19 @@ QWidget* StationView::MakeNote()
     return new DistributedNote(this);
 }
 
-/// The controllers of a station that may not be changed are silent, and so are the window's disabled commands.
-void StationView::AddRefusedKeys()
+bool StationView::eventFilter(QObject* watched, QEvent* event)
 {
-    if (!moDocument.Station()->IsReadOnly()) return;
-    auto* refuse = new QAction(this);
-    refuse->setShortcuts({QKeySequence::Delete, QKeySequence::Cut, QKeySequence::Paste});
-    refuse->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(refuse, &QAction::triggered, this, [this] {
-        if (const auto objection = moDocument.Station()->AgainstEditing()) emit refused(*objection);
-    });
-    addAction(refuse);
+    // The controllers of a station that may not be changed are silent, and so are the window's disabled commands.
+    const auto objection = moDocument.Station()->AgainstEditing();
+    if (objection && event->type() == QEvent::KeyPress) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        for (const auto sequence : {QKeySequence::Delete, QKeySequence::Cut, QKeySequence::Paste}) {
+            if (!key.matches(sequence)) continue;
+            emit refused(*objection);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 reference::ViewState StationView::View() const

@@ -44,6 +44,9 @@ signals:
     /// A key that would have changed a station that may not be changed.
     void refused(const zqbchwcx::reference::Refusal& refusal);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     class DragWatch;
 
@@ -51,7 +54,6 @@ private:
     void TellPartShown();
     QWidget* MakeOverview();
     QWidget* MakeNote();
-    void AddRefusedKeys();
 
     Document& moDocument;
     std::shared_ptr<zqbchwcx::IVxHWControl> moOverview;
