@@ -150,7 +150,7 @@ class Files(OnDisplay):
         program.wait_closed(question)
         program.forbid_writing(4000)
         self.print(program)
-        message = program.dialog()
+        message = program.dialog("Quillon Ed")
         self.display.keys("Escape")
         program.wait_closed(message)
         self.assertFalse(printed.exists(), "half a file")
