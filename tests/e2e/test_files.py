@@ -148,6 +148,7 @@ class Files(OnDisplay):
         self.display.type(str(exported))
         self.display.keys("Return")
         program.wait_closed(question)
+        until(exported.exists, "the picture is written")
         program.forbid_writing(4000)
         self.print(program)
         message = program.dialog("Quillon Ed")
