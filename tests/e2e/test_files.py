@@ -132,6 +132,7 @@ class Files(OnDisplay):
         self.assertEqual(self.path.read_bytes(), text)
 
     def print(self, program):
+        program.activate()
         self.display.keys("ctrl+p")
         question = program.dialog("Print")
         self.display.keys("Return")
