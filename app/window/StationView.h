@@ -37,15 +37,13 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void selectionChanged();
     void menuRequested(const QPoint& globalPosition);
     /// A key that would have changed a station that may not be changed.
     void refused(const zqbchwcx::reference::Refusal& refusal);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     class DragWatch;
