@@ -83,6 +83,17 @@ public:
 };
 using ObjectLookupPtr = std::shared_ptr<ObjectLookup>;
 
+/// The user's options: strings under the names of parameters.
+class OptionService {
+public:
+    virtual ~OptionService() = default;
+
+    /// The stored value, or an empty string.
+    virtual std::string Read(std::string_view parameter) = 0;
+    virtual void Write(std::string_view parameter, std::string_view value) = 0;
+};
+using OptionServicePtr = std::shared_ptr<OptionService>;
+
 /// Makes the host's own helper objects.
 class ObjectFactory {
 public:
@@ -90,6 +101,7 @@ public:
 
     virtual ObjectLookupPtr CreateObjectLookup() = 0;
     virtual ExchangeDataPtr CreateExchangeData() = 0;
+    virtual OptionServicePtr CreateOptionService() = 0;
 };
 
 } // namespace zqbchwcx

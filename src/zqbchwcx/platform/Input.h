@@ -18,15 +18,21 @@ enum : std::int16_t { vxDragEnter = 0, vxDragLeave = 1, vxDragOver = 2 };
 
 /// Key codes of `nKeyCode`, as key events carry them.
 enum : std::int16_t {
+    vxKeyTab = 9,
     vxKeyClear = 12,
     vxKeyReturn = 13,
+    vxKeyEscape = 27,
     vxKeySpace = 32,
     vxKeyLeft = 37,
     vxKeyUp = 38,
     vxKeyRight = 39,
     vxKeyDown = 40,
     vxKeyDelete = 46,
+    vxKeyA = 65,
+    vxKeyY = 89,
+    vxKeyZ = 90,
     vxKeyApps = 93,
+    vxKeyF2 = 113,
     vxKeyF10 = 121
 };
 

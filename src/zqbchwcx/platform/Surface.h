@@ -47,6 +47,9 @@ public:
     /// Draws one line of text centred in the box in the control's font. The cell of the text is first filled with
     /// the surface's background colour, so that drawing another text over it leaves nothing of the first.
     virtual void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) = 0;
+    /// Draws one line of text from the left of the box, in its vertical middle and cut off with an ellipsis at its
+    /// right.
+    virtual void DrawLeftText(std::string_view text, const Rect& box, OleColor color) = 0;
     /// Draws the image of the list that has the key, with its top-left corner at the point. Throws VxError-like
     /// exceptions when the list has no such key.
     virtual void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) = 0;

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "zqbchwcx/platform/Grid.h"
 #include "zqbchwcx/platform/PictureBox.h"
+#include "zqbchwcx/platform/PopupForm.h"
 #include "zqbchwcx/platform/PopupMenu.h"
 #include "zqbchwcx/platform/Shape.h"
 #include "zqbchwcx/platform/SysInfo.h"
+#include "zqbchwcx/platform/TabStrip.h"
 #include "zqbchwcx/platform/Timer.h"
 #include "zqbchwcx/platform/UserControl.h"
+#include "zqbchwcx/platform/WindowWatch.h"
 
 #include <string_view>
 
@@ -25,6 +29,12 @@ public:
     virtual FramePtr CreateFrame(UserControl& parent, std::string_view name, const Rect& rect) = 0;
     virtual ShapePtr CreateShape(UserControl& parent, std::string_view name, const Rect& rect) = 0;
     virtual PopupMenuPtr CreatePopupMenu(UserControl& parent, std::string_view name) = 0;
+    virtual GridPtr CreateGrid(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual TabStripPtr CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect,
+                                       std::int32_t lTabs) = 0;
+    virtual PopupFormPtr CreatePopupForm(UserControl& parent, std::string_view name) = 0;
+    virtual WindowSpyPtr CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler) = 0;
+    virtual MouseHookPtr CreateMouseHook(MouseHookHandler handler) = 0;
     virtual SysInfoPtr CreateSysInfo(UserControl& parent) = 0;
     virtual TimerPtr CreateTimer() = 0;
 
