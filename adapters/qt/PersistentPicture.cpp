@@ -178,6 +178,23 @@ void PersistentPicture::DrawCenteredText(std::string_view text, const Rect& box,
     Changed(visible);
 }
 
+void PersistentPicture::DrawLeftText(std::string_view text, const Rect& box, OleColor color)
+{
+    const QRect device = mGrid.Device(box);
+    const QFont font = ScaledFont(mFont, mGrid.Ratio());
+    const QFontMetrics metrics(font);
+    const QString line = metrics.elidedText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                                            Qt::ElideRight, device.width());
+    QPainter& painter = Painter();
+    painter.save();
+    painter.setClipRect(device);
+    painter.setFont(font);
+    painter.setPen(Translate(color));
+    painter.drawText(device.left(), device.top() + (device.height() + metrics.capHeight()) / 2, line);
+    painter.restore();
+    Changed(device);
+}
+
 void PersistentPicture::DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style)
 {
     DrawImage(dynamic_cast<const QtImageList&>(list).Image(key), at, style);

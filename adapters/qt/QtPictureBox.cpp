@@ -99,6 +99,11 @@ void QtPictureBox::DrawCenteredText(std::string_view text, const Rect& box, Font
     if (mWidget) mWidget->Picture().DrawCenteredText(text, box, weight, color);
 }
 
+void QtPictureBox::DrawLeftText(std::string_view text, const Rect& box, OleColor color)
+{
+    if (mWidget) mWidget->Picture().DrawLeftText(text, box, color);
+}
+
 void QtPictureBox::DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style)
 {
     if (mWidget) mWidget->Picture().DrawListImage(list, key, at, style);

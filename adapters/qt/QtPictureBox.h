@@ -34,6 +34,7 @@ public:
     void DrawLine(Point from, Point to, OleColor color) override;
     void FillTriangle(const Rect& square, Corner corner, OleColor color) override;
     void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) override;
+    void DrawLeftText(std::string_view text, const Rect& box, OleColor color) override;
     void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) override;
     void DrawImage(const Image& image, Point at, DrawStyle style) override;
     void DrawFocusRect(const Rect& rect) override;

@@ -71,6 +71,32 @@ PopupMenuPtr QtToolkit::CreatePopupMenu(UserControl& parent, std::string_view na
     return std::make_unique<QtPopupMenu>(WindowOf(parent), ToQString(name));
 }
 
+GridPtr QtToolkit::CreateGrid(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+{
+    throw VxError(vxErrorInvalidArgument, "There is no grid for " + std::string(name));
+}
+
+TabStripPtr QtToolkit::CreateTabStrip(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/,
+                                      std::int32_t /*lTabs*/)
+{
+    throw VxError(vxErrorInvalidArgument, "There is no tab strip for " + std::string(name));
+}
+
+PopupFormPtr QtToolkit::CreatePopupForm(UserControl& /*parent*/, std::string_view name)
+{
+    throw VxError(vxErrorInvalidArgument, "There is no popup form for " + std::string(name));
+}
+
+WindowSpyPtr QtToolkit::CreateWindowSpy(std::intptr_t /*hWnd*/, WindowSpyHandler /*handler*/)
+{
+    return std::make_unique<WindowSpy>();
+}
+
+MouseHookPtr QtToolkit::CreateMouseHook(MouseHookHandler /*handler*/)
+{
+    return std::make_unique<MouseHook>();
+}
+
 SysInfoPtr QtToolkit::CreateSysInfo(UserControl& parent)
 {
     return std::make_unique<QtSysInfo>(WindowOf(parent));

@@ -16,6 +16,12 @@ public:
     FramePtr CreateFrame(UserControl& parent, std::string_view name, const Rect& rect) override;
     ShapePtr CreateShape(UserControl& parent, std::string_view name, const Rect& rect) override;
     PopupMenuPtr CreatePopupMenu(UserControl& parent, std::string_view name) override;
+    GridPtr CreateGrid(UserControl& parent, std::string_view name, const Rect& rect) override;
+    TabStripPtr CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect,
+                               std::int32_t lTabs) override;
+    PopupFormPtr CreatePopupForm(UserControl& parent, std::string_view name) override;
+    WindowSpyPtr CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler) override;
+    MouseHookPtr CreateMouseHook(MouseHookHandler handler) override;
     SysInfoPtr CreateSysInfo(UserControl& parent) override;
     TimerPtr CreateTimer() override;
 

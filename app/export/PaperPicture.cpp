@@ -70,6 +70,18 @@ void PaperPicture::DrawCenteredText(std::string_view text, const Rect& box, Font
     });
 }
 
+void PaperPicture::DrawLeftText(std::string_view text, const Rect& box, OleColor color)
+{
+    const QFontMetricsF metrics(moSite.Font());
+    const QRectF area = ToQRectF(box);
+    const QString line = metrics.elidedText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
+                                            Qt::ElideRight, area.width());
+    QPainterPath outlines;
+    outlines.addText(area.left(), area.center().y() + metrics.capHeight() / 2, moSite.Font(), line);
+    mcolSteps.emplace_back(
+        [outlines, fill = PaperColor(color)](QPainter& painter) { painter.fillPath(outlines, fill); });
+}
+
 void PaperPicture::DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style)
 {
     DrawImage(dynamic_cast<const qt::QtImageList&>(list).Image(key), at, style);

@@ -24,6 +24,7 @@ public:
     void DrawLine(zqbchwcx::Point from, zqbchwcx::Point to, zqbchwcx::OleColor color) override;
     void DrawCenteredText(std::string_view text, const zqbchwcx::Rect& box, zqbchwcx::FontWeight weight,
                           zqbchwcx::OleColor color) override;
+    void DrawLeftText(std::string_view text, const zqbchwcx::Rect& box, zqbchwcx::OleColor color) override;
     void DrawListImage(const zqbchwcx::ImageList& list, std::string_view key, zqbchwcx::Point at,
                        zqbchwcx::DrawStyle style) override;
     void DrawImage(const zqbchwcx::Image& image, zqbchwcx::Point at, zqbchwcx::DrawStyle style) override;

@@ -4,6 +4,7 @@
 #include "app/export/PaperPicture.h"
 #include "app/export/PaperShape.h"
 #include "app/export/PaperSite.h"
+#include "zqbchwcx/foundation/VxError.h"
 #include "zqbchwcx/platform/Tooltips.h"
 
 namespace quillon_ed {
@@ -15,6 +16,11 @@ namespace {
 PaperSite& SiteOf(UserControl& parent)
 {
     return dynamic_cast<PaperSite&>(parent);
+}
+
+VxError NotOnPaper(std::string_view name)
+{
+    return {vxErrorInvalidArgument, "Paper has no control of the kind of " + std::string(name)};
 }
 
 class PaperMenu : public PopupMenu {
@@ -86,6 +92,32 @@ ShapePtr PaperToolkit::CreateShape(UserControl& parent, std::string_view /*name*
 PopupMenuPtr PaperToolkit::CreatePopupMenu(UserControl& /*parent*/, std::string_view /*name*/)
 {
     return std::make_unique<PaperMenu>();
+}
+
+GridPtr PaperToolkit::CreateGrid(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+{
+    throw NotOnPaper(name);
+}
+
+TabStripPtr PaperToolkit::CreateTabStrip(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/,
+                                         std::int32_t /*lTabs*/)
+{
+    throw NotOnPaper(name);
+}
+
+PopupFormPtr PaperToolkit::CreatePopupForm(UserControl& /*parent*/, std::string_view name)
+{
+    throw NotOnPaper(name);
+}
+
+WindowSpyPtr PaperToolkit::CreateWindowSpy(std::intptr_t /*hWnd*/, WindowSpyHandler /*handler*/)
+{
+    return std::make_unique<WindowSpy>();
+}
+
+MouseHookPtr PaperToolkit::CreateMouseHook(MouseHookHandler /*handler*/)
+{
+    return std::make_unique<MouseHook>();
 }
 
 SysInfoPtr PaperToolkit::CreateSysInfo(UserControl& /*parent*/)

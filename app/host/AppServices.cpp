@@ -88,17 +88,20 @@ AppServices::~AppServices()
 
 void AppServices::Install()
 {
+    const auto stored = std::make_shared<SettingsStore>(moSettings);
     ServiceRoot root;
     root.toolkit = moToolkit;
-    root.settingsReader =
-        std::make_shared<reference::Settings>(std::vector<std::shared_ptr<const reference::KeyValueStore>>{
-            std::make_shared<SettingsStore>(moSettings), DesktopStore()});
+    root.settingsReader = std::make_shared<reference::Settings>(
+        std::vector<std::shared_ptr<const reference::KeyValueStore>>{stored, DesktopStore()});
     root.textManager = moTexts;
     root.errorService = moErrors;
     root.instanceTracker = std::make_shared<reference::LiveInstances>();
-    root.objectFactory = std::make_shared<reference::HostObjects>(MakeApplication(), [clipboard = moClipboard] {
-        return std::make_shared<reference::TypeExchange>(qt::ClipboardFormatNumber(ExchangeFormatName), clipboard);
-    });
+    root.objectFactory = std::make_shared<reference::HostObjects>(
+        MakeApplication(),
+        [clipboard = moClipboard] {
+            return std::make_shared<reference::TypeExchange>(qt::ClipboardFormatNumber(ExchangeFormatName), clipboard);
+        },
+        stored);
     root.modelFactory = std::make_shared<reference::ModelFactory>(moContext);
     root.libraryDirectory = ResourceRoot;
     G_InstallServiceRoot([root] { return root; });

@@ -5,13 +5,24 @@
 #include <QSettings>
 
 namespace quillon_ed {
+namespace {
+
+QString KeyOf(std::string_view keyPath, std::string_view name)
+{
+    return (ToQString(keyPath) + u'/' + ToQString(name)).replace(u'\\', u'/');
+}
+
+} // namespace
 
 std::optional<std::string> SettingsStore::Value(std::string_view keyPath, std::string_view name) const
 {
-    QString key = ToQString(keyPath) + u'/' + ToQString(name);
-    key.replace(u'\\', u'/');
-    const QVariant value = moSettings.value(key);
+    const QVariant value = moSettings.value(KeyOf(keyPath, name));
     return value.isValid() ? std::optional(value.toString().toStdString()) : std::nullopt;
+}
+
+void SettingsStore::Store(std::string_view keyPath, std::string_view name, std::string_view value)
+{
+    moSettings.setValue(KeyOf(keyPath, name), ToQString(value));
 }
 
 } // namespace quillon_ed

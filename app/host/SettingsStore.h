@@ -13,6 +13,7 @@ public:
     explicit SettingsStore(QSettings& settings) : moSettings(settings) {}
 
     std::optional<std::string> Value(std::string_view keyPath, std::string_view name) const override;
+    void Store(std::string_view keyPath, std::string_view name, std::string_view value) override;
 
 private:
     QSettings& moSettings;

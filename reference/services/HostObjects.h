@@ -1,6 +1,8 @@
 #pragma once
 
 #include "zqbchwcx/platform/HostServices.h"
+#include "zqbchwcx/reference/services/MemoryStore.h"
+#include "zqbchwcx/reference/services/Options.h"
 
 #include <functional>
 #include <memory>
@@ -11,18 +13,22 @@ namespace zqbchwcx::reference {
 /// Makes the helper objects of a host with one application object and one kind of exchange data.
 class HostObjects : public ObjectFactory {
 public:
-    /// The application may be null: then none is running.
-    HostObjects(HostApplicationPtr application, std::function<ExchangeDataPtr()> makeExchangeData)
-        : moApplication(std::move(application)), mMakeExchangeData(std::move(makeExchangeData))
+    /// The application may be null: then none is running. Without a store, options last as long as the program.
+    HostObjects(HostApplicationPtr application, std::function<ExchangeDataPtr()> makeExchangeData,
+                std::shared_ptr<KeyValueStore> options = std::make_shared<MemoryStore>())
+        : moApplication(std::move(application)), mMakeExchangeData(std::move(makeExchangeData)),
+          moOptions(std::move(options))
     {
     }
 
     ObjectLookupPtr CreateObjectLookup() override;
     ExchangeDataPtr CreateExchangeData() override { return mMakeExchangeData(); }
+    OptionServicePtr CreateOptionService() override { return std::make_shared<Options>(moOptions); }
 
 private:
     HostApplicationPtr moApplication;
     std::function<ExchangeDataPtr()> mMakeExchangeData;
+    std::shared_ptr<KeyValueStore> moOptions;
 };
 
 } // namespace zqbchwcx::reference

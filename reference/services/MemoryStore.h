@@ -16,9 +16,9 @@ public:
         return found == mcolValues.end() ? std::nullopt : std::optional(found->second);
     }
 
-    void Store(std::string_view keyPath, std::string_view name, std::string value)
+    void Store(std::string_view keyPath, std::string_view name, std::string_view value) override
     {
-        mcolValues[{std::string(keyPath), std::string(name)}] = std::move(value);
+        mcolValues[{std::string(keyPath), std::string(name)}] = value;
     }
 
 private:

@@ -16,6 +16,7 @@ class FakeHost : public SettingsReader,
                  public HostApplication,
                  public ObjectLookup,
                  public ObjectFactory,
+                 public OptionService,
                  public VxHWModelFactory,
                  public Logged,
                  public std::enable_shared_from_this<FakeHost> {
@@ -105,6 +106,18 @@ public:
     {
         return Answer("ExchangeData.Create", std::make_shared<FakeExchangeData>(moLog, clipboard));
     }
+    OptionServicePtr CreateOptionService() override { return Answer("OptionService.Create", shared_from_this()); }
+    std::string Read(std::string_view parameter) override
+    {
+        Call("OptionService.Read");
+        const auto found = options.find(parameter);
+        return found == options.end() ? std::string() : found->second;
+    }
+    void Write(std::string_view parameter, std::string_view value) override
+    {
+        Call("OptionService.Write");
+        options.insert_or_assign(std::string(parameter), std::string(value));
+    }
 
     VxHWRackPlacesPtr CreateRackPlaces() override
     {
@@ -122,6 +135,7 @@ public:
     }
 
     std::map<std::pair<std::string, std::string>, std::string> settings; ///< by key path and name
+    std::map<std::string, std::string, std::less<>> options;
     std::map<std::int32_t, std::string> texts; ///< a number without a text gives "T" and the number
     std::map<std::string, ImagePtr> pictures;
     std::int32_t openTexts = 0;

@@ -3,11 +3,15 @@
 #include "tests/support/services/FakeClock.h"
 #include "tests/support/services/FakeDesktop.h"
 #include "tests/support/toolkit/RecordingControl.h"
+#include "tests/support/toolkit/RecordingGrid.h"
 #include "tests/support/toolkit/RecordingImageList.h"
 #include "tests/support/toolkit/RecordingPictureBox.h"
+#include "tests/support/toolkit/RecordingPopupForm.h"
 #include "tests/support/toolkit/RecordingPopupMenu.h"
 #include "tests/support/toolkit/RecordingShape.h"
+#include "tests/support/toolkit/RecordingTabStrip.h"
 #include "tests/support/toolkit/RecordingTooltips.h"
+#include "tests/support/toolkit/RecordingWatch.h"
 #include "zqbchwcx/platform/Toolkit.h"
 
 namespace zqbchwcx::testing {
@@ -39,6 +43,23 @@ public:
     {
         return Made<RecordingPopupMenu>(menus[std::string(name)]);
     }
+    GridPtr CreateGrid(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingGrid>(grids[std::string(name)], rect);
+    }
+    TabStripPtr CreateTabStrip(UserControl&, std::string_view name, const Rect& rect, std::int32_t lTabs) override
+    {
+        return Made<RecordingTabStrip>(tabStrips[std::string(name)], rect, lTabs);
+    }
+    PopupFormPtr CreatePopupForm(UserControl&, std::string_view name) override
+    {
+        return Made<RecordingPopupForm>(popupForms[std::string(name)]);
+    }
+    WindowSpyPtr CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler) override
+    {
+        return watch.CreateSpy(hWnd, std::move(handler));
+    }
+    MouseHookPtr CreateMouseHook(MouseHookHandler handler) override { return watch.CreateHook(std::move(handler)); }
     SysInfoPtr CreateSysInfo(UserControl&) override
     {
         Call("Toolkit.CreateSysInfo");
@@ -53,8 +74,12 @@ public:
     FakeDesktop desktop{moLog};
     RecordingImageListFactory imageLists{moLog};
     RecordingTooltips tooltips{moLog};
+    RecordingWatch watch{moLog};
     std::map<std::string, RecordingPictureBox*> pictureBoxes;
     std::map<std::string, RecordingControl*> controls;
+    std::map<std::string, RecordingGrid*> grids;
+    std::map<std::string, RecordingTabStrip*> tabStrips;
+    std::map<std::string, RecordingPopupForm*> popupForms;
     std::map<std::string, RecordingPopupMenu*> menus;
     ShapesByName shapes;
     std::function<void()> sysColorsChanged; ///< the test calls it
