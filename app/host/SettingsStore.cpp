@@ -9,7 +9,8 @@ namespace {
 
 QString KeyOf(std::string_view keyPath, std::string_view name)
 {
-    return (ToQString(keyPath) + u'/' + ToQString(name)).replace(u'\\', u'/');
+    QString key = ToQString(keyPath) + u'/' + ToQString(name);
+    return key.replace(u'\\', u'/');
 }
 
 } // namespace
