@@ -6,9 +6,9 @@
 #include "zqbchwcx/qt/RackOverviewWidget.h"
 #include "zqbchwcx/reference/files/StationReader.h"
 #include "zqbchwcx/reference/model/contract/Station.h"
-#include "zqbchwcx/reference/services/QuietView.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/shared/QuietView.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -28,7 +28,7 @@ public:
               zqbchwcx::reference::LoadStation(QUILLON_SOURCE_DIR "/examples/packaging-line.station.json",
                                                mServices.Catalogue())
                   .data)),
-          mTable(std::make_shared<zqbchwcx::reference::QuietView>())
+          mTable(std::make_shared<zqbchwcx::zqbchwcx::QuietView>())
     {
         mManager.Initialize(zqbchwcx::vxStationTypeCentral, mWidget.Control(), mTable, mStation);
         mWidget.Control()->Refresh();
@@ -54,7 +54,7 @@ private:
     QSettings mSettings;
     quillon_ed::AppServices mServices;
     zqbchwcx::reference::StationPtr mStation;
-    std::shared_ptr<zqbchwcx::reference::QuietView> mTable;
+    std::shared_ptr<zqbchwcx::zqbchwcx::QuietView> mTable;
     zqbchwcx::qt::RackOverviewWidget mWidget;
     zqbchwcx::VxHWConfigManager mManager;
 };

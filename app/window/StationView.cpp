@@ -6,8 +6,8 @@
 #include "app/window/DistributedNote.h"
 #include "app/window/ModuleList.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
-#include "zqbchwcx/reference/services/QuietView.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/shared/QuietView.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -65,7 +65,7 @@ private:
 };
 
 StationView::StationView(Document& document, QWidget* parent)
-    : QWidget(parent), moDocument(document), moTable(std::make_shared<reference::QuietView>()),
+    : QWidget(parent), moDocument(document), moTable(std::make_shared<zqbchwcx::QuietView>()),
       moManager(std::make_unique<VxHWConfigManager>())
 {
     const reference::StationPtr& station = document.Station();
@@ -144,7 +144,7 @@ QWidget* StationView::MakeOverview()
 
 QWidget* StationView::MakeNote()
 {
-    moOverview = std::make_shared<reference::QuietView>();
+    moOverview = std::make_shared<zqbchwcx::QuietView>();
     return new DistributedNote(this);
 }
 

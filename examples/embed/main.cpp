@@ -20,10 +20,10 @@
 #include "zqbchwcx/reference/services/LiveInstances.h"
 #include "zqbchwcx/reference/services/MemoryStore.h"
 #include "zqbchwcx/reference/services/PictureProvider.h"
-#include "zqbchwcx/reference/services/QuietView.h"
 #include "zqbchwcx/reference/services/Settings.h"
 #include "zqbchwcx/reference/services/Texts.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/shared/QuietView.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -86,7 +86,7 @@ int Show(const std::string& fileName, const std::string& assets, const QString& 
 
     // Step 4: let the manager of the mode connect them. There is no table beside this overview.
     VxHWConfigManager manager;
-    manager.Initialize(vxStationTypeCentral, overview->Control(), std::make_shared<reference::QuietView>(), station);
+    manager.Initialize(vxStationTypeCentral, overview->Control(), std::make_shared<zqbchwcx::QuietView>(), station);
     overview->Control()->Refresh();
 
     int result = 0;

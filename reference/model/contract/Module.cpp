@@ -28,7 +28,7 @@ Module::Module(ModuleBodyPtr oBody, std::int32_t lIndexInParent)
 
 const Module& Module::Of(const VxHWModulePtr& oModule)
 {
-    const auto* module = dynamic_cast<const Module*>(&*G_Require(oModule, "The module"));
+    const auto* module = dynamic_cast<const Module*>(&*oModule);
     if (!module) throw VxError(vxErrorInvalidArgument, "The module belongs to another model");
     return *module;
 }

@@ -47,8 +47,7 @@ VxHWRackPtr RackPlace::Rack() const
 
 PlaceRef RefOf(const VxHWRackPlacePtr& oPlace)
 {
-    const VxHWRackPlace& place = *G_Require(oPlace, "The place");
-    return {G_Require(place.Rack(), "The place's rack")->Number(), place.Number()};
+    return {oPlace->Rack()->Number(), oPlace->Number()};
 }
 
 } // namespace zqbchwcx::reference

@@ -22,10 +22,10 @@
 namespace zqbchwcx::reference {
 namespace {
 
-std::vector<PlaceRef> RefsOf(const VxHWRackPlaces& places)
+std::vector<PlaceRef> RefsOf(const VxHWRackPlacesPtr& oPlaces)
 {
     std::vector<PlaceRef> refs;
-    for (const VxHWRackPlacePtr& place : places) refs.push_back(RefOf(place));
+    for (const VxHWRackPlacePtr& place : oPlaces) refs.push_back(RefOf(place));
     return refs;
 }
 
@@ -75,7 +75,7 @@ bool Station::MoveModules(std::int32_t lPosition, const VxHWModulesPtr& oModules
 
 void Station::DeleteModules(const VxHWRackPlacesPtr& oPlaces)
 {
-    Finish(DeleteAt(EditFrom(), RefsOf(*G_Require(oPlaces, "The places"))), EditKind::Delete);
+    Finish(DeleteAt(EditFrom(), RefsOf(oPlaces)), EditKind::Delete);
 }
 
 std::int32_t Station::OpenModuleParamDialog(const VxHWRackPlacePtr& oPlace)
@@ -268,9 +268,9 @@ bool Station::FinishPlacing(const Outcome<Edit>& edit, EditKind kind, const VxHW
 Outcome<Edit> Station::TryPlacing(std::int32_t lPosition, const VxHWModulesPtr& oModules, bool bMove,
                                   const VxHWRackPlacesPtr& oSourcePlaces) const
 {
-    const ModuleBlock block = BlockOf(*G_Require(oModules, "The modules"));
+    const ModuleBlock block = BlockOf(*oModules);
     if (!bMove) return PlaceBlock(EditFrom(), lPosition, block);
-    return MoveBlock(EditFrom(), lPosition, block, RefsOf(*G_Require(oSourcePlaces, "The source places")));
+    return MoveBlock(EditFrom(), lPosition, block, RefsOf(oSourcePlaces));
 }
 
 void Station::Tell(const StationChange& change)

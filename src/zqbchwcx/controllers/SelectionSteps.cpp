@@ -29,7 +29,7 @@ void G_SelectPlaces(const VxHWSelectionHandlerPtr& oHandler, const VxHWRackPlace
 {
     const auto oSelPlaces = G_SelPlaces(oHandler);
     oSelPlaces->Clear();
-    for (const auto& oPlace : *oPlaces) oSelPlaces->Add(oPlace);
+    for (const auto& oPlace : oPlaces) oSelPlaces->Add(oPlace);
     oHandler->SelChangeComplete();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zqbchwcx/foundation/ObjectPtr.h"
 #include "zqbchwcx/foundation/VxError.h"
 
 #include <memory>
@@ -19,6 +20,13 @@ const Pointer& G_Require(const Pointer& pointer, const char* what)
 /// go of everything.
 template <class Object>
 std::shared_ptr<Object> G_Require(const std::shared_ptr<Object>& pointer, const char* what)
+{
+    if (!pointer) throw VxError(vxErrorNothing, std::string(what) + " is not set");
+    return pointer;
+}
+
+template <class Object>
+ObjectPtr<Object> G_Require(const ObjectPtr<Object>& pointer, const char* what)
 {
     if (!pointer) throw VxError(vxErrorNothing, std::string(what) + " is not set");
     return pointer;

@@ -27,6 +27,14 @@ bool G_Trap(std::string_view moduleName, std::string_view procedureName, Body&& 
     }
 }
 
+/// The error trap of a procedure with a result: what the body returns, or the given value when it fails.
+template <class Value, class Body>
+Value G_TrapValue(std::string_view moduleName, std::string_view procedureName, Value valueOnError, Body&& body) noexcept
+{
+    G_Trap(moduleName, procedureName, [&] { valueOnError = std::forward<Body>(body)(); });
+    return valueOnError;
+}
+
 /// Runs the body and forgets its error; for the few steps whose failure is an answer, not an error.
 template <class Body>
 bool G_IgnoreErrors(Body&& body) noexcept

@@ -36,24 +36,11 @@ std::int32_t MiddleChannel(std::int32_t a, std::int32_t b)
 void G_PositionInfo(std::int32_t lPosition, VxEnumPositionType& eType, std::int32_t& lRack, std::int32_t& lNumber,
                     std::int32_t& lSubPosition) noexcept
 {
-    eType = vxPositionNone;
-    lRack = 0;
-    lNumber = 0;
-    if (lPosition < 0) return;
-
-    lRack = lPosition % vxSubPositionFactor / vxRackFactor;
-    lSubPosition = lPosition / vxSubPositionFactor;
-    const std::int32_t lCode = lPosition % vxRackFactor;
-    lNumber = lCode / 2;
-    if (lCode == 0) eType = vxPositionRack;
-    else eType = lCode % 2 == 1 ? vxPositionGap : vxPositionPlace;
-}
-
-PositionInfo G_PositionInfo(std::int32_t lPosition) noexcept
-{
-    PositionInfo info;
-    G_PositionInfo(lPosition, info.eType, info.lRack, info.lNumber, info.lSubPosition);
-    return info;
+    const PositionInfo info = G_PositionInfo(lPosition);
+    eType = info.eType;
+    lRack = info.lRack;
+    lNumber = info.lNumber;
+    if (lPosition >= 0) lSubPosition = info.lSubPosition;
 }
 
 std::string G_HWPicDir() noexcept

@@ -12,7 +12,6 @@ namespace zqbchwcx {
 /// Takes a position apart. A negative position yields type, rack and number 0 and leaves the sub-position as it was.
 void G_PositionInfo(std::int32_t lPosition, VxEnumPositionType& eType, std::int32_t& lRack, std::int32_t& lNumber,
                     std::int32_t& lSubPosition) noexcept;
-PositionInfo G_PositionInfo(std::int32_t lPosition) noexcept;
 
 /// The directory of the hardware pictures, ending in a backslash. Read afresh on every call.
 std::string G_HWPicDir() noexcept;

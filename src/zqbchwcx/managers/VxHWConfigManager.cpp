@@ -190,7 +190,7 @@ void VxHWConfigManager::P_InitSelection() noexcept
     G_Trap(ClassName, "P_InitSelection", [&] {
         const auto oPlaces = G_RackByNumber(moHWStation, 0)->Places();
         std::int32_t lNumber = 0;
-        for (const auto& oPlace : *oPlaces) {
+        for (const auto& oPlace : oPlaces) {
             if (oPlace->Usability() == vxPlaceNotUsable) continue;
             lNumber = oPlace->Number();
             break;
@@ -223,7 +223,7 @@ bool VxHWConfigManager::PlaceAtSelectionOrFocus(const VxHWModulesPtr& oModules, 
     const auto oSelPlaces = G_SelPlaces(oSelHandler);
     if (oSelPlaces->Count() == 0) return PlaceAt(oSelHandler->FocusPosition(), oModules, oPlaces);
     bool bPlaced = false;
-    for (const auto& oPlace : *oSelPlaces) {
+    for (const auto& oPlace : oSelPlaces) {
         const std::int32_t lPosition = G_PlacePosition(oPlace->Rack()->Number(), oPlace->Number());
         if (PlaceAt(lPosition, oModules, oPlaces)) bPlaced = true;
     }

@@ -96,7 +96,7 @@ void VxHWSelectionHandler::SelChangeComplete() noexcept
             for (std::int32_t lPlace = 1; lPlace <= lPlaces; ++lPlace) mabSelPlaces.Set(lRack, lPlace, false);
         }
         const auto oSelPlaces = G_Require(moSelPlaces, "The selection");
-        for (const auto& oPlace : *oSelPlaces) mabSelPlaces.Set(oPlace->Rack()->Number(), oPlace->Number(), true);
+        for (const auto& oPlace : oSelPlaces) mabSelPlaces.Set(oPlace->Rack()->Number(), oPlace->Number(), true);
         SelChange.Raise();
         // Whoever marks the focus of an empty selection in a gap has to draw it anew. No focus (-1) is odd, too.
         if (mlFocusPosition % 2 != 0 && moSelPlaces->Count() == 0) FocusChange.Raise(-1);
@@ -129,7 +129,7 @@ void VxHWSelectionHandler::SelectRack(const VxHWRackPtr& oRack) noexcept
         G_Require(moSelPlaces, "The selection")->Clear();
         const bool bSkipNotUsable = G_Require(moStation, "The station")->StationKind() != vxStationKindCentral;
         const auto oPlaces = G_Require(oRack, "The rack")->Places();
-        for (const auto& oPlace : *oPlaces) {
+        for (const auto& oPlace : oPlaces) {
             if (bSkipNotUsable && oPlace->Usability() == vxPlaceNotUsable) continue;
             moSelPlaces->Add(oPlace);
         }
@@ -141,7 +141,7 @@ bool VxHWSelectionHandler::IsParentModuleSelected(const VxHWModulePtr& oParentMo
     bool bSelected = false;
     G_Trap(ClassName, "IsParentModuleSelected", [&] {
         const auto oPlaces = G_Require(moStation, "The station")->ParentModulePlaces(oParentModule);
-        for (const auto& oPlace : *oPlaces) {
+        for (const auto& oPlace : oPlaces) {
             if (oPlace->Module()->IndexInParent() < 1) continue;
             bSelected = G_Require(moSelPlaces, "The selection")->Contains(oPlace);
             if (bSelected) return;
@@ -162,7 +162,7 @@ bool VxHWSelectionHandler::FindModuleInSelection(bool& bFound) const noexcept
     bFound = false;
     return G_Trap(ClassName, "IsModuleInSelection", [&] {
         const auto oSelPlaces = G_Require(moSelPlaces, "The selection");
-        for (const auto& oPlace : *oSelPlaces) {
+        for (const auto& oPlace : oSelPlaces) {
             bFound = HasModule(oPlace);
             if (bFound) return;
         }
@@ -196,19 +196,19 @@ bool VxHWSelectionHandler::CollectSelectedModules(VxHWModulesPtr& oModules) cons
         const auto oGathered = factory.CreateRackPlaces();
         const auto oParents = factory.CreateModules();
         const auto oSelPlaces = G_Require(moSelPlaces, "The selection");
-        for (const auto& oPlace : *oSelPlaces) {
+        for (const auto& oPlace : oSelPlaces) {
             oGathered->Add(oPlace);
             const auto oModule = oPlace->Module();
             if (oModule->IndexInParent() <= 0) continue;
             const auto oParent = oModule->ParentModule();
             if (!oParents->Contains(oParent)) oParents->Add(oParent, true);
         }
-        for (const auto& oParent : *oParents) {
+        for (const auto& oParent : oParents) {
             const auto oPlaces = G_Require(moStation, "The station")->ParentModulePlaces(oParent);
-            for (const auto& oPlace : *oPlaces)
+            for (const auto& oPlace : oPlaces)
                 if (!oGathered->Contains(oPlace)) oGathered->Add(oPlace);
         }
-        for (const auto& oPlace : *oGathered) {
+        for (const auto& oPlace : oGathered) {
             const auto oModule = oPlace->Module();
             // A place reached only through a module that spans several places contributes nothing of its own.
             const bool bOwn = oModule->IndexInParent() > 0 || moSelPlaces->Contains(oPlace);

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "tests/support/services/CallLog.h"
-#include "zqbchwcx/reference/services/QuietView.h"
+#include "zqbchwcx/views/shared/QuietView.h"
 
 namespace zqbchwcx::testing {
 
 /// A view that keeps what a manager gives it. It leaves a line when its station is set, as in "table.VxHWStation
 /// nothing", and when a drag goes on.
-class RecordingView : public reference::QuietView, public IVxHWDragDropCtrlEvents, public Logged {
+class RecordingView : public zqbchwcx::QuietView, public IVxHWDragDropCtrlEvents, public Logged {
 public:
     RecordingView(CallLogPtr log, std::string name) : Logged(std::move(log)), msName(std::move(name)) {}
 

@@ -27,7 +27,7 @@ void ConfigKeyController::KeyReturn() noexcept
 {
     RunAsAction(TextEditParameters, "IVxHWKeyInputController_KeyReturn", [&] {
         const auto oSelPlaces = G_SelPlaces(SelHandler());
-        for (const auto& oPlace : *oSelPlaces) {
+        for (const auto& oPlace : oSelPlaces) {
             const auto oModule = oPlace->Module();
             if (oModule->IsEmpty() || !oModule->HasParamDialog()) continue;
             Station()->OpenModuleParamDialog(oPlace);

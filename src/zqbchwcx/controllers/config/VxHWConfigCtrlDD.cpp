@@ -216,7 +216,7 @@ void VxHWConfigCtrlDD::P_FillDragModules(const DataObjectPtr& oData, bool bWithE
 void VxHWConfigCtrlDD::P_FillPossibleDropPlaces() noexcept
 {
     G_Trap(className(), "P_FillPossibleDropPlaces", [&] {
-        for (const auto& oModule : *moDragModules) {
+        for (const auto& oModule : moDragModules) {
             if (oModule->IsEmpty()) continue;
             malPossibleDropPlaces = Station()->GetPossibleDropPlaces(oModule);
             return;

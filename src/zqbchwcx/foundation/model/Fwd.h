@@ -1,6 +1,6 @@
 #pragma once
 
-#include <memory>
+#include "zqbchwcx/foundation/ObjectPtr.h"
 
 namespace zqbchwcx {
 
@@ -14,14 +14,33 @@ class VxHWModule;
 class VxHWCompareService;
 class VxHWDiagService;
 
-using VxHWStationPtr = std::shared_ptr<VxHWStation>;
-using VxHWRacksPtr = std::shared_ptr<VxHWRacks>;
-using VxHWRackPtr = std::shared_ptr<VxHWRack>;
-using VxHWRackPlacesPtr = std::shared_ptr<VxHWRackPlaces>;
-using VxHWRackPlacePtr = std::shared_ptr<VxHWRackPlace>;
-using VxHWModulesPtr = std::shared_ptr<VxHWModules>;
-using VxHWModulePtr = std::shared_ptr<VxHWModule>;
-using VxHWCompareServicePtr = std::shared_ptr<VxHWCompareService>;
-using VxHWDiagServicePtr = std::shared_ptr<VxHWDiagService>;
+template <>
+inline constexpr const char* G_ObjectName<VxHWStation> = "The station";
+template <>
+inline constexpr const char* G_ObjectName<VxHWRacks> = "The collection of racks";
+template <>
+inline constexpr const char* G_ObjectName<VxHWRack> = "The rack";
+template <>
+inline constexpr const char* G_ObjectName<VxHWRackPlaces> = "The collection of places";
+template <>
+inline constexpr const char* G_ObjectName<VxHWRackPlace> = "The place";
+template <>
+inline constexpr const char* G_ObjectName<VxHWModules> = "The collection of modules";
+template <>
+inline constexpr const char* G_ObjectName<VxHWModule> = "The module";
+template <>
+inline constexpr const char* G_ObjectName<VxHWCompareService> = "The compare service";
+template <>
+inline constexpr const char* G_ObjectName<VxHWDiagService> = "The diagnostics service";
+
+using VxHWStationPtr = ObjectPtr<VxHWStation>;
+using VxHWRacksPtr = ObjectPtr<VxHWRacks>;
+using VxHWRackPtr = ObjectPtr<VxHWRack>;
+using VxHWRackPlacesPtr = ObjectPtr<VxHWRackPlaces>;
+using VxHWRackPlacePtr = ObjectPtr<VxHWRackPlace>;
+using VxHWModulesPtr = ObjectPtr<VxHWModules>;
+using VxHWModulePtr = ObjectPtr<VxHWModule>;
+using VxHWCompareServicePtr = ObjectPtr<VxHWCompareService>;
+using VxHWDiagServicePtr = ObjectPtr<VxHWDiagService>;
 
 } // namespace zqbchwcx

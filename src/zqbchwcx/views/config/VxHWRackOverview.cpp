@@ -13,7 +13,6 @@
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 #include "zqbchwcx/views/overview/CentralCursor.h"
-#include "zqbchwcx/views/overview/CentralPictures.h"
 #include "zqbchwcx/views/shared/DragThreshold.h"
 
 #include <algorithm>
@@ -25,7 +24,6 @@ namespace {
 constexpr std::string_view ClassName = "VxHWRackOverview";
 
 constexpr Rect PictureRect = MakeRect(4, 0, 238, 392);
-constexpr Rect DragPictureRect = MakeRect(0, 0, CentralPlaceLayout::PlaceWidth, CentralPlaceLayout::PlaceHeight);
 constexpr std::int32_t MinimumWidth = 3525; // twips
 constexpr std::int32_t MinimumHeight = 5880;
 
@@ -36,23 +34,21 @@ constexpr std::int32_t ArrowHeaderHeightCompare = 61;
 } // namespace
 
 VxHWRackOverview::VxHWRackOverview(UserControl& oControl) noexcept
-    : mRegistration(ClassName), mTexts(ClassName), mControl(oControl), mContext(ClassName), mCanvas(ClassName),
-      mSinglePictures(ClassName, mTexts), mModulePictures(ClassName), mRackPainter(mContext, mCanvas, mSinglePictures),
-      mPlacePainter(mContext, mLayout, mCanvas, mModulePictures, mSinglePictures),
+    : ControlBinding(ClassName), mRegistration(ClassName), mTexts(ClassName), mControl(oControl), mCanvas(ClassName),
+      mGate(mContext, {[this] { Refresh(); }, [this] { DrawOutdatedSelection(); }}), mSinglePictures(ClassName, mTexts),
+      mModulePictures(ClassName), mRackPainter(mContext, mCanvas, mSinglePictures),
+      mPlacePainter(mContext, G_CentralPlaceStyle, mLayout, mCanvas, mModulePictures, mSinglePictures),
       mFocusMarks(mContext, mLayout, mCanvas, mRackPainter,
                   [this](std::int32_t lRack, std::int32_t lPlace) { RedrawPlace(lRack, lPlace); }),
-      mLinks(mContext), mMenu(mContext, mLayout, mCanvas, mTexts), mDragPointer(mContext, mCanvas, mModulePictures),
-      mTooltips(mContext, mLayout, mTexts), mKeyInput(mContext, mMenu, G_CentralCursorTarget),
-      mInput(mContext, mLayout, mCanvas, mMenu, mDragPointer, "pic_Main",
-             {[this] {
-                  if (!mContext.oStation) return;
-                  const DrawingBracket drawing(mCanvas);
-                  mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
-              },
-              [this] { P_DrawPending(); }}),
-      mArrow(mContext, mLayout, mCanvas)
+      mLinks(mContext),
+      mMenu(mContext, mTexts,
+            [this] { return mCanvas.InControl(mLayout.MenuPointOf(G_PositionInfo(mContext.FocusPosition()))); }),
+      mDragPointer(mContext, G_CentralPlaceStyle, mCanvas, mModulePictures), mTooltips(mContext, mLayout, mTexts),
+      mKeyInput(mContext, mMenu, mGate, G_CentralCursorTarget),
+      mInput(mContext, mLayout, mCanvas, mMenu, mDragPointer, mGate, "pic_Main", [this] { DrawFocusMark(); }),
+      mArrow(mContext, G_CentralPlaceStyle, mLayout, mCanvas)
 {
-    mInput.DragThreshold(P_ReadDragDelayFromRegistry(ClassName));
+    mInput.DragThreshold(G_DragThreshold(ClassName));
     G_Trap(ClassName, "UserControl_Initialize", [&] { CreateChildren(); });
 }
 
@@ -72,7 +68,8 @@ void VxHWRackOverview::CreateChildren()
     mCanvas.Use(toolkit.CreatePictureBox(mControl, "pic_Main", PictureRect));
     mLinks.Create(toolkit, mControl);
     mArrow.Create(toolkit, mControl, ArrowIndentation);
-    auto picDrag = toolkit.CreatePictureBox(mControl, "pic_Drag", DragPictureRect);
+    auto picDrag = toolkit.CreatePictureBox(
+        mControl, "pic_Drag", MakeRect(0, 0, G_CentralPlaceStyle.place.width, G_CentralPlaceStyle.place.height));
     picDrag->Visible(false);
     mDragPointer.Use(std::move(picDrag));
     mMenu.Create(toolkit, mControl);
@@ -87,92 +84,59 @@ void VxHWRackOverview::CreateChildren()
 
 std::intptr_t VxHWRackOverview::hWnd() const noexcept
 {
-    std::intptr_t hResult = 0;
-    G_Trap(ClassName, "hWnd", [&] { hResult = mControl.hWnd(); });
-    return hResult;
+    return G_TrapValue(ClassName, "hWnd", std::intptr_t{0}, [&] { return mControl.hWnd(); });
 }
 
 void VxHWRackOverview::CoordinatesByPosition(std::int32_t lPosition, std::int32_t& X, std::int32_t& Y) const noexcept
 {
     G_Trap(ClassName, "CoordinatesByPosition", [&] {
-        const Point inPicture = mLayout.PointOf(G_PositionInfo(lPosition));
-        X = mCanvas.Box().Left() + inPicture.x;
-        Y = mCanvas.Box().Top() + inPicture.y;
+        const Point at = mCanvas.InControl(mLayout.PointOf(G_PositionInfo(lPosition)));
+        X = at.x;
+        Y = at.y;
     });
 }
 
 void VxHWRackOverview::PositionByCoordinates(std::int32_t X, std::int32_t Y, std::int32_t& lPosition) const noexcept
 {
-    G_Trap(ClassName, "PositionByCoordinates", [&] {
-        lPosition = mLayout.PositionAt({X - mCanvas.Box().Left(), Y - mCanvas.Box().Top()});
-    });
+    G_Trap(ClassName, "PositionByCoordinates", [&] { lPosition = mLayout.PositionAt(mCanvas.InPicture({X, Y})); });
 }
 
-void VxHWRackOverview::Locked(bool bLocked) noexcept
+void VxHWRackOverview::OnStyle()
 {
-    if (bLocked == mContext.bLocked) return;
-    mContext.bLocked = bLocked;
-    sysinf_Main_SysColorsChanged();
-}
-
-void VxHWRackOverview::Style(VxEnumStyle eStyle) noexcept
-{
-    mContext.eStyle = eStyle;
+    const VxEnumStyle eStyle = mContext.eStyle;
     if (eStyle != vxStyleHWCompare && eStyle != vxStyleHWConfig && eStyle != vxStyleHWDiag) return;
     mArrow.HeaderHeight(eStyle == vxStyleHWCompare ? ArrowHeaderHeightCompare : ArrowHeaderHeight);
-    mbDrawOnModelEvents = eStyle == vxStyleHWConfig;
+    mGate.DrawOnModelEvents(eStyle == vxStyleHWConfig);
 }
 
-void VxHWRackOverview::VxHWStation(VxHWStationPtr oStation) noexcept
+void VxHWRackOverview::OnStationLeaves()
 {
-    G_Trap(ClassName, "IVxHWControl_VxHWStation", [&] {
-        mRackChangeConnection.Disconnect();
-        mRackPlaceChangeConnection.Disconnect();
-        mTotalRefreshConnection.Disconnect();
-        mTooltips.Disconnect();
-        mSelection.Clear();
-        mbRefreshPending = mbSelectionPending = false;
-        mContext.oStation = std::move(oStation);
-        mLinks.Hide();
-        if (!mContext.oStation) {
-            mContext.backColor = vxColorWindowBackground;
-            mArrow.Hide();
-            const DrawingBracket drawing(mCanvas);
-            mCanvas.Box().BackColor(mContext.backColor);
-            return;
-        }
-
-        auto& station = *mContext.oStation;
-        mRackChangeConnection =
-            station.RackChange.Connect([this](const VxHWRackPtr& oRack) { moHWStation_RackChange(oRack); });
-        mRackPlaceChangeConnection = station.RackPlaceChange.Connect(
-            [this](const VxHWRackPlacePtr& oPlace) { moHWStation_RackPlaceChange(oPlace); });
-        mTotalRefreshConnection = station.TotalRefresh.Connect([this] { moHWStation_TotalRefresh(); });
-        mTooltips.P_SetTooltips(mCanvas.Box().hWnd());
-        P_LoadImageLists();
-        const auto oRacks = station.Racks();
-        mSelection.Reset(oRacks->Count(), oRacks->Item(0)->Places()->Count());
-        P_SetBackground();
-    });
+    mTooltips.Disconnect();
+    mSelection.Clear();
+    mGate.Forget();
 }
 
-void VxHWRackOverview::VxHWSelectionHandler(VxHWSelectionHandlerPtr oSelectionHandler) noexcept
+void VxHWRackOverview::OnStation()
 {
-    G_Trap(ClassName, "IVxHWControl_VxHWSelectionHandler", [&] {
-        mSelChangeConnection.Disconnect();
-        mFocusChangeConnection.Disconnect();
-        mContext.oSelHandler = std::move(oSelectionHandler);
-        if (!mContext.oSelHandler) return;
-        mSelChangeConnection = mContext.oSelHandler->SelChange.Connect([this] { moSelHandler_SelChange(); });
-        mFocusChangeConnection = mContext.oSelHandler->FocusChange.Connect(
-            [this](std::int32_t lPreviousFocus) { moSelHandler_FocusChange(lPreviousFocus); });
-    });
+    mLinks.Hide();
+    if (!mContext.oStation) {
+        mContext.backColor = vxColorWindowBackground;
+        mArrow.Hide();
+        const DrawingBracket drawing(mCanvas);
+        mCanvas.Box().BackColor(mContext.backColor);
+        return;
+    }
+    mTooltips.Connect(mCanvas.Box().hWnd());
+    P_LoadImageLists();
+    const auto oRacks = mContext.Station()->Racks();
+    mSelection.Reset(oRacks->Count(), oRacks->Item(0)->Places()->Count());
+    P_SetBackground();
 }
 
 void VxHWRackOverview::P_LoadImageLists() noexcept
 {
     G_Trap(ClassName, "P_LoadImageLists", [&] {
-        mModulePictures.Load(*mTexts, CentralPictures::Places());
+        mModulePictures.Load(*mTexts, G_CentralPlaceStyle.pictures);
         mRackPainter.Load(*mTexts);
     });
 }
@@ -200,35 +164,23 @@ void VxHWRackOverview::sysinf_Main_SysColorsChanged() noexcept
 
 void VxHWRackOverview::Refresh() noexcept
 {
-    const bool bDrawOnModelEvents = std::exchange(mbDrawOnModelEvents, true);
-    const bool bRefreshInProgress = std::exchange(mbRefreshInProgress, true);
     G_Trap(ClassName, "Refresh", [&] {
         const DrawingBracket drawing(mCanvas);
-        mbRefreshPending = !mContext.Station()->IsDrawable();
-        mbSelectionPending = false;
+        const auto oStation = mContext.Station();
+        const RedrawGate::RefreshBracket refreshing(mGate);
         if (mContext.oSelHandler) mSelection.Take(mContext.oSelHandler->SelPlacesArray());
-        const auto oRacks = mContext.Station()->Racks();
-        for (const auto& oRack : *oRacks) {
+        for (const auto& oRack : oStation->Racks()) {
             moHWStation_RackChange(oRack);
-            const auto oPlaces = oRack->Places();
-            for (const auto& oPlace : *oPlaces) moHWStation_RackPlaceChange(oPlace);
+            for (const auto& oPlace : oRack->Places()) moHWStation_RackPlaceChange(oPlace);
         }
         moSelHandler_FocusChange(vxNoPosition);
     });
-    mbDrawOnModelEvents = bDrawOnModelEvents;
-    mbRefreshInProgress = bRefreshInProgress;
-}
-
-bool VxHWRackOverview::MayDraw() const
-{
-    return mContext.Station()->IsDrawable() && mbDrawOnModelEvents;
 }
 
 void VxHWRackOverview::moHWStation_RackChange(const VxHWRackPtr& oRack) noexcept
 {
     G_Trap(ClassName, "moHWStation_RackChange", [&] {
-        if (!MayDraw()) return;
-        P_DrawPending();
+        if (!mGate.MayDrawModelEvent()) return;
         if (!CentralPlaceLayout::ShowsRack(oRack->Number())) return;
         const DrawingBracket drawing(mCanvas);
         mRackPainter.DrawNumber(*oRack);
@@ -238,17 +190,15 @@ void VxHWRackOverview::moHWStation_RackChange(const VxHWRackPtr& oRack) noexcept
 void VxHWRackOverview::moHWStation_RackPlaceChange(const VxHWRackPlacePtr& oPlace) noexcept
 {
     G_Trap(ClassName, "moHWStation_RackPlaceChange", [&] {
-        if (!mbRefreshInProgress) ContentChange.Raise();
-        if (!MayDraw()) return;
-        P_DrawPending();
-        DrawPlace(oPlace);
+        if (!mGate.IsRefreshing()) ContentChange.Raise();
+        if (mGate.MayDrawModelEvent()) DrawPlace(oPlace);
     });
 }
 
 void VxHWRackOverview::moHWStation_TotalRefresh() noexcept
 {
     G_Trap(ClassName, "moHWStation_TotalRefresh", [&] {
-        if (MayDraw()) Refresh();
+        if (mGate.DrawsModelEvents()) Refresh();
     });
 }
 
@@ -262,10 +212,10 @@ void VxHWRackOverview::DrawPlace(const VxHWRackPlacePtr& oPlace)
     if (bSelected) ContentChange.Raise();
     mPlacePainter.Draw(oPlace, bSelected);
     // Until a pending selection is drawn as a whole, the frames of its groups are not.
-    if (!mbSelectionPending) mSelection.MarkDrawn(lRack, lPlace);
+    if (!mGate.IsSelectionPending()) mSelection.MarkDrawn(lRack, lPlace);
 
     DrawCoveredGapMark(lRack, lPlace);
-    if (lPlace == InterfaceModuleLinks::PlaceNumber) mLinks.P_CheckIMLinks();
+    if (lPlace == InterfaceModuleLinks::PlaceNumber) mLinks.Update();
 }
 
 void VxHWRackOverview::DrawCoveredGapMark(std::int32_t lRack, std::int32_t lPlace)
@@ -275,13 +225,19 @@ void VxHWRackOverview::DrawCoveredGapMark(std::int32_t lRack, std::int32_t lPlac
     if (lFocus == G_GapPosition(lRack, lPlace)) mFocusMarks.Set(G_PositionInfo(lFocus));
 }
 
+void VxHWRackOverview::DrawFocusMark()
+{
+    if (!mContext.oStation) return;
+    const DrawingBracket drawing(mCanvas);
+    mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
+}
+
 void VxHWRackOverview::RedrawPlace(std::int32_t lRack, std::int32_t lPlace) noexcept
 {
     // A place that cannot be drawn does not keep the others from it.
     G_Trap(ClassName, "moHWStation_RackPlaceChange", [&] {
-        if (!mbRefreshInProgress) ContentChange.Raise();
-        if (mContext.Station()->IsDrawable()) DrawPlace(mContext.Place(lRack, lPlace));
-        else mbRefreshPending = true;
+        if (!mGate.IsRefreshing()) ContentChange.Raise();
+        if (mGate.MayDrawNow()) DrawPlace(mContext.Place(lRack, lPlace));
     });
 }
 
@@ -290,8 +246,7 @@ void VxHWRackOverview::moSelHandler_SelChange() noexcept
     G_Trap(ClassName, "moSelHandler_SelChange", [&] {
         SelChange.Raise();
         mSelection.Take(mContext.SelHandler()->SelPlacesArray());
-        mbSelectionPending = true;
-        P_DrawPending();
+        mGate.SelectionChanged();
     });
 }
 
@@ -306,57 +261,39 @@ void VxHWRackOverview::DrawOutdatedSelection()
         const auto oParent = oModule->ParentModule();
         if (!oParents->Contains(oParent)) oParents->Add(oParent, true);
     }
-    for (const auto& oParent : *oParents) P_SetBorderSelection(oParent);
+    for (const auto& oParent : oParents) P_SetBorderSelection(oParent);
 }
 
 void VxHWRackOverview::P_SetBorderSelection(const VxHWModulePtr& oParentModule) noexcept
 {
     G_Trap(ClassName, "P_SetBorderSelection", [&] {
         const auto oPlaces = mContext.Station()->ParentModulePlaces(oParentModule);
-        for (const auto& oPlace : *oPlaces) {
+        for (const auto& oPlace : oPlaces) {
             const std::int32_t lRack = oPlace->Rack()->Number();
             const std::int32_t lPlace = oPlace->Number();
             if (!mLayout.Shows(lRack, lPlace)) continue;
-            mPlacePainter.P_DrawBorder(oPlace);
+            mPlacePainter.DrawGroupFrame(oPlace);
             DrawCoveredGapMark(lRack, lPlace);
         }
     });
 }
 
-void VxHWRackOverview::P_DrawPending() noexcept
-{
-    G_Trap(ClassName, "P_DrawPending", [&] {
-        if (!mbRefreshPending && !mbSelectionPending) return;
-        if (!mContext.oStation || !mContext.oStation->IsDrawable()) return;
-        if (mbRefreshPending) {
-            Refresh();
-            return;
-        }
-        mbSelectionPending = false;
-        DrawOutdatedSelection();
-    });
-}
-
 void VxHWRackOverview::StateChange(VxEnumDragDropStates /*ePreviousValue*/) noexcept
 {
-    G_Trap(ClassName, "IVxHWDragDropCtrlEvents_StateChange", [&] {
-        if (!mContext.oStation) return;
-        // A drag that ends in a drop ends while drawing is off; its markings go as soon as it is on again.
-        mbRefreshPending = true;
-        P_DrawPending();
-    });
+    // A drag that ends in a drop ends while drawing is off; its markings go as soon as it is on again.
+    if (mContext.oStation) mGate.EverythingChanged();
 }
 
 void VxHWRackOverview::moSelHandler_FocusChange(std::int32_t lPreviousFocus) noexcept
 {
     G_Trap(ClassName, "moSelHandler_FocusChange", [&] {
-        P_DrawPending();
+        mGate.CatchUp();
         if (mContext.oStation) {
             const DrawingBracket drawing(mCanvas);
             mFocusMarks.Reset(G_PositionInfo(lPreviousFocus));
-            mFocusMarks.Set(G_PositionInfo(mContext.FocusPosition()));
+            DrawFocusMark();
         }
-        mArrow.P_SetArrow();
+        mArrow.Update();
         FocusChange.Raise();
     });
 }
@@ -376,20 +313,18 @@ void VxHWRackOverview::OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEf
 {
     G_Trap(ClassName, "UserControl_OLEDragOver", [&] {
         mContext.DragDropCtrl()->OLEDragOver(vxNoPosition, oData, lEffect, nButton, nShift, nState);
-        P_DrawPending();
+        mGate.CatchUp();
     });
 }
 
 void VxHWRackOverview::KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept
 {
     mKeyInput.KeyDown(nKeyCode, nShift);
-    P_DrawPending();
 }
 
 void VxHWRackOverview::KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept
 {
     mKeyInput.KeyUp(nKeyCode, nShift);
-    P_DrawPending();
 }
 
 } // namespace zqbchwcx

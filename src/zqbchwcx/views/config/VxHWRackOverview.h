@@ -1,6 +1,5 @@
 #pragma once
 
-#include "zqbchwcx/controllers/interfaces/IVxHWControl.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropCtrlEvents.h"
 #include "zqbchwcx/foundation/Event.h"
 #include "zqbchwcx/foundation/Registration.h"
@@ -14,15 +13,15 @@
 #include "zqbchwcx/views/overview/KeyInput.h"
 #include "zqbchwcx/views/overview/ModulePictures.h"
 #include "zqbchwcx/views/overview/PictureInput.h"
-#include "zqbchwcx/views/overview/PlaceMenu.h"
 #include "zqbchwcx/views/overview/PlacePainter.h"
 #include "zqbchwcx/views/overview/PlaceTooltips.h"
 #include "zqbchwcx/views/overview/RackPainter.h"
+#include "zqbchwcx/views/shared/ControlBinding.h"
+#include "zqbchwcx/views/shared/PlaceMenu.h"
+#include "zqbchwcx/views/shared/RedrawGate.h"
 #include "zqbchwcx/views/shared/SelectionSnapshot.h"
-#include "zqbchwcx/views/shared/ViewContext.h"
 
 #include <memory>
-#include <utility>
 
 namespace zqbchwcx {
 
@@ -31,7 +30,7 @@ namespace zqbchwcx {
 /// It decides nothing itself: every input is turned into a place position and handed to the controllers, and it draws
 /// again what the station, the selection handler and the drag-and-drop controller report as changed. The first
 /// `Refresh` after a station was set draws the racks and places. Every member reports its own errors.
-class VxHWRackOverview : public IVxHWControl, public IVxHWDragDropCtrlEvents, private UserControlEvents {
+class VxHWRackOverview : public ControlBinding, public IVxHWDragDropCtrlEvents, private UserControlEvents {
 public:
     /// The view fills the control, which outlives it, and makes its children with the service root's toolkit.
     explicit VxHWRackOverview(UserControl& oControl) noexcept;
@@ -52,42 +51,9 @@ public:
     Event<> FocusChange;
 
     // IVxHWControl
-    bool Locked() const noexcept override { return mContext.bLocked; }
-    void Locked(bool bLocked) noexcept override;
     /// Always 0: the view is for central stations only. Writes are ignored.
     VxEnumStationType StationType() const noexcept override { return vxStationTypeCentral; }
     void StationType(VxEnumStationType /*eStationType*/) noexcept override {}
-    VxEnumStyle Style() const noexcept override { return mContext.eStyle; }
-    void Style(VxEnumStyle eStyle) noexcept override;
-    VxHWStationPtr VxHWStation() const noexcept override { return mContext.oStation; }
-    void VxHWStation(VxHWStationPtr oStation) noexcept override;
-    VxHWCompareServicePtr VxHWCompareService() const noexcept override { return mContext.oCompareService; }
-    void VxHWCompareService(VxHWCompareServicePtr oCompareService) noexcept override
-    {
-        mContext.oCompareService = std::move(oCompareService);
-    }
-    VxHWDiagServicePtr VxHWDiagService() const noexcept override { return mContext.oDiagService; }
-    void VxHWDiagService(VxHWDiagServicePtr oDiagService) noexcept override
-    {
-        mContext.oDiagService = std::move(oDiagService);
-    }
-    VxHWSelectionHandlerPtr VxHWSelectionHandler() const noexcept override { return mContext.oSelHandler; }
-    void VxHWSelectionHandler(VxHWSelectionHandlerPtr oSelectionHandler) noexcept override;
-    IVxHWMouseInputControllerPtr VxHWMouseInputController() const noexcept override { return mContext.oMouseCtrl; }
-    void VxHWMouseInputController(IVxHWMouseInputControllerPtr oController) noexcept override
-    {
-        mContext.oMouseCtrl = std::move(oController);
-    }
-    IVxHWKeyInputControllerPtr VxHWKeyInputController() const noexcept override { return mContext.oKeyCtrl; }
-    void VxHWKeyInputController(IVxHWKeyInputControllerPtr oController) noexcept override
-    {
-        mContext.oKeyCtrl = std::move(oController);
-    }
-    IVxHWDragDropControllerPtr VxHWDragDropController() const noexcept override { return mContext.oDragDropCtrl; }
-    void VxHWDragDropController(IVxHWDragDropControllerPtr oController) noexcept override
-    {
-        mContext.oDragDropCtrl = std::move(oController);
-    }
 
     // IVxHWDragDropCtrlEvents
     void StateChange(VxEnumDragDropStates ePreviousValue) noexcept override;
@@ -105,26 +71,30 @@ private:
     void P_SetBackground();
     void sysinf_Main_SysColorsChanged() noexcept;
 
-    void moHWStation_RackChange(const VxHWRackPtr& oRack) noexcept;
-    void moHWStation_RackPlaceChange(const VxHWRackPlacePtr& oPlace) noexcept;
-    void moHWStation_TotalRefresh() noexcept;
-    void moSelHandler_SelChange() noexcept;
-    void moSelHandler_FocusChange(std::int32_t lPreviousFocus) noexcept;
+    // ControlBinding
+    void OnLocked() override { sysinf_Main_SysColorsChanged(); }
+    void OnStyle() override;
+    void OnStationLeaves() override;
+    void OnStation() override;
+    void moHWStation_RackChange(const VxHWRackPtr& oRack) noexcept override;
+    void moHWStation_RackPlaceChange(const VxHWRackPlacePtr& oPlace) noexcept override;
+    void moHWStation_TotalRefresh() noexcept override;
+    void moSelHandler_SelChange() noexcept override;
+    void moSelHandler_FocusChange(std::int32_t lPreviousFocus) noexcept override;
 
-    bool MayDraw() const;
     void DrawPlace(const VxHWRackPlacePtr& oPlace);
     void DrawCoveredGapMark(std::int32_t lRack, std::int32_t lPlace);
+    void DrawFocusMark();
     void RedrawPlace(std::int32_t lRack, std::int32_t lPlace) noexcept;
     void DrawOutdatedSelection();
     void P_SetBorderSelection(const VxHWModulePtr& oParentModule) noexcept;
-    void P_DrawPending() noexcept;
 
     InstanceRegistration mRegistration;
     TextModuleUse mTexts;
     UserControl& mControl;
-    ViewContext mContext;
     CentralPlaceLayout mLayout;
     Canvas mCanvas;
+    RedrawGate mGate;
     SinglePictures mSinglePictures;
     ModulePictures mModulePictures;
     RackPainter mRackPainter;
@@ -139,18 +109,6 @@ private:
     PictureInput mInput;
     FocusArrow mArrow;
     SysInfoPtr msysinfMain;
-
-    bool mbDrawOnModelEvents = true;
-    bool mbRefreshInProgress = false;
-    /// What could not be drawn while the station's drawing was off, and of which no model event will tell.
-    bool mbRefreshPending = false;
-    bool mbSelectionPending = false;
-
-    EventConnection mRackChangeConnection;
-    EventConnection mRackPlaceChangeConnection;
-    EventConnection mTotalRefreshConnection;
-    EventConnection mSelChangeConnection;
-    EventConnection mFocusChangeConnection;
 };
 
 } // namespace zqbchwcx

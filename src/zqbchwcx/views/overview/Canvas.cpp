@@ -10,6 +10,16 @@ PictureBox& Canvas::Box() const
     return *G_Require(mpicBox, "The picture box");
 }
 
+Point Canvas::InControl(Point inPicture) const
+{
+    return {Box().Left() + inPicture.x, Box().Top() + inPicture.y};
+}
+
+Point Canvas::InPicture(Point inControl) const
+{
+    return {inControl.x - Box().Left(), inControl.y - Box().Top()};
+}
+
 void Canvas::Overlay(const std::optional<Rect>& rect)
 {
     const DrawingBracket drawing(*this);

@@ -17,6 +17,10 @@ public:
     PictureBox& Box() const;
     bool HasBox() const { return mpicBox != nullptr; }
 
+    /// Where a point of the picture lies in the control, and the other way.
+    Point InControl(Point inPicture) const;
+    Point InPicture(Point inControl) const;
+
     /// Replaces the inverted rectangle; nothing takes it away.
     void Overlay(const std::optional<Rect>& rect);
 

@@ -3,28 +3,19 @@
 #include "zqbchwcx/foundation/Nothing.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/foundation/model/VxHWModules.h"
-#include "zqbchwcx/views/overview/CentralPictures.h"
-#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 #include "zqbchwcx/views/overview/GroupFrame.h"
 
 namespace zqbchwcx {
-namespace {
 
-// The mouse points into the first module, not at its corner.
-constexpr std::int32_t MouseOffset = 9;
-
-} // namespace
-
-void DragPointer::P_SetDragPointer(Point at) noexcept
+void DragPointer::MoveTo(Point at) noexcept
 {
     G_Trap(mContext.className, "P_SetDragPointer", [&] {
         auto& picDrag = *G_Require(mpicDrag, "The drag pointer");
         const auto oModules = mContext.DragDropCtrl()->DragModules();
         if (!oModules || oModules->Count() == 0) return;
         const bool bCompose = !picDrag.Visible();
-        const auto& picture = mCanvas.Box();
-        picDrag.Move(MakeRect(picture.Left() + at.x - MouseOffset, picture.Top() + at.y - MouseOffset,
-                              oModules->Count() * CentralPlaceLayout::PlaceWidth, CentralPlaceLayout::PlaceHeight));
+        const Point corner = mCanvas.InControl({at.x - mStyle.dragged.x, at.y - mStyle.dragged.y});
+        picDrag.Move(MakeRect(corner.x, corner.y, oModules->Count() * mStyle.place.width, mStyle.place.height));
         if (!bCompose) return;
         Compose(oModules);
         picDrag.Visible(true);
@@ -42,9 +33,9 @@ void DragPointer::Compose(const VxHWModulesPtr& oModules)
 {
     mpicDrag->BackColor(mContext.backColor);
     std::int32_t lLeft = 0;
-    for (const auto& oModule : *oModules) {
+    for (const auto& oModule : oModules) {
         P_DrawModuleToDragPointer(*oModule, lLeft);
-        lLeft += CentralPlaceLayout::PlaceWidth;
+        lLeft += mStyle.place.width;
     }
     mpicDrag->Refresh();
 }
@@ -52,12 +43,12 @@ void DragPointer::Compose(const VxHWModulesPtr& oModules)
 void DragPointer::P_DrawModuleToDragPointer(const VxHWModule& oModule, std::int32_t lLeft) noexcept
 {
     G_Trap(mContext.className, "P_DrawModuleToDragPointer", [&] {
-        const std::string key = oModule.IsEmpty() ? std::string(CentralPictures::PlaceActive)
-                                                  : mModulePictures.KeyOf(oModule, CentralPictures::ModuleDefault);
+        const std::string key =
+            oModule.IsEmpty() ? std::string(mStyle.active) : mModulePictures.KeyOf(oModule, mStyle.moduleDefault);
         mpicDrag->DrawListImage(mModulePictures.List(), key, {lLeft, 0}, DrawStyle::Normal);
         if (oModule.IndexInParent() < 1) return;
-        mpicDrag->DrawListImage(mModulePictures.List(), G_GroupFrameKey(oModule, oModule.ParentModule()), {lLeft, 0},
-                                DrawStyle::Transparent);
+        mpicDrag->DrawListImage(mModulePictures.List(), G_GroupFrameKey(mStyle, oModule, oModule.ParentModule()),
+                                {lLeft, 0}, DrawStyle::Transparent);
     });
 }
 

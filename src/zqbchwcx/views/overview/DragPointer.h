@@ -2,6 +2,7 @@
 
 #include "zqbchwcx/views/overview/Canvas.h"
 #include "zqbchwcx/views/overview/ModulePictures.h"
+#include "zqbchwcx/views/overview/PlaceStyle.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
 
 namespace zqbchwcx {
@@ -9,8 +10,9 @@ namespace zqbchwcx {
 /// The picture of the dragged modules, which follows the mouse during a drag.
 class DragPointer {
 public:
-    DragPointer(const ViewContext& context, const Canvas& canvas, ModulePictures& modulePictures)
-        : mContext(context), mCanvas(canvas), mModulePictures(modulePictures)
+    DragPointer(const ViewContext& context, const PlaceStyle& style, const Canvas& canvas,
+                ModulePictures& modulePictures)
+        : mContext(context), mStyle(style), mCanvas(canvas), mModulePictures(modulePictures)
     {
     }
 
@@ -18,7 +20,7 @@ public:
     void Use(PictureBoxPtr pic) { mpicDrag = std::move(pic); }
 
     /// Draws the dragged modules if the pointer is hidden, and moves it to the point of the picture.
-    void P_SetDragPointer(Point at) noexcept;
+    void MoveTo(Point at) noexcept;
     void Hide() noexcept;
 
 private:
@@ -26,6 +28,7 @@ private:
     void P_DrawModuleToDragPointer(const VxHWModule& oModule, std::int32_t lLeft) noexcept;
 
     const ViewContext& mContext;
+    const PlaceStyle& mStyle;
     const Canvas& mCanvas;
     ModulePictures& mModulePictures;
     PictureBoxPtr mpicDrag;

@@ -8,7 +8,6 @@ namespace zqbchwcx {
 namespace {
 
 constexpr std::int32_t RowHeight = 15;
-constexpr Point StartInPlace{7, -1};
 
 constexpr Rect Whole(std::int32_t lWidth, std::int32_t lHeight)
 {
@@ -28,10 +27,10 @@ void FocusArrow::Cover(std::int32_t lWidth, std::int32_t lHeight)
 {
     if (!moArrowControl) return;
     moArrowControl->Move(Whole(lWidth, lHeight));
-    P_SetArrow();
+    Update();
 }
 
-void FocusArrow::P_SetArrow() noexcept
+void FocusArrow::Update() noexcept
 {
     G_Trap(mContext.className, "P_SetArrow", [&] {
         auto& arrow = *G_Require(marwArrow, "The arrow");
@@ -41,8 +40,8 @@ void FocusArrow::P_SetArrow() noexcept
             return;
         }
         const Rect place = mLayout.PlaceRect(focus.lRack, focus.lNumber);
-        arrow.Show(mCanvas.Box().Left() + place.left + StartInPlace.x, mCanvas.Box().Top() + place.top + StartInPlace.y,
-                   RowHeight / 2 + (focus.lNumber - 1) * RowHeight + mlHeaderHeight);
+        const Point start = mCanvas.InControl({place.left + mStyle.arrowStart.x, place.top + mStyle.arrowStart.y});
+        arrow.Show(start.x, start.y, RowHeight / 2 + (focus.lNumber - 1) * RowHeight + mlHeaderHeight);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "zqbchwcx/views/overview/Canvas.h"
 #include "zqbchwcx/views/overview/HWCArrow.h"
 #include "zqbchwcx/views/overview/PlaceLayout.h"
+#include "zqbchwcx/views/overview/PlaceStyle.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
 
 #include <memory>
@@ -14,8 +15,8 @@ namespace zqbchwcx {
 /// place's row in the table beside the overview.
 class FocusArrow {
 public:
-    FocusArrow(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas)
-        : mContext(context), mLayout(layout), mCanvas(canvas)
+    FocusArrow(const ViewContext& context, const PlaceStyle& style, const PlaceLayout& layout, const Canvas& canvas)
+        : mContext(context), mStyle(style), mLayout(layout), mCanvas(canvas)
     {
     }
 
@@ -26,11 +27,12 @@ public:
     void HeaderHeight(std::int32_t lPixels) { mlHeaderHeight = lPixels; }
 
     /// Shows the arrow of the focused place, or none.
-    void P_SetArrow() noexcept;
+    void Update() noexcept;
     void Hide();
 
 private:
     const ViewContext& mContext;
+    const PlaceStyle& mStyle;
     const PlaceLayout& mLayout;
     const Canvas& mCanvas;
     ChildControlPtr moArrowControl;

@@ -2,17 +2,16 @@
 
 #include "zqbchwcx/foundation/Nothing.h"
 #include "zqbchwcx/foundation/model/VxHWModule.h"
-#include "zqbchwcx/views/overview/CentralPictures.h"
 
 namespace zqbchwcx {
 
-std::string_view G_GroupFrameKey(const VxHWModule& oModule, const VxHWModulePtr& oParentModule)
+std::string_view G_GroupFrameKey(const PlaceStyle& style, const VxHWModule& oModule, const VxHWModulePtr& oParentModule)
 {
     const std::int32_t lIndex = oModule.IndexInParent();
-    if (lIndex == 0) return CentralPictures::FrameMid;
+    if (lIndex == 0) return style.frameMid;
     const std::int32_t lPlaceCount = G_Require(oParentModule, "The parent module")->PlaceCount();
-    if (lIndex == 1) return lPlaceCount == 1 ? CentralPictures::FrameTotal : CentralPictures::FrameLeft;
-    return lIndex == lPlaceCount ? CentralPictures::FrameRight : CentralPictures::FrameMid;
+    if (lIndex == 1) return lPlaceCount == 1 ? style.frameTotal : style.frameLeft;
+    return lIndex == lPlaceCount ? style.frameRight : style.frameMid;
 }
 
 } // namespace zqbchwcx

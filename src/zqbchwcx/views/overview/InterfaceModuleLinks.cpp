@@ -35,7 +35,7 @@ void InterfaceModuleLinks::Hide()
     for (const auto& fraLink : mafraIMLink) Show(fraLink, false);
 }
 
-void InterfaceModuleLinks::P_CheckIMLinks() noexcept
+void InterfaceModuleLinks::Update() noexcept
 {
     G_Trap(mContext.className, "P_CheckIMLinks", [&] {
         bool bBelow = HasInterfaceModule(0);

@@ -19,7 +19,7 @@ public:
     void Create(Toolkit& toolkit, UserControl& oControl);
     void Hide();
     /// Shows the bars between those racks that both have an interface module.
-    void P_CheckIMLinks() noexcept;
+    void Update() noexcept;
 
 private:
     bool HasInterfaceModule(std::int32_t lRack) const;

@@ -7,8 +7,8 @@
 
 namespace zqbchwcx {
 
-KeyInput::KeyInput(const ViewContext& context, PlaceMenu& menu, CursorTarget cursorTarget)
-    : mContext(context), mMenu(menu), mCursorTarget(std::move(cursorTarget))
+KeyInput::KeyInput(const ViewContext& context, PlaceMenu& menu, RedrawGate& gate, CursorTarget cursorTarget)
+    : mContext(context), mMenu(menu), mGate(gate), mCursorTarget(std::move(cursorTarget))
 {
 }
 
@@ -37,6 +37,7 @@ void KeyInput::KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept
             break;
         }
     });
+    mGate.CatchUp();
 }
 
 void KeyInput::KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept
@@ -44,15 +45,17 @@ void KeyInput::KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept
     G_Trap(mContext.className, "UserControl_KeyUp", [&] {
         if (nKeyCode != vxKeyApps && nKeyCode != vxKeyF10) return;
         const bool bWithShift = std::exchange(mbMenuKeyDown, false) || (nShift & vxShiftMask) != 0;
-        if (nKeyCode == vxKeyApps || bWithShift) mMenu.P_OpenPopupMenu(true);
+        if (nKeyCode == vxKeyApps || bWithShift) mMenu.Open(true);
     });
+    mGate.CatchUp();
 }
 
 void KeyInput::P_CursorKeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept
 {
     G_Trap(mContext.className, "P_CursorKeyDown", [&] {
         const bool bFine = nShift == 0 && mContext.eStyle == vxStyleHWConfig && !mContext.bLocked;
-        const auto lTarget = mCursorTarget(*mContext.Station(), mContext.FocusPosition(), nKeyCode, nShift, bFine);
+        const auto oStation = mContext.Station();
+        const auto lTarget = mCursorTarget(*oStation, mContext.FocusPosition(), nKeyCode, nShift, bFine);
         if (lTarget) mContext.KeyCtrl()->CursorKeyDown(*lTarget, nShift);
     });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "zqbchwcx/views/overview/PlaceMenu.h"
+#include "zqbchwcx/views/shared/PlaceMenu.h"
+#include "zqbchwcx/views/shared/RedrawGate.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
 
 #include <cstdint>
@@ -16,7 +17,7 @@ public:
     using CursorTarget = std::function<std::optional<std::int32_t>(
         const VxHWStation& oStation, std::int32_t lFocus, std::int16_t nKeyCode, std::int16_t nShift, bool bFine)>;
 
-    KeyInput(const ViewContext& context, PlaceMenu& menu, CursorTarget cursorTarget);
+    KeyInput(const ViewContext& context, PlaceMenu& menu, RedrawGate& gate, CursorTarget cursorTarget);
 
     void KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept;
     void KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept;
@@ -26,6 +27,7 @@ private:
 
     const ViewContext& mContext;
     PlaceMenu& mMenu;
+    RedrawGate& mGate;
     CursorTarget mCursorTarget;
     /// Shift was held when F10 went down: whichever of the two is released first, the menu opens.
     bool mbMenuKeyDown = false;

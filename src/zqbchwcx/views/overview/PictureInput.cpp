@@ -23,9 +23,11 @@ bool HasLeftOrRight(std::int16_t nButton)
 } // namespace
 
 PictureInput::PictureInput(const ViewContext& context, const PlaceLayout& layout, Canvas& canvas, PlaceMenu& menu,
-                           DragPointer& dragPointer, std::string_view pictureName, Hooks hooks)
+                           DragPointer& dragPointer, RedrawGate& gate, std::string_view pictureName,
+                           std::function<void()> onKeyboardFocus)
     : mContext(context), mLayout(layout), mCanvas(canvas), mMenu(menu), mDragPointer(dragPointer),
-      mRubberBand(context, layout, canvas), msProcedurePrefix(std::string(pictureName) + "_"), mHooks(std::move(hooks))
+      mRubberBand(context, layout, canvas), msProcedurePrefix(std::string(pictureName) + "_"), mGate(gate),
+      mOnKeyboardFocus(std::move(onKeyboardFocus))
 {
 }
 
@@ -42,7 +44,7 @@ void PictureInput::MouseDown(std::int16_t nButton, std::int16_t nShift, float x,
         const std::int32_t lPosition = mLayout.PositionAt(at);
         mlLastMouseDownPosition = lPosition;
         mContext.MouseCtrl()->MouseDown(lPosition, nButton, nShift);
-        mHooks.controllerDone();
+        mGate.CatchUp();
         if (!HasLeftOrRight(nButton)) return;
         if (mContext.DragDropCtrl()->IsValidDragPosition(lPosition)) moDragStart = at;
         else if (lPosition == vxNoPosition && mContext.MouseCtrl()->CanSelectByRubberBand()) mRubberBand.Start(at);
@@ -71,12 +73,12 @@ void PictureInput::MouseUp(std::int16_t nButton, std::int16_t nShift, float x, f
         // The press is over, whatever its release leads to.
         if (HasLeftOrRight(nButton)) moDragStart.reset();
         mContext.MouseCtrl()->MouseUp(mLayout.PositionAt(at), nButton, nShift);
-        mHooks.controllerDone();
+        mGate.CatchUp();
         if (!HasLeftOrRight(nButton)) return;
         if (mRubberBand.IsActive()) mRubberBand.Finish(at);
         if (nButton != vxButtonRight) return;
-        mMenu.P_OpenPopupMenu(false);
-        mHooks.controllerDone();
+        mMenu.Open(false);
+        mGate.CatchUp();
     });
 }
 
@@ -84,18 +86,18 @@ void PictureInput::DblClick() noexcept
 {
     Trap("DblClick", [&] {
         mContext.MouseCtrl()->DblClick(mlLastMouseDownPosition);
-        mHooks.controllerDone();
+        mGate.CatchUp();
     });
 }
 
 void PictureInput::GotFocus() noexcept
 {
-    Trap("GotFocus", [&] { mHooks.keyboardFocusChanged(); });
+    Trap("GotFocus", [&] { mOnKeyboardFocus(); });
 }
 
 void PictureInput::LostFocus() noexcept
 {
-    Trap("LostFocus", [&] { mHooks.keyboardFocusChanged(); });
+    Trap("LostFocus", [&] { mOnKeyboardFocus(); });
 }
 
 void PictureInput::OLEStartDrag(const DataObjectPtr& oData, std::int32_t& lAllowedEffects) noexcept
@@ -115,7 +117,7 @@ void PictureInput::OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect
         const Point at = WholePixels(x, y);
         mContext.DragDropCtrl()->OLEDragOver(mLayout.PositionAt(at), oData, lEffect, nButton, nShift, nState);
         if (nState == vxDragLeave) mDragPointer.Hide();
-        else if (mContext.IsDragActive()) mDragPointer.P_SetDragPointer(at);
+        else if (mContext.IsDragActive()) mDragPointer.MoveTo(at);
     });
 }
 
@@ -125,7 +127,7 @@ void PictureInput::OLEDragDrop(const DataObjectPtr& oData, std::int32_t& lEffect
     Trap("OLEDragDrop", [&] {
         mContext.DragDropCtrl()->OLEDragDrop(mLayout.PositionAt(WholePixels(x, y)), oData, lEffect, nButton, nShift);
         mDragPointer.Hide();
-        mHooks.controllerDone();
+        mGate.CatchUp();
     });
 }
 
@@ -134,7 +136,7 @@ void PictureInput::OLECompleteDrag(std::int32_t& lEffect) noexcept
     Trap("OLECompleteDrag", [&] {
         mDragPointer.Hide();
         mContext.DragDropCtrl()->OLECompleteDrag(lEffect);
-        mHooks.controllerDone();
+        mGate.CatchUp();
     });
 }
 

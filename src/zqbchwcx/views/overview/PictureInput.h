@@ -4,8 +4,9 @@
 #include "zqbchwcx/views/overview/Canvas.h"
 #include "zqbchwcx/views/overview/DragPointer.h"
 #include "zqbchwcx/views/overview/PlaceLayout.h"
-#include "zqbchwcx/views/overview/PlaceMenu.h"
 #include "zqbchwcx/views/overview/RubberBand.h"
+#include "zqbchwcx/views/shared/PlaceMenu.h"
+#include "zqbchwcx/views/shared/RedrawGate.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
 
 #include <functional>
@@ -17,14 +18,9 @@ namespace zqbchwcx {
 /// Turns what happens on the picture into calls of the controllers, each with the place position under the mouse.
 class PictureInput : public PictureBoxEvents {
 public:
-    /// What the view does about input.
-    struct Hooks {
-        std::function<void()> keyboardFocusChanged;
-        std::function<void()> controllerDone; ///< a controller has finished a drag-and-drop or mouse operation
-    };
-
     PictureInput(const ViewContext& context, const PlaceLayout& layout, Canvas& canvas, PlaceMenu& menu,
-                 DragPointer& dragPointer, std::string_view pictureName, Hooks hooks);
+                 DragPointer& dragPointer, RedrawGate& gate, std::string_view pictureName,
+                 std::function<void()> onKeyboardFocus);
 
     void DragThreshold(Size threshold) { mDragThreshold = threshold; }
 
@@ -54,7 +50,8 @@ private:
     DragPointer& mDragPointer;
     RubberBand mRubberBand;
     std::string msProcedurePrefix;
-    Hooks mHooks;
+    RedrawGate& mGate;
+    std::function<void()> mOnKeyboardFocus;
     Size mDragThreshold{4, 4};
     std::optional<Point> moDragStart;
     std::int32_t mlLastMouseDownPosition = vxNoPosition;

@@ -5,29 +5,15 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
-#include "zqbchwcx/views/overview/CentralPictures.h"
-#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 #include "zqbchwcx/views/overview/GroupFrame.h"
 #include "zqbchwcx/views/shared/NumberText.h"
 
 namespace zqbchwcx {
-namespace {
 
-constexpr Point NumberOffset{3, 33};
-constexpr StatusSymbols::Offsets SymbolOffsets{{3, 3}, {3, 45}, {1, 43}};
-
-/// A place picture at the end of the rail closes it.
-std::string PlaceKey(std::string_view key, std::int32_t lPlace)
-{
-    return std::string(key).append(lPlace >= CentralPlaceLayout::PlaceCount ? "_END" : "");
-}
-
-} // namespace
-
-PlacePainter::PlacePainter(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas,
-                           ModulePictures& modulePictures, const SinglePictures& singlePictures)
-    : mContext(context), mLayout(layout), mCanvas(canvas), mModulePictures(modulePictures),
-      mStatusSymbols(context, modulePictures, singlePictures, SymbolOffsets, CentralPictures::ModuleDefault)
+PlacePainter::PlacePainter(const ViewContext& context, const PlaceStyle& style, const PlaceLayout& layout,
+                           const Canvas& canvas, ModulePictures& modulePictures, const SinglePictures& singlePictures)
+    : mContext(context), mStyle(style), mLayout(layout), mCanvas(canvas), mModulePictures(modulePictures),
+      mStatusSymbols(context, style, modulePictures, singlePictures)
 {
 }
 
@@ -41,8 +27,13 @@ void PlacePainter::Draw(const VxHWRackPlacePtr& oPlace, bool bSelected)
         DrawNumber(surface, look, oPlace->Number(), at);
         surface.DrawListImage(mModulePictures.List(), look.key, at, bSelected ? DrawStyle::Blended : DrawStyle::Normal);
     }
-    if (mContext.Station()->HasGroupFrame(oPlace)) P_DrawBorder(oPlace);
+    if (mContext.Station()->HasGroupFrame(oPlace)) DrawGroupFrame(oPlace);
     mStatusSymbols.Draw(surface, oPlace, at);
+}
+
+std::string PlacePainter::PlaceKey(std::string_view key, std::int32_t lPlace) const
+{
+    return std::string(key).append(mStyle.lEndPlace != 0 && lPlace >= mStyle.lEndPlace ? "_END" : "");
 }
 
 PlacePainter::Look PlacePainter::LookOf(const VxHWRackPlacePtr& oPlace)
@@ -51,31 +42,28 @@ PlacePainter::Look PlacePainter::LookOf(const VxHWRackPlacePtr& oPlace)
     const std::int32_t lPlace = oPlace->Number();
     const bool bDrag = mContext.IsDragActive();
     if (lUsability == vxPlaceNotUsable || lUsability == vxPlaceInactive) {
-        return {PlaceKey(bDrag ? CentralPictures::PlaceInactiveNoDrop : CentralPictures::PlaceInactive, lPlace),
-                lUsability == vxPlaceInactive, true};
+        return {PlaceKey(bDrag ? mStyle.inactiveNoDrop : mStyle.inactive, lPlace), lUsability == vxPlaceInactive, true};
     }
     if (lUsability != vxPlaceActive) return {};
 
     const auto oModule = oPlace->Module();
-    if (!oModule->IsEmpty()) return {mModulePictures.KeyOf(*oModule, CentralPictures::ModuleDefault)};
-    if (!bDrag) return {PlaceKey(CentralPictures::PlaceActive, lPlace)};
-    return {PlaceKey(mContext.DragDropCtrl()->IsDropPlace(oPlace) ? CentralPictures::PlaceDrop
-                                                                  : CentralPictures::PlaceNoDrop,
-                     lPlace)};
+    if (!oModule->IsEmpty()) return {mModulePictures.KeyOf(*oModule, mStyle.moduleDefault)};
+    if (!bDrag) return {PlaceKey(mStyle.active, lPlace)};
+    return {PlaceKey(mContext.DragDropCtrl()->IsDropPlace(oPlace) ? mStyle.drop : mStyle.noDrop, lPlace)};
 }
 
 void PlacePainter::DrawNumber(Surface& surface, const Look& look, std::int32_t lNumber, Point placeAt) const
 {
-    const Point at{placeAt.x + NumberOffset.x, placeAt.y + NumberOffset.y};
+    const Point at{placeAt.x + mStyle.number.x, placeAt.y + mStyle.number.y};
     if (look.bNumber) {
-        P_DrawNumber(mContext.className, surface, lNumber, at, look.bGrayed ? NumberMode::Grayed : NumberMode::Plain);
+        G_DrawNumber(mContext.className, surface, lNumber, at, look.bGrayed ? NumberMode::Grayed : NumberMode::Plain);
     } else {
         // The whole box, however high the digits of the font are: the place may have shown a number before.
         surface.FillBox(MakeRect(at.x, at.y, G_NumberBox.width, G_NumberBox.height), mContext.backColor);
     }
 }
 
-void PlacePainter::P_DrawBorder(const VxHWRackPlacePtr& oPlace) noexcept
+void PlacePainter::DrawGroupFrame(const VxHWRackPlacePtr& oPlace) noexcept
 {
     G_Trap(mContext.className, "P_DrawBorder", [&] {
         const auto oModule = oPlace->Module();
@@ -83,7 +71,8 @@ void PlacePainter::P_DrawBorder(const VxHWRackPlacePtr& oPlace) noexcept
                                  ? oModule->ParentModule()
                                  : oPlace->Rack()->Places()->Item(oPlace->Number() - 1)->Module()->ParentModule();
         const bool bSelected = mContext.SelHandler()->IsParentModuleSelected(oParent);
-        mCanvas.Box().DrawListImage(mModulePictures.List(), G_GroupFrameKey(*oModule, oParent), PlaceAt(*oPlace),
+        mCanvas.Box().DrawListImage(mModulePictures.List(), G_GroupFrameKey(mStyle, *oModule, oParent),
+                                    PlaceAt(*oPlace),
                                     bSelected ? DrawStyle::TransparentBlended : DrawStyle::Transparent);
     });
 }

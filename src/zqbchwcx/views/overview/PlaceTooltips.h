@@ -25,7 +25,7 @@ public:
     }
 
     /// Answers for the window until `Disconnect`.
-    void P_SetTooltips(std::intptr_t hWnd) noexcept;
+    void Connect(std::intptr_t hWnd) noexcept;
     void Disconnect() noexcept { moConnection.reset(); }
 
     Tooltip GetTooltip(Point at) noexcept override;

@@ -2,13 +2,17 @@
 
 #include "zqbchwcx/foundation/Nothing.h"
 #include "zqbchwcx/foundation/model/VxHWRack.h"
-#include "zqbchwcx/views/overview/CentralPictures.h"
 #include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 #include "zqbchwcx/views/shared/NumberText.h"
+
+#include <array>
 
 namespace zqbchwcx {
 namespace {
 
+constexpr std::string_view RailKey = "IDB_CRX_RACK";
+constexpr std::array<std::string_view, 1> RailKeys{RailKey};
+constexpr std::int32_t RailWidth = 218;
 constexpr std::int32_t RailLeft = 11;
 constexpr std::int32_t RailTop = 29;
 constexpr Point TileOffset{12, 30};
@@ -23,7 +27,7 @@ constexpr std::int32_t LowerStripTop = 90;
 
 void RackPainter::Load(TextModule& textModule)
 {
-    moImages = LoadStrip(textModule, CentralPictures::Rail());
+    moImages = LoadStrip(textModule, {RailKey, RailWidth, RailKeys});
 }
 
 void RackPainter::DrawEmptyRails()
@@ -34,7 +38,7 @@ void RackPainter::DrawEmptyRails()
 
 void RackPainter::DrawRail(std::int32_t lRack)
 {
-    mCanvas.Box().DrawListImage(*G_Require(moImages, "The rail picture"), CentralPictures::RailKey,
+    mCanvas.Box().DrawListImage(*G_Require(moImages, "The rail picture"), RailKey,
                                 {RailLeft, CentralPlaceLayout::BandTop(lRack) + RailTop}, DrawStyle::Transparent);
 }
 
@@ -44,9 +48,9 @@ void RackPainter::DrawNumber(const VxHWRack& oRack)
     if (lState != vxRackPresent && lState != vxRackNotPresent) return;
     const bool bPresent = lState == vxRackPresent;
     const Point at{TileOffset.x, CentralPlaceLayout::BandTop(oRack.Number()) + TileOffset.y};
-    mSinglePictures.P_DrawPicture(mCanvas.Box(), bPresent ? "IDB_CRX_RACKNR_ACTIVE" : "IDB_CRX_RACKNR_INACTIVE", at,
-                                  DrawStyle::Normal);
-    P_DrawNumber(mContext.className, mCanvas.Box(), oRack.Number(), at,
+    mSinglePictures.Draw(mCanvas.Box(), bPresent ? "IDB_CRX_RACKNR_ACTIVE" : "IDB_CRX_RACKNR_INACTIVE", at,
+                         DrawStyle::Normal);
+    G_DrawNumber(mContext.className, mCanvas.Box(), oRack.Number(), at,
                  bPresent ? NumberMode::Bold : NumberMode::Grayed);
 }
 

@@ -3,6 +3,7 @@
 #include "zqbchwcx/foundation/model/Fwd.h"
 #include "zqbchwcx/platform/Surface.h"
 #include "zqbchwcx/views/overview/ModulePictures.h"
+#include "zqbchwcx/views/overview/PlaceStyle.h"
 #include "zqbchwcx/views/shared/SinglePictures.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
 
@@ -13,15 +14,11 @@ namespace zqbchwcx {
 /// Draws what the comparison or the diagnostics say about a place over its picture.
 class StatusSymbols {
 public:
-    /// Where the symbols lie, from the top-left corner of the place.
-    struct Offsets {
-        Point cpuState;
-        Point failure;
-        Point compare;
-    };
-
-    StatusSymbols(const ViewContext& context, const ModulePictures& modulePictures,
-                  const SinglePictures& singlePictures, const Offsets& offsets, std::string_view defaultModuleKey);
+    StatusSymbols(const ViewContext& context, const PlaceStyle& style, const ModulePictures& modulePictures,
+                  const SinglePictures& singlePictures)
+        : mContext(context), mStyle(style), mModulePictures(modulePictures), mSinglePictures(singlePictures)
+    {
+    }
 
     /// The symbols that the view's style asks for; none in configuration.
     void Draw(Surface& surface, const VxHWRackPlacePtr& oPlace, Point placeAt) const noexcept;
@@ -32,10 +29,9 @@ private:
     void DrawSymbol(Surface& surface, std::string_view name, Point placeAt, Point offset) const noexcept;
 
     const ViewContext& mContext;
+    const PlaceStyle& mStyle;
     const ModulePictures& mModulePictures;
     const SinglePictures& mSinglePictures;
-    Offsets mOffsets;
-    std::string_view msDefaultModuleKey;
 };
 
 } // namespace zqbchwcx

@@ -28,7 +28,7 @@ std::int32_t ReadPixels(std::string_view name)
 
 } // namespace
 
-Size P_ReadDragDelayFromRegistry(std::string_view className) noexcept
+Size G_DragThreshold(std::string_view className) noexcept
 {
     Size threshold{4, 4};
     G_Trap(className, "P_ReadDragDelayFromRegistry", [&] { threshold.width = ReadPixels("DragWidth"); });

@@ -6,7 +6,7 @@
 
 namespace zqbchwcx {
 
-void P_DrawNumber(std::string_view className, Surface& surface, std::int32_t lNumber, Point at,
+void G_DrawNumber(std::string_view className, Surface& surface, std::int32_t lNumber, Point at,
                   NumberMode eMode) noexcept
 {
     G_Trap(className, "P_DrawNumber", [&] {

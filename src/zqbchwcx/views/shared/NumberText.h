@@ -13,7 +13,7 @@ enum class NumberMode { Plain = 0, Grayed = 1, Bold = 2 };
 inline constexpr Size G_NumberBox{13, 13};
 
 /// Draws a rack or place number into the number box at the point. An error is reported under the class.
-void P_DrawNumber(std::string_view className, Surface& surface, std::int32_t lNumber, Point at,
+void G_DrawNumber(std::string_view className, Surface& surface, std::int32_t lNumber, Point at,
                   NumberMode eMode) noexcept;
 
 } // namespace zqbchwcx

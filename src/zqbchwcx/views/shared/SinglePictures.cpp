@@ -5,7 +5,7 @@
 
 namespace zqbchwcx {
 
-void SinglePictures::P_DrawPicture(Surface& surface, std::string_view name, Point at, DrawStyle eStyle) const noexcept
+void SinglePictures::Draw(Surface& surface, std::string_view name, Point at, DrawStyle eStyle) const noexcept
 {
     G_Trap(msClassName, "P_DrawPicture", [&] {
         const auto oImage = mTexts->Picture(name);

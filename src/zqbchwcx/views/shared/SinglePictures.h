@@ -14,7 +14,7 @@ public:
     SinglePictures(std::string_view className, const TextModuleUse& texts) : msClassName(className), mTexts(texts) {}
 
     /// An error is reported under the class.
-    void P_DrawPicture(Surface& surface, std::string_view name, Point at, DrawStyle eStyle) const noexcept;
+    void Draw(Surface& surface, std::string_view name, Point at, DrawStyle eStyle) const noexcept;
 
 private:
     std::string_view msClassName;

@@ -14,7 +14,7 @@ namespace zqbchwcx {
 class VxHWSelectionHandler;
 using VxHWSelectionHandlerPtr = std::shared_ptr<VxHWSelectionHandler>;
 
-/// What a manager has set on a view, shared by the view with its parts. Any object may be nothing.
+/// What a manager has set on a view (`ControlBinding`), read by the view's parts. Any object may be nothing.
 struct ViewContext {
     explicit ViewContext(std::string_view sClassName) : className(sClassName) {}
     ViewContext(const ViewContext&) = delete;
@@ -22,6 +22,7 @@ struct ViewContext {
 
     /// The view's class: its parts report their errors under this name.
     const std::string_view className;
+    VxEnumStationType eStationType = vxStationTypeCentral;
     VxEnumStyle eStyle = vxStyleHWCompare;
     bool bLocked = false;
     OleColor backColor = vxColorWindowBackground;
