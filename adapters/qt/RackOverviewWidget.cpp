@@ -1,14 +1,13 @@
 #include "zqbchwcx/qt/RackOverviewWidget.h"
 
 #include "zqbchwcx/qt/ControlWidget.h"
-#include "zqbchwcx/qt/QtUserControl.h"
+#include "zqbchwcx/qt/HostedView.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QEvent>
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <utility>
 
 namespace zqbchwcx::qt {
 namespace {
@@ -20,26 +19,11 @@ constexpr QSize ComfortableSize(242 + 28, 392);
 constexpr double SmallestScale = 0.5;
 constexpr double LargestScale = 8;
 
-/// The view with the site that it lives in, which must not end before it.
-struct HostedView {
-    explicit HostedView(ControlWidget& window) : site(window), view(site) {}
-
-    QtUserControl site;
-    VxHWRackOverview view;
-};
-
-std::shared_ptr<VxHWRackOverview> MakeView(ControlWidget& window)
-{
-    auto hosted = std::make_shared<HostedView>(window);
-    auto* view = &hosted->view;
-    return {std::move(hosted), view};
-}
-
 } // namespace
 
 struct RackOverviewWidget::Members {
     explicit Members(RackOverviewWidget& self)
-        : window(new ControlWidget(&self, ControlWidget::Backdrop::Own)), view(MakeView(*window))
+        : window(new ControlWidget(&self, ControlWidget::Backdrop::Own)), view(MakeView<VxHWRackOverview>(*window))
     {
     }
 

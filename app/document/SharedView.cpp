@@ -37,7 +37,7 @@ reference::ViewState CaptureView(const VxHWSelectionHandler& handler)
     state.focus = handler.FocusPosition();
     state.anchor = handler.ShiftSelPosition();
     G_Trap("SharedView", "CaptureView", [&] {
-        for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
+        for (const VxHWRackPlacePtr& place : handler.SelPlaces()) {
             state.selection.push_back(G_PlacePosition(place->Rack()->Number(), place->Number()));
         }
     });

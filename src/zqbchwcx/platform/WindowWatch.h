@@ -18,7 +18,7 @@ enum : std::int32_t {
     vxMessageMiddleDown = 519,
 };
 
-/// Watches another window of the same program; ends with the object.
+/// Watches another window of the same program; ends with the object, also in the middle of a report.
 class WindowSpy {
 public:
     virtual ~WindowSpy() = default;
@@ -27,7 +27,8 @@ using WindowSpyPtr = std::unique_ptr<WindowSpy>;
 /// `hOther`: for a lost focus, the window that gets it; 0 for one of another program.
 using WindowSpyHandler = std::function<void(std::int32_t lMessage, std::intptr_t hOther)>;
 
-/// Sees the mouse of the whole system, whichever program it acts on; ends with the object.
+/// Sees the mouse of the whole system, whichever program it acts on; ends with the object, also in the middle of a
+/// report.
 class MouseHook {
 public:
     virtual ~MouseHook() = default;

@@ -382,7 +382,8 @@ void ExchangeObjectCarriesModules(const ContractHost& host)
     EXPECT_EQ(received->FormatId(), written->FormatId());
     received->LoadData(written->Data());
     EXPECT_EQ(received->Data(), written->Data());
-    ExpectSameModules(*block, *host.station->ModulesFromConfigText(block->ConfigText(), received), host.textAttribute);
+    const VxHWModulesPtr read = host.station->ModulesFromConfigText(block->ConfigText(), received);
+    ExpectSameModules(*block, *read, host.textAttribute);
 }
 
 void ClipboardCarriesModules(const ContractHost& host)
@@ -394,7 +395,8 @@ void ClipboardCarriesModules(const ContractHost& host)
     exchange->StartEmpty();
     host.station->WriteModulesToExchange(block, exchange);
     exchange->PutOnClipboard();
-    ExpectSameModules(*block, *host.station->ClipboardModules(), host.textAttribute);
+    const VxHWModulesPtr read = host.station->ClipboardModules();
+    ExpectSameModules(*block, *read, host.textAttribute);
 }
 
 /// One rule of the contract and the test of it.
