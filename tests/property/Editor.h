@@ -10,12 +10,13 @@
 #include "zqbchwcx/reference/model/rules/CheckStation.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/config/VxHWRackTable.h"
 
 #include <optional>
 
 namespace zqbchwcx::testing {
 
-/// A whole editor without a screen: the reference station with its history, and two overviews of it that
+/// A whole editor without a screen: the reference station with its history, and the overview and the table of it that
 /// `VxHWConfigManager` has connected. The test is the user.
 class Editor {
 public:
@@ -39,19 +40,22 @@ public:
         history = std::make_shared<reference::History>(station);
         host->actions = history;
 
-        for (auto& [made, site] : {std::tie(moOtherView, moOtherSite), std::tie(view, moSite)}) {
-            toolkit->shapes.clear();
-            site = std::make_unique<RecordingControl>(log);
-            made = std::make_shared<VxHWRackOverview>(*site);
-            for (const auto* name : {"pic_Main", "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
-        }
+        moSite = std::make_unique<RecordingControl>(log);
+        view = std::make_shared<VxHWRackOverview>(*moSite);
         mcolShapes = toolkit->shapes;
+        for (const auto* name : {"pic_Main", "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
         moPicture = toolkit->pictureBoxes.at("pic_Main");
         moMenu = toolkit->menus.at("pmnu_Main");
+        moTableSite = std::make_unique<RecordingControl>(log);
+        table = std::make_shared<VxHWRackTable>(*moTableSite);
+        moGrid = toolkit->grids.at("vxgrd_Main");
+        moTabs = toolkit->tabStrips.at("vxtab_Main");
+        moForm = toolkit->popupForms.at("frm_SubModules");
+        moTableMenu = toolkit->menus.at("pmnu_Main");
         moManager = std::make_unique<VxHWConfigManager>();
-        moManager->Initialize(vxStationTypeCentral, view, moOtherView, station);
+        moManager->Initialize(vxStationTypeCentral, view, table, station);
         view->Refresh();
-        moOtherView->Refresh();
+        table->Refresh();
         moPicture->Focus(true);
     }
 
@@ -60,7 +64,7 @@ public:
         moManager->Terminate();
         moManager.reset();
         view.reset();
-        moOtherView.reset();
+        table.reset();
     }
     Editor(const Editor&) = delete;
     Editor& operator=(const Editor&) = delete;
@@ -69,6 +73,10 @@ public:
     PictureBoxEvents& Mouse() const { return moPicture->User(); }
     UserControlEvents& Keys() const { return moSite->User(); }
     RecordingPopupMenu& Menu() const { return *moMenu; }
+    RecordingGrid& Grid() const { return *moGrid; }
+    RecordingTabStrip& Tabs() const { return *moTabs; }
+    RecordingPopupForm& Form() const { return *moForm; }
+    RecordingPopupMenu& TableMenu() const { return *moTableMenu; }
     VxHWConfigManager& Manager() const { return *moManager; }
     /// The data object of a drag that begins in this editor.
     std::shared_ptr<FakeDataObject> NewDrag() const { return std::make_shared<DragData>(log, Mouse()); }
@@ -102,12 +110,25 @@ public:
         const std::string look = LookOf(mcolShapes);
         return look == LookOf(toolkit->shapes) ? difference : difference + " shapes:\n" + look;
     }
+    /// Where the table differs from one that is made just now; empty when it does not.
+    std::string DifferenceFromAFreshTable() const
+    {
+        RecordingControl site(log);
+        VxHWRackTable fresh(site);
+        CopyBinding(*table, fresh);
+        fresh.Refresh();
+        const std::string expected = LookOf(*toolkit->grids.at("vxgrd_Main"), *toolkit->tabStrips.at("vxtab_Main"));
+        const std::string actual = LookOf(*moGrid, *moTabs);
+        return actual == expected ? std::string() : "the table shows\n" + actual + "a fresh one\n" + expected;
+    }
     /// Forgets what the doubles have recorded.
     void ForgetLines()
     {
         log->lines.clear();
         for (auto* picture : mcolPictures) picture->lines.clear();
         moMenu->shown.clear();
+        moTableMenu->shown.clear();
+        moForm->lines.clear();
         toolkit->imageLists.created.clear();
         toolkit->imageLists.files->asked.clear();
     }
@@ -121,6 +142,7 @@ public:
     std::shared_ptr<FaultyStation> station;
     std::shared_ptr<reference::History> history;
     std::shared_ptr<VxHWRackOverview> view;
+    std::shared_ptr<VxHWRackTable> table;
     /// Operations that the model refused, with its reason.
     std::int32_t refusals = 0;
 
@@ -139,25 +161,46 @@ private:
     std::shared_ptr<VxHWRackOverview> MakeView(RecordingControl& site) const
     {
         auto made = std::make_shared<VxHWRackOverview>(site);
-        made->Style(view->Style());
-        made->Locked(view->Locked());
-        made->VxHWStation(view->VxHWStation());
-        made->VxHWSelectionHandler(view->VxHWSelectionHandler());
-        made->VxHWMouseInputController(view->VxHWMouseInputController());
-        made->VxHWKeyInputController(view->VxHWKeyInputController());
-        made->VxHWDragDropController(view->VxHWDragDropController());
+        CopyBinding(*view, *made);
         return made;
+    }
+    static void CopyBinding(const IVxHWControl& from, IVxHWControl& to)
+    {
+        to.Style(from.Style());
+        to.Locked(from.Locked());
+        to.VxHWStation(from.VxHWStation());
+        to.VxHWSelectionHandler(from.VxHWSelectionHandler());
+        to.VxHWMouseInputController(from.VxHWMouseInputController());
+        to.VxHWKeyInputController(from.VxHWKeyInputController());
+        to.VxHWDragDropController(from.VxHWDragDropController());
+    }
+    static std::string LookOf(const RecordingGrid& grid, const RecordingTabStrip& tabs)
+    {
+        std::string look = "tab " + std::to_string(tabs.SelectedTab());
+        for (const auto& tab : tabs.tabs) look += tab.enabled ? " on" : " off";
+        for (std::int32_t lRow = 0; lRow <= grid.RowCount(); ++lRow) {
+            look += "\n" + grid.RowText(lRow);
+            for (std::int32_t lColumn = 1; lRow > 0 && lColumn <= grid.ColumnCount(); ++lColumn) {
+                const CellFormat format = grid.Look({lRow, lColumn});
+                look += " " + std::to_string(format.backColor.value_or(0)) + "/" +
+                        std::to_string(static_cast<int>(format.kind.value_or(CellKind::Text)));
+            }
+        }
+        return look + "\n";
     }
 
     std::unique_ptr<RecordingControl> moSite;
-    std::unique_ptr<RecordingControl> moOtherSite;
-    std::shared_ptr<VxHWRackOverview> moOtherView;
+    std::unique_ptr<RecordingControl> moTableSite;
     std::unique_ptr<VxHWConfigManager> moManager;
     EventConnection mRefused;
-    std::vector<RecordingPictureBox*> mcolPictures; ///< of both views
+    std::vector<RecordingPictureBox*> mcolPictures;
     RecordingToolkit::ShapesByName mcolShapes;
     RecordingPictureBox* moPicture = nullptr;
     RecordingPopupMenu* moMenu = nullptr;
+    RecordingGrid* moGrid = nullptr;
+    RecordingTabStrip* moTabs = nullptr;
+    RecordingPopupForm* moForm = nullptr;
+    RecordingPopupMenu* moTableMenu = nullptr;
 };
 
 } // namespace zqbchwcx::testing

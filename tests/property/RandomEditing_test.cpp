@@ -46,7 +46,7 @@ std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, std::in
             return user.Events();
         }
         if (step % stepsBetweenPictures == 0) {
-            const std::string difference = editor.DifferenceFromAFreshPicture();
+            const std::string difference = editor.DifferenceFromAFreshPicture() + editor.DifferenceFromAFreshTable();
             EXPECT_EQ(difference, "") << "after step " << step << ", " << action;
             if (!difference.empty()) return user.Events();
         }
@@ -55,7 +55,8 @@ std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, std::in
     EXPECT_GT(changes, events / 50) << "a user who changes next to nothing";
     const std::string last = ToTheEnd(editor, &reference::History::Redo);
     EXPECT_EQ(ToTheEnd(editor, &reference::History::Undo), first);
-    EXPECT_EQ(editor.DifferenceFromAFreshPicture(), "") << "after undoing everything";
+    EXPECT_EQ(editor.DifferenceFromAFreshPicture() + editor.DifferenceFromAFreshTable(), "")
+        << "after undoing everything";
     EXPECT_EQ(ToTheEnd(editor, &reference::History::Redo), last);
     EXPECT_EQ(editor.WhatIsWrong(), "");
     return user.Events();

@@ -35,6 +35,12 @@ public:
             Action{14, "drag", &RandomUser::DragFromHere},
             Action{6, "drag from outside", &RandomUser::DragFromOutside},
             Action{25, "key", &RandomUser::Key},
+            Action{12, "row", &RandomUser::ClickRow},
+            Action{8, "key in the table", &RandomUser::KeyInTable},
+            Action{10, "typing", &RandomUser::TypeInCell},
+            Action{6, "drag of a row", &RandomUser::DragRow},
+            Action{5, "tab", &RandomUser::Tab},
+            Action{4, "sub-modules", &RandomUser::SubModules},
             Action{12, "menu", &RandomUser::Menu},
             Action{5, "catalogue", &RandomUser::TakeFromCatalogue},
             Action{3, "attribute", &RandomUser::TypeAttribute},
@@ -104,6 +110,92 @@ private:
         Mouse().MouseMove(vxButtonLeft, 0, x + 9, y + 2);
         Mouse().MouseUp(vxButtonLeft, 0, x + 9, y + 2);
         moEditor.Picture().onDrag = nullptr;
+    }
+
+    void ClickRow()
+    {
+        const GridCell cell = AnyCell();
+        if (OneIn(8)) Grid().DoubleClick(cell);
+        else Grid().Click(cell, AnyButton(), AnyShift());
+        if (OneIn(2)) Grid().LetDoubleClickPass();
+        if (OneIn(2)) Grid().EndEditing(OneIn(2));
+    }
+
+    void KeyInTable()
+    {
+        const auto nKey = OneOf<std::int16_t>({vxKeyLeft, vxKeyUp, vxKeyRight, vxKeyDown, vxKeyUp, vxKeyDown,
+                                               vxKeySpace, vxKeyReturn, vxKeyEscape, vxKeyF2, vxKeyA, vxKeyHome});
+        Grid().Key(nKey, OneIn(6) ? std::int16_t{vxAltMask} : AnyShift());
+        Grid().EndEditing(true);
+    }
+
+    void TypeInCell()
+    {
+        Grid().Click(AnyCell());
+        Grid().Key(vxKeyF2);
+        for (std::int32_t cells = Any(1, 3); cells > 0; --cells) {
+            Grid().Type(std::to_string(Any(0, 1100)));
+            if (OneIn(6)) Grid().Key(vxKeyZ, vxCtrlMask), moEditor.history->Undo();
+            if (OneIn(8)) TypeAttribute();
+            Grid().Key(OneOf<std::int16_t>({vxKeyReturn, vxKeyTab, vxKeyEscape, vxKeyLeft}));
+        }
+        Grid().Focus(OneIn(2));
+        Grid().EndEditing(true);
+    }
+
+    void DragRow()
+    {
+        const GridCell source = AnyCell();
+        Grid().onDrag = [&] {
+            const auto data = std::make_shared<FakeDataObject>(moEditor.log);
+            std::int32_t lEffect = vxDropEffectNone;
+            Grid().User().OLEStartDrag(data, lEffect);
+            if (lEffect == vxDropEffectNone) return;
+            for (const auto& format : std::map(data->formats)) Grid().User().OLESetData(data, format.first);
+            const std::int16_t nShift = AnyShift();
+            std::int16_t nState = vxDragEnter;
+            GridMouse mouse;
+            for (std::int32_t moves = Any(1, 6); moves > 0; --moves) {
+                if (OneIn(6)) moEditor.Tabs().DragHover(Any(0, 3));
+                mouse = {vxButtonLeft, nShift, Grid().Middle(AnyCell())};
+                lEffect = vxDropEffectCopyOrMove;
+                Grid().User().OLEDragOver(data, lEffect, mouse, nState);
+                nState = vxDragOver;
+            }
+            lEffect = vxDropEffectCopyOrMove;
+            if (OneIn(4)) Grid().User().OLEDragOver(data, lEffect, mouse, vxDragLeave), lEffect = vxDropEffectNone;
+            else Grid().User().OLEDragDrop(data, lEffect, mouse);
+            Grid().User().OLECompleteDrag(lEffect);
+            moEditor.toolkit->clock.Advance(20);
+        };
+        Grid().Press(source);
+        Grid().MoveMouse(Grid().Middle(source), vxButtonLeft);
+        const Point at = Grid().Middle(source);
+        Grid().MoveMouse({at.x + 9, at.y}, vxButtonLeft);
+        Grid().Release(source);
+        Grid().onDrag = nullptr;
+        // A drag that rested on a tab leaves that rack shown until the focus moves.
+        moEditor.table->Refresh();
+    }
+
+    void Tab()
+    {
+        const std::int32_t lTab = Any(0, 3);
+        if (OneIn(2)) moEditor.Tabs().Hover(lTab);
+        else moEditor.Tabs().Click(lTab);
+        ++mlEvents;
+    }
+
+    void SubModules()
+    {
+        for (std::int32_t lRow = 1; lRow <= Grid().RowCount(); ++lRow) {
+            const GridCell cell = Grid().Cell(lRow, "I-Address");
+            if (Grid().Look(cell).kind != CellKind::PushButton) continue;
+            Grid().Click(cell);
+            if (OneIn(2)) moEditor.Form().DoubleClick({Any(-1, 60), Any(-1, 60)});
+            else Grid().Key(OneOf<std::int16_t>({vxKeyDown, vxKeyEscape, vxKeyReturn}));
+            return;
+        }
     }
 
     void DragFromOutside()
@@ -204,6 +296,9 @@ private:
 
     void ChangeKeyboardFocus() { moEditor.Picture().Focus(!moEditor.Picture().HasFocus()); }
 
+    RecordingGrid& Grid() { return ++mlEvents, moEditor.Grid(); }
+    /// In the table, one of the rows without a place included.
+    GridCell AnyCell() { return {Any(1, moEditor.Grid().RowCount()), Any(1, moEditor.Grid().ColumnCount())}; }
     PictureBoxEvents& Mouse() { return ++mlEvents, moEditor.Mouse(); }
     UserControlEvents& Keys() { return ++mlEvents, moEditor.Keys(); }
     VxHWConfigManager& Commands() { return ++mlEvents, moEditor.Manager(); }

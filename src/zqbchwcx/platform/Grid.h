@@ -128,6 +128,8 @@ public:
     virtual void HeaderHeight(std::int32_t lHeight) = 0;
 
     virtual std::string CellText(GridCell cell) const = 0;
+    /// The editor of a cell that is edited takes a text over, too, if it is not the one that it last had from the cell
+    /// or wrote into it.
     virtual void CellText(GridCell cell, std::string_view text) = 0;
     /// The picture in the middle of the cell; null for none.
     virtual void CellPicture(GridCell cell, const ImagePtr& picture) = 0;

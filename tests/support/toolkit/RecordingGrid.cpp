@@ -103,6 +103,7 @@ void RecordingGrid::CellText(GridCell cell, std::string_view text)
     Call("Grid.CellText");
     if (cell.lRow == 0) Column(cell.lColumn).caption = text;
     else Content(cell).text = text;
+    if (mEdited == cell && text != msCommitted) msEditor = msCommitted = text;
 }
 
 void RecordingGrid::CellPicture(GridCell cell, const ImagePtr& picture)
@@ -150,7 +151,8 @@ bool RecordingGrid::StartEditing(GridCell cell, std::optional<std::string_view> 
     EndEditing(true);
     if (mpEvents == nullptr || !mpEvents->OnStartEditing(cell)) return false;
     mEdited = cell;
-    msEditor = text ? std::string(*text) : CellText(cell);
+    msCommitted = CellText(cell);
+    msEditor = text ? std::string(*text) : msCommitted;
     caret = static_cast<std::int32_t>(msEditor.size());
     editorTextSelected = !text;
     return true;
@@ -166,7 +168,9 @@ void RecordingGrid::EndEditing(bool bTakeOver)
 
 void RecordingGrid::CommitEditor()
 {
-    if (mEdited) CellText(*mEdited, msEditor);
+    if (!mEdited) return;
+    msCommitted = msEditor;
+    CellText(*mEdited, msEditor);
 }
 
 void RecordingGrid::MoveCaret(std::int32_t lCharacters)

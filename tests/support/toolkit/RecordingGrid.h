@@ -153,6 +153,7 @@ private:
     bool mbEditorPending = false; ///< the current cell was pressed once more
     std::optional<GridCell> mEdited;
     std::string msEditor;
+    std::string msCommitted; ///< what the cell and its editor last had in common
     bool mbRedraw = true;
     bool mbFocus = false;
 };

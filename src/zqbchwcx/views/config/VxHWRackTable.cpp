@@ -125,13 +125,20 @@ void VxHWRackTable::Refresh() noexcept
         const bool bAutoRefresh = AutoRefresh();
         AutoRefresh(false);
         G_Trap(ClassName, "Refresh", [&] {
+            const PositionInfo focus = G_PositionInfo(mContext.FocusPosition());
+            if (focus.eType != vxPositionNone) mContent.ActiveRack(focus.lRack);
             SetTabs();
-            if (mContext.oSelHandler) mContent.TakeSelection();
-            mContent.FillAll();
-            mContent.ShowFocus({});
+            ShowContent();
         });
         AutoRefresh(bAutoRefresh);
     });
+}
+
+void VxHWRackTable::ShowContent()
+{
+    if (mContext.oSelHandler) mContent.TakeSelection();
+    mContent.FillAll();
+    mContent.ShowFocus({});
 }
 
 void VxHWRackTable::SetTabs()
@@ -263,8 +270,7 @@ void VxHWRackTable::ShowRack(std::int32_t lRack)
     mContent.ActiveRack(lRack);
     mvxtabMain->SelectedTab(lRack);
     // In diagnostics, too: these are other places, not changes of those that were shown.
-    if (mContext.Station()->IsDrawable()) Refresh();
-    else mGate.EverythingChanged();
+    if (mGate.MayDrawNow()) ShowContent();
 }
 
 void VxHWRackTable::TabClick(std::int32_t lTab) noexcept

@@ -92,6 +92,7 @@ private:
     void CarrySelection(std::int32_t lRack);
     void ShowRack(std::int32_t lRack);
     void SetTabs();
+    void ShowContent();
     void sysinf_Main_SysColorsChanged() noexcept;
     Point MenuPoint() const;
 
