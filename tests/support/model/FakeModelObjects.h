@@ -136,7 +136,9 @@ using FakeRackPlacePtr = std::shared_ptr<FakeRackPlace>;
 
 inline std::string KeyOfPlace(const VxHWRackPlacePtr& oPlace)
 {
-    return dynamic_cast<const FakeRackPlace&>(*oPlace).key;
+    // A fake's key without a call that could fail.
+    const auto* fake = dynamic_cast<const FakeRackPlace*>(oPlace.get());
+    return fake != nullptr ? fake->key : oPlace->Key();
 }
 
 class FakeRackPlaces : public FakeCollection<VxHWRackPlaces, FakeRackPlace> {

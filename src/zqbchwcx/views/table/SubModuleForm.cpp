@@ -62,6 +62,8 @@ void frm_SubModules::ShowCombo(const Rect& cell, const Grid& grid, const VxHWRac
         moiMouseCtrl = oiMouseCtrl;
         moMouseDown.reset();
         mlMarkedLine = 0;
+        mhGrid = grid.hWnd();
+        mbClosedByPress = false;
         P_SetPosition(cell, grid);
         mbVisible = true;
         P_DrawContent();
@@ -195,7 +197,9 @@ void frm_SubModules::moSpy_WndProc(std::int32_t lMessage, std::intptr_t hOther) 
 void frm_SubModules::moMouseHook_MouseAction(std::int32_t lMessage, std::intptr_t hWnd) noexcept
 {
     G_Trap(ClassName, "moMouseHook_MouseAction", [&] {
-        if (hWnd != moForm->hWnd() && IsButtonPress(lMessage)) Form_Unload();
+        if (hWnd == moForm->hWnd() || !IsButtonPress(lMessage)) return;
+        mbClosedByPress = hWnd == mhGrid;
+        Form_Unload();
     });
 }
 

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace zqbchwcx {
 
@@ -29,6 +30,8 @@ public:
     void ShowCombo(const Rect& cell, const Grid& grid, const VxHWRackPlacePtr& oPlace, std::int16_t nStyle,
                    const IVxHWMouseInputControllerPtr& oiMouseCtrl) noexcept;
     void Unload() noexcept { Form_Unload(); }
+    /// Whether a press on the grid is what closed the form, or is about to; asked once for each press.
+    bool TakeClosedByPress() noexcept { return std::exchange(mbClosedByPress, false) || mbVisible; }
 
     // The keyboard, while the form is open by it.
     /// Marks the first line.
@@ -73,6 +76,8 @@ private:
     std::int32_t mlLineHeight = 1;
     std::optional<Point> moMouseDown;
     std::int32_t mlMarkedLine = 0;
+    std::intptr_t mhGrid = 0;
+    bool mbClosedByPress = false;
     WindowSpyPtr moSpy;
     MouseHookPtr moMouseHook;
 };

@@ -157,8 +157,7 @@ void TableInput::OnMouseDown(const GridMouse& mouse) noexcept
         moDragStart.reset();
         mlMouseDownPosition = vxNoPosition;
         const GridCell cell = mContent.Grid().CellAt(mouse.at);
-        mlClosedByPress = mlFormRow != 0 && mlFormRow == cell.lRow ? mlFormRow : 0;
-        mlFormRow = 0;
+        mlClosedByPress = mSubModules.TakeClosedByPress() ? mlFormRow : 0;
         if (cell.lRow < 1) return;
         mContent.Grid().CurrentCell(cell, mEditing.P_IsCellEditable(cell));
         mlMouseDownPosition = mContent.PositionOfRow(cell.lRow);
@@ -210,6 +209,7 @@ void TableInput::OnClickedButton(GridCell cell) noexcept
 {
     Trap("OnClickedButton", [&] {
         mEditing.Forget();
+        // The press on the button of an open form has closed it already, or the release does.
         const bool bClosedByPress = std::exchange(mlClosedByPress, 0) == cell.lRow;
         if (mSubModules.IsVisible()) CloseSubModules();
         else if (!bClosedByPress) OpenSubModules(cell);
@@ -224,7 +224,7 @@ void TableInput::OpenSubModules(GridCell cell)
     const Rect rect = grid.CellRect(cell);
     mSubModules.ShowCombo({at.x + rect.left, at.y + rect.top, at.x + rect.right, at.y + rect.bottom}, grid, oPlace,
                           static_cast<std::int16_t>(mContext.eStyle), mContext.MouseCtrl());
-    mlFormRow = mSubModules.IsVisible() ? cell.lRow : 0;
+    mlFormRow = cell.lRow;
 }
 
 void TableInput::OpenSubModulesOfFocus()

@@ -1,0 +1,480 @@
+#include "tests/property/Editor.h"
+#include "tests/support/model/FakeModelServices.h"
+#include "zqbchwcx/foundation/mdl_Main.h"
+
+#include <gmock/gmock.h>
+
+// The rack table on the reference model, wired by its manager with the overview beside it.
+
+namespace zqbchwcx::testing {
+namespace {
+
+using ::testing::ElementsAre;
+
+constexpr OleColor GroupBackground = G_Rgb(246, 244, 186);
+
+class RackTable : public ::testing::Test {
+protected:
+    ~RackTable() override { EXPECT_EQ(editor.WhatIsWrong(), ""); }
+
+    void Focus(std::int32_t lPosition) { Handler().FocusPosition(lPosition); }
+    void Select(std::int32_t lFrom, std::int32_t lTo)
+    {
+        Handler().SelPlaces()->Clear();
+        Handler().SelectRange(lFrom, lTo);
+        Handler().SelChangeComplete();
+        Handler().FocusPosition(lTo);
+    }
+    VxHWSelectionHandler& Handler() { return *editor.table->VxHWSelectionHandler(); }
+    std::string Selection()
+    {
+        std::string places;
+        for (const auto& oPlace : Handler().SelPlaces())
+            places += std::to_string(G_PlacePosition(oPlace->Rack()->Number(), oPlace->Number())) + " ";
+        return places;
+    }
+    /// Types into the cell and ends the edit with the key.
+    void Edit(GridCell cell, std::string_view text, std::int16_t nKey = vxKeyReturn)
+    {
+        grid.Click(cell);
+        grid.Key(vxKeyF2);
+        grid.Type(text);
+        grid.Key(nKey);
+        grid.EndEditing(false);
+    }
+
+    Editor editor{reference::ExampleStation("bottling-filler")};
+    RecordingGrid& grid = editor.Grid();
+    RecordingTabStrip& tabs = editor.Tabs();
+};
+
+TEST_F(RackTable, ShowsARowForEveryPlace)
+{
+    EXPECT_THAT(grid.AllRows(),
+                ElementsAre("1|PS 24V/10A|Q3-PS10-A||| *", "2|CPU 340M|Q3-CP40-M|||", "3|IM 365 pair|Q3-IM65-P|||",
+                            "4|Bottle sensors|Q3-DI32-A|0..3||", "5|Carousel|Q3-PO03-W|T1016||Three axes, coupled",
+                            "6|Carousel||||Three axes, coupled", "7|Carousel||||Three axes, coupled",
+                            "8|Recipe server|Q3-CE01-W|116..131|112..127|", "9|Recipe server||||",
+                            "10|Filling valves|Q3-DO64-W||128..135|64 valves, one per head",
+                            "11|Filling valves||||64 valves, one per head"));
+    EXPECT_EQ(grid.RowText(0), "T1001|T1002|T1003|T1004|T1005|T1006");
+    EXPECT_EQ(grid.Look(grid.Cell(1, "RackPlace")).alignment, CellAlignment::Centre);
+    EXPECT_EQ(grid.Look(grid.Cell(1, "Comment")).kind, CellKind::Comment);
+    EXPECT_EQ(grid.Look(grid.Cell(5, "I-Address")).kind, CellKind::PushButton);
+    // A module over several places stands out by colour: its name everywhere, its order number on the first.
+    const auto background = [&](std::int32_t lRow, const char* key) {
+        return grid.Look(grid.Cell(lRow, key)).backColor;
+    };
+    EXPECT_EQ(background(6, "Module"), GroupBackground);
+    EXPECT_EQ(background(5, "ORDN"), GroupBackground);
+    EXPECT_EQ(background(6, "ORDN"), vxColorWindowBackground);
+    EXPECT_EQ(background(4, "Module"), vxColorWindowBackground);
+    EXPECT_EQ(tabs.tabs[1].caption, "1 T1000");
+    EXPECT_EQ(tabs.tabs[1].tooltip, "1 T6117");
+    EXPECT_TRUE(tabs.Enabled(1));
+    EXPECT_FALSE(tabs.Enabled(3));
+
+    editor.table->Locked(true);
+    EXPECT_EQ(background(1, "Module"), G_ColorDisabledBackground());
+    Edit(grid.Cell(4, "Comment"), "not while locked");
+    EXPECT_EQ(grid.Text(4, "Comment"), "");
+}
+
+TEST_F(RackTable, ShowsWhatThePlacesUsabilitySays)
+{
+    struct Case {
+        std::int32_t usability;
+        const char* number;
+        OleColor background;
+    };
+    for (const Case& expected : {Case{-1, "", G_Rgb(192, 192, 192)}, Case{0, "8", G_Rgb(192, 192, 192)},
+                                 Case{1, "8", vxColorWindowBackground}}) {
+        auto data = reference::ExampleStation("waterworks");
+        auto rack = std::make_shared<reference::RackData>(*data.racks[0]);
+        rack->places[7] = {expected.usability, nullptr};
+        data.racks[0] = rack;
+        Editor other(data);
+        EXPECT_EQ(other.Grid().Text(8, "RackPlace"), expected.number);
+        EXPECT_EQ(other.Grid().Look({8, 2}).backColor, expected.background);
+    }
+}
+
+TEST_F(RackTable, KeepsTheColumnsAsTheUserLeftThem)
+{
+    const std::string parameter = "zqbvhwcx/HWConfig/GridLayoutCRX";
+    const auto widths = [&] {
+        std::vector<std::int32_t> all;
+        for (std::int32_t lColumn = 1; lColumn <= grid.ColumnCount(); ++lColumn)
+            all.push_back(grid.ColumnWidth(lColumn));
+        return all;
+    };
+    EXPECT_THAT(widths(), ElementsAre(32, 78, 93, 59, 59, 100));
+    const auto setAnew = [&] {
+        editor.table->VxHWStation(nullptr);
+        editor.table->VxHWStation(editor.station);
+        editor.table->Refresh();
+    };
+    grid.UserWidth("Module", 140);
+    grid.UserOrder({1, 3, 2, 4, 5, 6});
+    setAnew();
+    EXPECT_EQ(editor.host->options[parameter], "32|140|93|59|59|100|");
+    EXPECT_THAT(widths(), ElementsAre(32, 140, 93, 59, 59, 100));
+    EXPECT_THAT(grid.ColumnOrder(), ElementsAre(1, 3, 2, 4, 5, 6));
+    EXPECT_EQ(grid.Text(4, "Module"), "Bottle sensors");
+    grid.User().OnResetColumns();
+    EXPECT_THAT(widths(), ElementsAre(32, 78, 93, 59, 59, 100));
+
+    editor.table->VxHWStation(nullptr);
+    EXPECT_EQ(grid.ColumnCount(), 0);
+    for (const auto& [stored, first] : {std::pair{"40|", 40}, {"x|", 32}, {"0|", 32}, {"", 32}}) {
+        editor.host->options = {{parameter, stored}};
+        editor.table->VxHWStation(editor.station);
+        EXPECT_EQ(grid.ColumnWidth(1), first) << stored;
+        EXPECT_EQ(grid.ColumnWidth(2), 78) << stored;
+        editor.host->options.clear();
+        editor.table->Style(vxStyleHWCompare); // which keeps no columns
+        editor.table->VxHWStation(nullptr);
+        EXPECT_TRUE(editor.host->options.empty());
+        editor.table->Style(vxStyleHWConfig);
+    }
+}
+
+TEST_F(RackTable, WritesAnEditedCell)
+{
+    struct Case {
+        const char* key;
+        std::int32_t row;
+        const char* typed;
+        std::int16_t endedBy;
+        const char* shown;
+        bool changes;
+    };
+    std::vector<RefusedEdit> refused;
+    const auto connection =
+        editor.table->EditRefused.Connect([&](const RefusedEdit& edit) { refused.push_back(edit); });
+    const std::string before = editor.Text();
+    for (const Case& edit : {
+             Case{"Comment", 4, "Light barriers", vxKeyReturn, "Light barriers", true},
+             Case{"Comment", 4, "Light barriers", vxKeyEscape, "", false},
+             Case{"Comment", 4, "", vxKeyTab, "", false},
+             Case{"I-Address", 4, "200", vxKeyTab, "200..203", true},
+             Case{"I-Address", 4, "116", vxKeyReturn, "0..3", false}, // in use
+             Case{"I-Address", 4, "abc", vxKeyReturn, "0..3", false},
+             Case{"I-Address", 5, "20", vxKeyReturn, "T1016", false}, // sub-modules have addresses of their own
+             Case{"I-Address", 10, "20", vxKeyReturn, "", false},     // no inputs
+             Case{"O-Address", 10, "20", vxKeyReturn, "128..135", false},
+             Case{"Module", 4, "Name", vxKeyReturn, "Bottle sensors", false},
+         }) {
+        SCOPED_TRACE(std::string(edit.key) + " " + std::to_string(edit.row) + " " + edit.typed);
+        refused.clear();
+        grid.Click(grid.Cell(edit.row, edit.key));
+        if (grid.StartEditing(grid.Cell(edit.row, edit.key), std::nullopt)) {
+            EXPECT_EQ(Selection(), "");
+            EXPECT_EQ(Handler().FocusPosition(), 2 * edit.row);
+            grid.Type(edit.typed);
+            grid.Key(edit.endedBy);
+            grid.EndEditing(false);
+        }
+        EXPECT_EQ(grid.Text(edit.row, edit.key), edit.shown);
+        EXPECT_EQ(editor.Text() != before, edit.changes);
+        // One edit is one step to undo.
+        EXPECT_EQ(editor.history->Undo(), edit.changes);
+        EXPECT_EQ(editor.Text(), before);
+        const bool bRefused = edit.row == 4 && !edit.changes && std::string_view(edit.key) == "I-Address";
+        ASSERT_EQ(refused.size(), bRefused ? 1 : 0);
+        if (bRefused) {
+            EXPECT_EQ(refused[0].attribute, "I-ADDRESS");
+            EXPECT_EQ(refused[0].value, edit.typed);
+            EXPECT_EQ(refused[0].cell, grid.CellRect(grid.Cell(4, "I-Address")));
+        }
+    }
+}
+
+TEST_F(RackTable, GivesTheEditorItsKeys)
+{
+    const GridCell comment = grid.Cell(4, "Comment");
+    grid.Click(comment);
+    EXPECT_FALSE(grid.EditedCell()); // a press only selects
+    grid.Click(comment);
+    grid.LetDoubleClickPass();
+    EXPECT_EQ(grid.EditedCell(), comment);
+    grid.Type("abc");
+    for (const std::int16_t nKey : {vxKeyUp, vxKeyDown, vxKeyLeft}) EXPECT_TRUE(grid.Key(nKey));
+    EXPECT_EQ(grid.caret, 2);
+    EXPECT_FALSE(grid.Key(vxKeyRight));
+    EXPECT_TRUE(grid.Key(vxKeyA, vxCtrlMask));
+    EXPECT_TRUE(grid.editorTextSelected);
+    EXPECT_EQ(Handler().FocusPosition(), 8);
+
+    // Undo acts on a model that holds what was typed, and the editor follows.
+    EXPECT_FALSE(grid.Key(vxKeyZ, vxCtrlMask));
+    EXPECT_TRUE(editor.history->Undo());
+    EXPECT_EQ(grid.EditorText(), "");
+    EXPECT_TRUE(grid.Key(vxKeyReturn));
+    EXPECT_EQ(grid.Text(4, "Comment"), "");
+
+    // On from cell to cell: over cells that have no editor, and back.
+    EXPECT_EQ(grid.EditedCell(), grid.Cell(5, "Comment"));
+    grid.Key(vxKeyTab, vxShiftMask);
+    EXPECT_EQ(grid.EditedCell(), comment);
+    grid.Key(vxKeyEscape);
+    EXPECT_FALSE(grid.EditedCell());
+    EXPECT_TRUE(grid.Type("7")); // typing replaces what the cell held
+    EXPECT_EQ(grid.EditorText(), "7");
+    // While a cell is edited, no drag begins and no tab changes the rack by itself.
+    grid.MoveMouse({5, 70}, vxButtonLeft);
+    grid.MoveMouse({50, 70}, vxButtonLeft);
+    EXPECT_EQ(grid.drags, 0);
+    tabs.Hover(1);
+    EXPECT_EQ(editor.table->ActiveRack(), 0);
+    grid.EndEditing(false);
+}
+
+TEST_F(RackTable, MovesTheFocusByKeys)
+{
+    struct Case {
+        std::int32_t from;
+        std::int16_t key;
+        std::int16_t shift;
+        std::int32_t to;
+    };
+    for (const Case& move : {
+             Case{8, vxKeyUp, 0, 6},
+             Case{2, vxKeyUp, 0, 2},
+             Case{9, vxKeyUp, 0, 8},
+             Case{8, vxKeyDown, 0, 10},
+             Case{22, vxKeyDown, 0, 22},
+             Case{9, vxKeyDown, 0, 10},
+             Case{1, vxKeyUp, 0, 1},
+             Case{8, vxKeyRight, 0, 1008},
+             Case{1008, vxKeyRight, 0, 1008},
+             Case{1008, vxKeyLeft, 0, 8},
+             Case{8, vxKeyLeft, 0, 8},
+             Case{8, vxKeyRight, vxShiftMask, 22},
+             Case{8, vxKeyLeft, vxCtrlMask, 2},
+             Case{2, vxKeyLeft, vxShiftMask, 2},
+             Case{8, vxKeyUp, vxAltMask, 8},
+             Case{8, vxKeyDown, vxShiftMask, 10},
+         }) {
+        Focus(move.from);
+        EXPECT_TRUE(grid.Key(move.key, move.shift));
+        EXPECT_EQ(Handler().FocusPosition(), move.to) << move.from << " key " << move.key << " with " << move.shift;
+        EXPECT_EQ(editor.table->ActiveRack(), move.to / 1000);
+    }
+    Select(4, 8);
+    Focus(10);
+    EXPECT_TRUE(grid.Key(vxKeySpace));
+    EXPECT_EQ(Selection(), "4 6 8 10 ");
+    for (const std::int16_t nKey : {vxKeyEscape, vxKeyReturn, vxKeyHome, vxKeyEnd}) EXPECT_TRUE(grid.Key(nKey));
+    EXPECT_TRUE(grid.Key(vxKeyA, vxCtrlMask));
+    EXPECT_FALSE(grid.Key(vxKeyDelete)); // the host's commands
+    EXPECT_EQ(Selection(), "4 6 8 10 ");
+}
+
+TEST_F(RackTable, ShowsSelectionAndFocusedGap)
+{
+    const auto selectedRows = [&] {
+        std::string rows;
+        for (std::int32_t lRow = 1; lRow <= 11; ++lRow)
+            if (grid.RowSelected(lRow)) rows += std::to_string(lRow) + " ";
+        return rows;
+    };
+    Select(4, 8);
+    EXPECT_EQ(selectedRows(), "2 3 4 ");
+    EXPECT_EQ(grid.CurrentCell().lRow, 4);
+    Handler().SelPlaces()->Clear();
+    Handler().SelChangeComplete();
+    for (const auto& [lFocus, rows] : {std::pair{9, "4 "}, {1, "1 "}, {23, "11 "}, {8, ""}, {5, "2 "}}) {
+        Focus(lFocus);
+        EXPECT_EQ(selectedRows(), rows) << lFocus;
+    }
+    // What changes while the station's drawing is off is shown as soon as it is on.
+    editor.station->IsDrawable(false);
+    Select(6, 6);
+    EXPECT_EQ(selectedRows(), "2 ");
+    editor.station->IsDrawable(true);
+    EXPECT_EQ(selectedRows(), "3 ");
+}
+
+TEST_F(RackTable, ChangesTheRackByItsTabs)
+{
+    Select(4, 8);
+    tabs.Hover(1);
+    EXPECT_EQ(editor.table->ActiveRack(), 1);
+    EXPECT_EQ(tabs.SelectedTab(), 1);
+    EXPECT_EQ(Selection(), "1004 1006 1008 ");
+    EXPECT_EQ(Handler().FocusPosition(), 1008);
+    EXPECT_EQ(grid.RowText(7), "7|Check weigher|Q3-WE01-A|148..163|152..167|");
+    const std::size_t calls = editor.log->lines.size();
+    tabs.Click(1);
+    EXPECT_EQ(editor.log->lines.size(), calls);
+    tabs.Hover(3); // not present
+    EXPECT_EQ(editor.table->ActiveRack(), 1);
+
+    // A drag that rests on a tab shows its rack and touches neither selection nor focus.
+    tabs.DragHover(0);
+    EXPECT_EQ(editor.table->ActiveRack(), 0);
+    EXPECT_EQ(Selection(), "1004 1006 1008 ");
+    Focus(1010);
+    EXPECT_EQ(tabs.SelectedTab(), 1);
+    editor.table->ActiveRack(0);
+    EXPECT_EQ(Selection(), "4 6 8 ");
+    editor.table->ActiveRack(7);
+    EXPECT_EQ(editor.host->TakeReports(), std::vector<std::string>{"zqbchwcx.VxHWRackTable.P_ChangeRack"});
+    EXPECT_EQ(editor.table->ActiveRack(), 0);
+}
+
+TEST_F(RackTable, DragsFromTheUsersThreshold)
+{
+    for (const auto& [moved, drags] :
+         {std::pair{Point{3, 3}, 0}, {Point{4, 0}, 1}, {Point{0, -4}, 1}, {Point{-9, 9}, 1}}) {
+        grid.drags = 0;
+        const Point at = grid.Middle({4, 2});
+        grid.Press({4, 2});
+        grid.MoveMouse(at, vxButtonLeft);
+        grid.MoveMouse({at.x + moved.x, at.y + moved.y}, vxButtonLeft);
+        EXPECT_EQ(grid.drags, drags) << moved.x << "," << moved.y;
+        grid.Release({4, 2});
+    }
+    // Nothing is dragged from a header, or by a button that was pressed elsewhere.
+    grid.drags = 0;
+    grid.User().OnMouseDown({vxButtonLeft, 0, {50, 5}});
+    grid.MoveMouse({50, 5}, vxButtonLeft);
+    grid.MoveMouse({90, 5}, vxButtonLeft);
+    EXPECT_EQ(grid.drags, 0);
+}
+
+TEST_F(RackTable, OpensTheMenuOfTheOverview)
+{
+    editor.TableMenu().choose = "pmnu_Delete";
+    grid.Click({4, 2}, vxButtonRight);
+    EXPECT_EQ(grid.RowText(4), "4||||| *");
+    editor.history->Undo();
+    EXPECT_EQ(grid.Text(4, "Module"), "Bottle sensors");
+    for (const auto& [nKey, nShift] : {std::pair<std::int16_t, std::int16_t>{vxKeyApps, 0}, {vxKeyF10, vxShiftMask}}) {
+        Select(8, 8);
+        grid.Key(nKey, nShift);
+        EXPECT_EQ(grid.Text(4, "Module"), "") << nKey;
+        editor.history->Undo();
+    }
+    grid.Key(vxKeyF10);
+    EXPECT_EQ(grid.Text(4, "Module"), "Bottle sensors");
+}
+
+class SubModules : public RackTable {
+protected:
+    const GridCell button = grid.Cell(5, "I-Address");
+    RecordingPopupForm& form = editor.Form();
+    const std::string before = editor.Text();
+};
+
+TEST_F(SubModules, OpenUnderTheirColumns)
+{
+    grid.Click(button);
+    ASSERT_TRUE(form.Visible());
+    const Rect cell = grid.CellRect(button);
+    const Point at = grid.ScreenPosition();
+    EXPECT_EQ(form.rect.top, at.y + cell.bottom);
+    EXPECT_EQ(form.rect.left, at.x + grid.CellRect(grid.Cell(5, "Module")).left);
+    EXPECT_EQ(form.rect.right, at.x + grid.CellRect(grid.Cell(5, "O-Address")).right);
+    EXPECT_EQ(form.rect.height(), 3 * form.TextHeight() + 2);
+    const auto texts = std::count_if(form.lines.begin(), form.lines.end(),
+                                     [](const auto& line) { return line.starts_with("LeftText"); });
+    EXPECT_EQ(texts, 9) << "name and two addresses of three axes";
+    grid.Click(button);
+    EXPECT_FALSE(form.Visible());
+    // The hook sees the press before the grid does: the click still does not open the form again.
+    grid.Click(button);
+    editor.toolkit->watch.Mouse(vxMessageLeftDown, grid.hWnd());
+    grid.Click(button);
+    EXPECT_FALSE(form.Visible());
+    form.workArea.bottom = at.y + cell.bottom + 20;
+    grid.Click(button);
+    EXPECT_EQ(form.rect.bottom, at.y + cell.top);
+}
+
+TEST_F(SubModules, CloseByEveryRule)
+{
+    struct Case {
+        const char* what;
+        std::function<void()> happens;
+        bool closes;
+    };
+    auto& watch = editor.toolkit->watch;
+    for (const Case& rule : std::vector<Case>{
+             {"focus lost", [&] { watch.Message(grid.hWnd(), vxMessageKillFocus, 77); }, true},
+             {"focus to the form", [&] { watch.Message(grid.hWnd(), vxMessageKillFocus, form.hWnd()); }, false},
+             {"press elsewhere", [&] { watch.Mouse(vxMessageLeftDown, 77); }, true},
+             {"right press in a title bar", [&] { watch.Mouse(vxMessageNonClientRightDown, 0); }, true},
+             {"press in the form", [&] { watch.Mouse(vxMessageLeftDown, form.hWnd()); }, false},
+             {"mouse move", [&] { watch.Mouse(vxMessageMouseMove, 77); }, false},
+             {"cursor key", [&] { grid.Key(vxKeyUp); }, true},
+             {"space", [&] { grid.Key(vxKeySpace); }, true},
+             {"escape", [&] { grid.Key(vxKeyEscape); }, true},
+             {"the windowing system", [&] { form.Close(); }, true},
+             {"other rack", [&] { editor.table->ActiveRack(1); }, true},
+             {"no station", [&] { editor.table->VxHWStation(nullptr); }, true},
+         }) {
+        SCOPED_TRACE(rule.what);
+        editor.table->VxHWStation(editor.station);
+        Focus(10);
+        editor.table->Refresh();
+        grid.Click(button);
+        ASSERT_TRUE(form.Visible());
+        rule.happens();
+        EXPECT_EQ(form.Visible(), !rule.closes);
+        EXPECT_EQ(watch.IsWatching(), !rule.closes);
+        grid.Key(vxKeyEscape);
+    }
+}
+
+TEST_F(SubModules, OpenTheirParameters)
+{
+    std::int32_t dialogs = 0;
+    editor.parameters = [&](const reference::ModuleData&) { return ++dialogs, std::nullopt; };
+    grid.Click(button);
+    form.DoubleClick({10, 3 * form.TextHeight() + 1}); // on the frame
+    EXPECT_TRUE(form.Visible());
+    form.DoubleClick({10, 2 * form.TextHeight() + 1});
+    EXPECT_FALSE(form.Visible());
+    EXPECT_EQ(dialogs, 1);
+    Focus(10);
+    grid.Key(vxKeyDown, vxAltMask);
+    for (const std::int16_t nKey : {vxKeyDown, vxKeyDown, vxKeyDown, vxKeyUp}) EXPECT_TRUE(grid.Key(nKey));
+    EXPECT_EQ(Handler().FocusPosition(), 10);
+    EXPECT_TRUE(grid.Key(vxKeyReturn));
+    EXPECT_EQ(dialogs, 2);
+}
+
+TEST_F(RackTable, TellsTheDiagnosticState)
+{
+    const auto diag = std::make_shared<FakeDiagService>(editor.log);
+    auto& table = *editor.table;
+    table.VxHWStation(nullptr);
+    table.Style(vxStyleHWDiag);
+    table.VxHWDiagService(diag);
+    table.VxHWStation(editor.station);
+    table.Refresh();
+    EXPECT_EQ(grid.RowText(0), "T1001|T1007|T1002|T1003|T1017");
+    const auto oPlace = editor.station->PlaceAt({0, 4});
+    diag->failures[oPlace->Key()] = 1;
+    diag->cpuStates[oPlace->Key()] = 11;
+    editor.host->pictures["IDB_DIAG_FAILURE"] = std::make_shared<FakeImage>("failure");
+    const GridCell status = grid.Cell(4, "Status");
+    editor.station->RackPlaceChange.Raise(oPlace); // waits for the next refresh
+    EXPECT_EQ(grid.Picture(status), nullptr);
+    editor.station->TotalRefresh.Raise();
+    EXPECT_NE(grid.Picture(status), nullptr);
+    for (const char* key : {"RackPlace", "Module", "Basic Address"})
+        EXPECT_EQ(grid.Look(grid.Cell(4, key)).backColor, G_Rgb(255, 201, 201)) << key;
+    EXPECT_EQ(grid.Tooltip(status), "T6102");
+    EXPECT_EQ(grid.Tooltip(grid.Cell(8, "Status")), "T6105");
+    EXPECT_EQ(grid.Tooltip(grid.Cell(4, "Module")), "");
+    EXPECT_EQ(grid.Look(grid.Cell(5, "Basic Address")).kind, CellKind::PushButton);
+    tabs.Click(1);
+    EXPECT_EQ(grid.Text(7, "Module"), "Check weigher");
+    EXPECT_FALSE(grid.StartEditing(grid.Cell(7, "Basic Address"), std::nullopt));
+}
+
+} // namespace
+} // namespace zqbchwcx::testing
