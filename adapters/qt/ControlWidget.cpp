@@ -1,9 +1,11 @@
 #include "zqbchwcx/qt/ControlWidget.h"
 
+#include "zqbchwcx/qt/GridWidget.h"
 #include "zqbchwcx/qt/InputTranslation.h"
 #include "zqbchwcx/qt/PictureBoxWidget.h"
 #include "zqbchwcx/qt/ShapeWidget.h"
 #include "zqbchwcx/qt/SystemColors.h"
+#include "zqbchwcx/qt/TabStripWidget.h"
 #include "zqbchwcx/qt/UiFont.h"
 
 #include <QKeyEvent>
@@ -38,6 +40,18 @@ bool IsOwnKey(const QKeyEvent& event)
     }
 }
 
+/// Draws a window that draws itself on whatever it is shown.
+void PaintOwnPixels(QPainter& painter, const PixelGrid& grid, QWidget& widget, QPoint corner)
+{
+    const QRect device = grid.Device(MakeRect(corner.x(), corner.y(), widget.width(), widget.height()));
+    QImage image(device.size(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(grid.Ratio());
+    image.fill(Qt::transparent);
+    widget.render(&image);
+    image.setDevicePixelRatio(1);
+    painter.drawImage(device.topLeft(), image);
+}
+
 /// Draws the visible child windows, lowest first, with the origin at the control's corner. `offset` is the control's
 /// own corner in the picture, in logical pixels.
 void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& control, QPoint offset)
@@ -52,7 +66,9 @@ void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& contr
         } else if (const auto* shape = qobject_cast<const ShapeWidget*>(widget)) {
             shape->Paint(painter, grid.Device(MakeRect(corner.x(), corner.y(), shape->width(), shape->height())),
                          grid.Ratio());
-        } else {
+        } else if (qobject_cast<GridWidget*>(widget) != nullptr || qobject_cast<TabStripWidget*>(widget) != nullptr) {
+            PaintOwnPixels(painter, grid, *widget, corner);
+        } else if (!widget->isWindow()) {
             PaintWindows(painter, grid, *widget, corner);
         }
     }
@@ -78,6 +94,8 @@ void ControlWidget::TextFont(const QFont& font)
 {
     mFont = font;
     for (auto* box : findChildren<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly)) box->Picture().Font(font);
+    for (auto* grid : findChildren<GridWidget*>(QString(), Qt::FindDirectChildrenOnly)) grid->TextFont(font);
+    for (auto* tabs : findChildren<TabStripWidget*>(QString(), Qt::FindDirectChildrenOnly)) tabs->setFont(font);
 }
 
 void ControlWidget::ResizeNow(QSize size)

@@ -10,4 +10,10 @@ namespace zqbchwcx::qt {
 /// device pixel. A window may start between two device pixels; it is moved to the nearer one, never smeared.
 void UseDevicePixels(QPainter& painter, double ratio);
 
+/// The ratio of the device that the painter of a window's paint event draws on, which is not always the window's own.
+double DeviceRatio(const QPainter& painter);
+
+/// How many device pixels a thin line has.
+int ThinLine(double ratio);
+
 } // namespace zqbchwcx::qt

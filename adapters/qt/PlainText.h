@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <string_view>
+
 namespace zqbchwcx::qt {
 
 /// A text that somebody else wrote as one line of what a reader can see: controls and line breaks are blanks, marks
@@ -11,5 +13,10 @@ QString PlainText(const QString& text, qsizetype most);
 
 /// The same, of each of its lines, in lines that no screen cuts off. No toolkit takes it for HTML.
 QString ToolTipText(const QString& text);
+
+inline QString ToQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 } // namespace zqbchwcx::qt

@@ -79,44 +79,4 @@ std::intptr_t QtPictureBox::hWnd() const
     return HandleOf(mWidget.data());
 }
 
-void QtPictureBox::FillBox(const Rect& rect, OleColor color)
-{
-    if (mWidget) mWidget->Picture().FillBox(rect, color);
-}
-
-void QtPictureBox::DrawLine(Point from, Point to, OleColor color)
-{
-    if (mWidget) mWidget->Picture().DrawLine(from, to, color);
-}
-
-void QtPictureBox::FillTriangle(const Rect& square, Corner corner, OleColor color)
-{
-    if (mWidget) mWidget->Picture().FillTriangle(square, corner, color);
-}
-
-void QtPictureBox::DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color)
-{
-    if (mWidget) mWidget->Picture().DrawCenteredText(text, box, weight, color);
-}
-
-void QtPictureBox::DrawLeftText(std::string_view text, const Rect& box, OleColor color)
-{
-    if (mWidget) mWidget->Picture().DrawLeftText(text, box, color);
-}
-
-void QtPictureBox::DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style)
-{
-    if (mWidget) mWidget->Picture().DrawListImage(list, key, at, style);
-}
-
-void QtPictureBox::DrawImage(const Image& image, Point at, DrawStyle style)
-{
-    if (mWidget) mWidget->Picture().DrawImage(image, at, style);
-}
-
-void QtPictureBox::DrawFocusRect(const Rect& rect)
-{
-    if (mWidget) mWidget->Picture().DrawFocusRect(rect);
-}
-
 } // namespace zqbchwcx::qt

@@ -2,16 +2,15 @@
 
 #include "zqbchwcx/platform/PictureBox.h"
 #include "zqbchwcx/qt/PictureBoxWidget.h"
-
-#include <QPointer>
+#include "zqbchwcx/qt/QtSurface.h"
 
 namespace zqbchwcx::qt {
 
 /// A picture box, as the views see it. Its window lives as long as it does, or shorter when the parent window ends
 /// first; every operation is then without effect.
-class QtPictureBox : public PictureBox {
+class QtPictureBox : public QtSurface<PictureBox, PictureBoxWidget> {
 public:
-    explicit QtPictureBox(PictureBoxWidget& widget) : mWidget(&widget) {}
+    using QtSurface::QtSurface;
     ~QtPictureBox() override;
     QtPictureBox(const QtPictureBox&) = delete;
     QtPictureBox& operator=(const QtPictureBox&) = delete;
@@ -29,18 +28,6 @@ public:
     void SetFocus() override;
     void OLEDrag() override;
     std::intptr_t hWnd() const override;
-
-    void FillBox(const Rect& rect, OleColor color) override;
-    void DrawLine(Point from, Point to, OleColor color) override;
-    void FillTriangle(const Rect& square, Corner corner, OleColor color) override;
-    void DrawCenteredText(std::string_view text, const Rect& box, FontWeight weight, OleColor color) override;
-    void DrawLeftText(std::string_view text, const Rect& box, OleColor color) override;
-    void DrawListImage(const ImageList& list, std::string_view key, Point at, DrawStyle style) override;
-    void DrawImage(const Image& image, Point at, DrawStyle style) override;
-    void DrawFocusRect(const Rect& rect) override;
-
-private:
-    QPointer<PictureBoxWidget> mWidget;
 };
 
 } // namespace zqbchwcx::qt

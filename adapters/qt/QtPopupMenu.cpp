@@ -1,21 +1,13 @@
 #include "zqbchwcx/qt/QtPopupMenu.h"
 
 #include "zqbchwcx/foundation/VxError.h"
+#include "zqbchwcx/qt/PlainText.h"
 
 #include <QCursor>
-#include <QString>
 
 #include <algorithm>
 
 namespace zqbchwcx::qt {
-namespace {
-
-QString ToQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-} // namespace
 
 QtPopupMenu::QtPopupMenu(QWidget& parent, const QString& name) : mMenu(new QMenu(&parent))
 {

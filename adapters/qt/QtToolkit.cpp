@@ -2,13 +2,20 @@
 
 #include "zqbchwcx/foundation/VxError.h"
 #include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/PlainText.h"
+#include "zqbchwcx/qt/QtGrid.h"
 #include "zqbchwcx/qt/QtPictureBox.h"
+#include "zqbchwcx/qt/QtPopupForm.h"
 #include "zqbchwcx/qt/QtPopupMenu.h"
 #include "zqbchwcx/qt/QtShape.h"
 #include "zqbchwcx/qt/QtSysInfo.h"
+#include "zqbchwcx/qt/QtTabStrip.h"
 #include "zqbchwcx/qt/QtTimer.h"
 #include "zqbchwcx/qt/QtUserControl.h"
+#include "zqbchwcx/qt/QtWindowWatch.h"
 #include "zqbchwcx/qt/ShapeWidget.h"
+
+#include <utility>
 
 namespace zqbchwcx::qt {
 namespace {
@@ -18,11 +25,6 @@ ControlWidget& WindowOf(UserControl& control)
     auto* widget = qobject_cast<ControlWidget*>(WidgetOf(control.hWnd()));
     if (widget == nullptr) throw VxError(vxErrorNothing, "The control has no window");
     return *widget;
-}
-
-QString ToQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 template <class Interface>
@@ -71,30 +73,39 @@ PopupMenuPtr QtToolkit::CreatePopupMenu(UserControl& parent, std::string_view na
     return std::make_unique<QtPopupMenu>(WindowOf(parent), ToQString(name));
 }
 
-GridPtr QtToolkit::CreateGrid(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+GridPtr QtToolkit::CreateGrid(UserControl& parent, std::string_view name, const Rect& rect)
 {
-    throw VxError(vxErrorInvalidArgument, "There is no grid for " + std::string(name));
+    ControlWidget& window = WindowOf(parent);
+    auto* grid = new GridWidget(window, ToQString(name), rect);
+    grid->TextFont(window.TextFont());
+    grid->show();
+    if (window.focusProxy() == nullptr) window.setFocusProxy(grid);
+    return std::make_unique<QtGrid>(*grid);
 }
 
-TabStripPtr QtToolkit::CreateTabStrip(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/,
-                                      std::int32_t /*lTabs*/)
+TabStripPtr QtToolkit::CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect, std::int32_t lTabs)
 {
-    throw VxError(vxErrorInvalidArgument, "There is no tab strip for " + std::string(name));
+    ControlWidget& window = WindowOf(parent);
+    auto* tabs = new TabStripWidget(window, ToQString(name), lTabs);
+    tabs->setFont(window.TextFont());
+    auto strip = std::make_unique<QtTabStrip>(*tabs, rect);
+    tabs->show();
+    return strip;
 }
 
-PopupFormPtr QtToolkit::CreatePopupForm(UserControl& /*parent*/, std::string_view name)
+PopupFormPtr QtToolkit::CreatePopupForm(UserControl& parent, std::string_view name)
 {
-    throw VxError(vxErrorInvalidArgument, "There is no popup form for " + std::string(name));
+    return std::make_unique<QtPopupForm>(*new PopupFormWidget(WindowOf(parent), ToQString(name)));
 }
 
-WindowSpyPtr QtToolkit::CreateWindowSpy(std::intptr_t /*hWnd*/, WindowSpyHandler /*handler*/)
+WindowSpyPtr QtToolkit::CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler)
 {
-    return std::make_unique<WindowSpy>();
+    return std::make_unique<QtWindowSpy>(hWnd, std::move(handler));
 }
 
-MouseHookPtr QtToolkit::CreateMouseHook(MouseHookHandler /*handler*/)
+MouseHookPtr QtToolkit::CreateMouseHook(MouseHookHandler handler)
 {
-    return std::make_unique<MouseHook>();
+    return std::make_unique<QtMouseHook>(std::move(handler));
 }
 
 SysInfoPtr QtToolkit::CreateSysInfo(UserControl& parent)

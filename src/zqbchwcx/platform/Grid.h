@@ -34,10 +34,10 @@ enum class CellKind : std::int32_t {
 /// How a cell looks. What a format leaves open comes from the next one: the cell's own, its row's, its column's, the
 /// grid's.
 struct CellFormat {
-    std::optional<CellAlignment> alignment;
-    std::optional<OleColor> backColor;
-    std::optional<OleColor> textColor;
-    std::optional<CellKind> kind;
+    std::optional<CellAlignment> alignment = std::nullopt;
+    std::optional<OleColor> backColor = std::nullopt;
+    std::optional<OleColor> textColor = std::nullopt;
+    std::optional<CellKind> kind = std::nullopt;
 };
 
 /// What happens to the mouse on a grid. The point is in logical pixels of the grid.
@@ -60,7 +60,8 @@ public:
     /// True when the key is consumed: neither the grid nor its editor then act on it.
     virtual bool OnKeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept = 0;
     virtual void OnKeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept = 0;
-    /// Text was typed while no cell is edited; true when it is consumed.
+    /// Text was typed while no cell is edited; true when it is consumed. The text is empty when an input method begins to
+    /// compose one: an editor that is opened then goes on with it.
     virtual bool OnCharacters(std::string_view text) noexcept = 0;
 
     virtual void OnMouseDown(const GridMouse& mouse) noexcept = 0;
@@ -99,6 +100,9 @@ public:
     /// Who receives the events; null for nobody. The receiver outlives the grid or sets null before it ends.
     virtual void Events(GridEvents* receiver) = 0;
 
+    /// What a screen reader calls the grid.
+    virtual void AccessibleName(std::string_view name) = 0;
+
     /// Drops all columns and all rows but the header.
     virtual void Reset() = 0;
     /// Appends a column and returns its number.
@@ -108,7 +112,8 @@ public:
     virtual void ColumnKey(std::int32_t lColumn, std::string_view key) = 0;
     /// The column with the key, 0 when there is none.
     virtual std::int32_t ColumnIndex(std::string_view key) const = 0;
-    /// Logical pixels. The last visible column also takes the width that is left over.
+    /// Logical pixels, as put or as the user made it. The last visible column is shown wider by what is left over; where
+    /// the grid is too narrow for all columns, they are shown narrower.
     virtual std::int32_t ColumnWidth(std::int32_t lColumn) const = 0;
     virtual void ColumnWidth(std::int32_t lColumn, std::int32_t lWidth) = 0;
     /// The numbers of the columns as they are shown, from the left. A put with other numbers changes nothing.
@@ -127,9 +132,8 @@ public:
     virtual void RowHeight(std::int32_t lHeight) = 0;
     virtual void HeaderHeight(std::int32_t lHeight) = 0;
 
+    /// A put into the edited cell shows in the editor as well, unless the user has typed since it was opened or written.
     virtual std::string CellText(GridCell cell) const = 0;
-    /// The editor of a cell that is edited takes a text over, too, if it is not the one that it last had from the cell
-    /// or wrote into it.
     virtual void CellText(GridCell cell, std::string_view text) = 0;
     /// The picture in the middle of the cell; null for none.
     virtual void CellPicture(GridCell cell, const ImagePtr& picture) = 0;

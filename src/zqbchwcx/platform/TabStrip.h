@@ -15,7 +15,7 @@ public:
     virtual ~TabStripEvents() = default;
 
     virtual void TabClick(std::int32_t lTab) noexcept = 0;
-    /// The mouse came to rest on the tab, which is enabled.
+    /// The mouse came to rest on the tab, which is enabled, with no button down.
     virtual void TabHover(std::int32_t lTab) noexcept = 0;
     /// A drag came to rest on the tab, which is enabled.
     virtual void TabDragHover(std::int32_t lTab) noexcept = 0;
@@ -34,7 +34,7 @@ public:
     virtual void TooltipText(std::int32_t lTab, std::string_view text) = 0;
     virtual bool Enabled(std::int32_t lTab) const = 0;
     virtual void Enabled(std::int32_t lTab, bool bEnabled) = 0;
-    /// -1 for none. A put raises no event.
+    /// -1 when there are no tabs. A put raises no event.
     virtual std::int32_t SelectedTab() const = 0;
     virtual void SelectedTab(std::int32_t lTab) = 0;
 

@@ -34,7 +34,9 @@ public:
     virtual ~MouseHook() = default;
 };
 using MouseHookPtr = std::unique_ptr<MouseHook>;
-/// `hWnd`: the window under the mouse; 0 for one of another program.
+/// `hWnd`: the window under the mouse; 0 for one of another program. A press outside the client areas of this program's
+/// windows is a non-client one. A press on a window of this program is reported before that window gets it; one that
+/// came before the hook was made is not reported.
 using MouseHookHandler = std::function<void(std::int32_t lMessage, std::intptr_t hWnd)>;
 
 } // namespace zqbchwcx

@@ -103,7 +103,7 @@ void RecordingGrid::CellText(GridCell cell, std::string_view text)
     Call("Grid.CellText");
     if (cell.lRow == 0) Column(cell.lColumn).caption = text;
     else Content(cell).text = text;
-    if (mEdited == cell && text != msCommitted) msEditor = msCommitted = text;
+    if (cell == mEdited && !mbTyped) msEditor = text, caret = static_cast<std::int32_t>(text.size());
 }
 
 void RecordingGrid::CellPicture(GridCell cell, const ImagePtr& picture)
@@ -151,10 +151,10 @@ bool RecordingGrid::StartEditing(GridCell cell, std::optional<std::string_view> 
     EndEditing(true);
     if (mpEvents == nullptr || !mpEvents->OnStartEditing(cell)) return false;
     mEdited = cell;
-    msCommitted = CellText(cell);
-    msEditor = text ? std::string(*text) : msCommitted;
+    msEditor = text ? std::string(*text) : CellText(cell);
     caret = static_cast<std::int32_t>(msEditor.size());
     editorTextSelected = !text;
+    mbTyped = text.has_value();
     return true;
 }
 
@@ -169,8 +169,8 @@ void RecordingGrid::EndEditing(bool bTakeOver)
 void RecordingGrid::CommitEditor()
 {
     if (!mEdited) return;
-    msCommitted = msEditor;
-    CellText(*mEdited, msEditor);
+    mbTyped = false;
+    CellText(*mEdited, std::string(msEditor));
 }
 
 void RecordingGrid::MoveCaret(std::int32_t lCharacters)
@@ -296,6 +296,7 @@ bool RecordingGrid::Key(std::int16_t nKeyCode, std::int16_t nShift)
 bool RecordingGrid::Type(std::string_view text)
 {
     if (!mEdited) return mpEvents->OnCharacters(text);
+    mbTyped = true;
     if (std::exchange(editorTextSelected, false)) msEditor.clear(), caret = 0;
     msEditor.insert(static_cast<std::size_t>(caret), text);
     caret += static_cast<std::int32_t>(text.size());

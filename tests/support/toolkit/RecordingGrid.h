@@ -16,6 +16,7 @@ public:
     RecordingGrid(CallLogPtr log, const Rect& rect) : Logged(std::move(log)), bounds(rect) {}
 
     void Events(GridEvents* receiver) override { mpEvents = receiver; }
+    void AccessibleName(std::string_view name) override { accessibleName = name; }
 
     void Reset() override;
     std::int32_t AddColumn(std::string_view caption) override;
@@ -104,6 +105,7 @@ public:
     Point Middle(GridCell cell) const;
 
     Rect bounds;
+    std::string accessibleName;
     std::string resetCaption;
     GridScrollBar scrollBar = GridScrollBar::Never;
     std::int32_t caret = 0;          ///< of the editor, in bytes of an ASCII text
@@ -153,7 +155,7 @@ private:
     bool mbEditorPending = false; ///< the current cell was pressed once more
     std::optional<GridCell> mEdited;
     std::string msEditor;
-    std::string msCommitted; ///< what the cell and its editor last had in common
+    bool mbTyped = false; ///< since the editor was opened or written
     bool mbRedraw = true;
     bool mbFocus = false;
 };

@@ -1,0 +1,66 @@
+#include "zqbchwcx/qt/GridColors.h"
+
+#include "zqbchwcx/qt/SystemColors.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace zqbchwcx::qt {
+namespace {
+
+/// The same hue, as far from the dark base as the colour is from white.
+QColor Deep(const QColor& pale, const QColor& base)
+{
+    constexpr double Distance = 0.6;
+    constexpr double Saturation = 0.45;
+    const double lightness = base.lightnessF() + (1 - pale.lightnessF()) * Distance;
+    return QColor::fromHslF(std::max(pale.hslHueF(), 0.0F), pale.hslSaturationF() * float(Saturation),
+                            float(std::min(lightness, 1.0)));
+}
+
+} // namespace
+
+void GridColors::Follow()
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (palette.cacheKey() == mPaletteKey) return;
+    mPaletteKey = palette.cacheKey();
+    mcolBacks.clear();
+    mcolTexts.clear();
+    constexpr double LineShare = 0.17;
+    base = palette.color(QPalette::Active, QPalette::Base);
+    line = Mixed(base, palette.color(QPalette::Active, QPalette::Text), LineShare);
+    highlight = palette.color(QPalette::Active, QPalette::Highlight);
+    highlightText = palette.color(QPalette::Active, QPalette::HighlightedText);
+    button = palette.color(QPalette::Active, QPalette::Button);
+    buttonText = palette.color(QPalette::Active, QPalette::ButtonText);
+}
+
+QColor GridColors::Back(OleColor color)
+{
+    for (const auto& [known, translated] : mcolBacks)
+        if (known == color) return translated;
+    QColor translated = ToQColor(color).value_or(base);
+    const bool bFixed = (static_cast<std::uint32_t>(color) & 0x80000000U) == 0;
+    constexpr double Half = 0.5;
+    if (bFixed && base.lightnessF() < Half && translated.lightnessF() > Half) translated = Deep(translated, base);
+    mcolBacks.emplace_back(color, translated);
+    return translated;
+}
+
+QColor GridColors::Text(OleColor color, const QColor& back)
+{
+    for (const auto& known : mcolTexts)
+        if (known.color == color && known.back == back.rgb()) return known.translated;
+    return mcolTexts.emplace_back(TextOnBack{color, back.rgb(), ReadableOn(color, back)}).translated;
+}
+
+QColor Mixed(const QColor& first, const QColor& second, double share)
+{
+    const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
+    return {mix(first.red(), second.red()), mix(first.green(), second.green()), mix(first.blue(), second.blue())};
+}
+
+} // namespace zqbchwcx::qt

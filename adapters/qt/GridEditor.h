@@ -1,0 +1,43 @@
+#pragma once
+
+#include "zqbchwcx/platform/Grid.h"
+
+#include <QLineEdit>
+
+namespace zqbchwcx::qt {
+
+/// The editor of one cell. It asks before it acts on a key, and says when it is to be closed.
+class GridEditor : public QLineEdit {
+    Q_OBJECT
+public:
+    GridEditor(QWidget& parent, GridCell cell, const QFont& font);
+
+    GridCell Cell() const { return mCell; }
+    /// The smallest rectangle, and how far right it may grow with its text.
+    void Place(const QRect& cell, int right);
+    /// Shows another text, as if the editor had been opened with it.
+    void Show(const QString& text);
+
+signals:
+    /// A key was pressed; whoever uses it sets the flag.
+    void keyPressed(QKeyEvent* event, bool* pbConsumed);
+    void keyReleased(QKeyEvent* event);
+    void closed(bool bTakeOver);
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Grow();
+
+    GridCell mCell;
+    QRect mCellRect;
+    int mRight = 0;
+    bool mbTold = false; ///< of the key that comes next
+};
+
+} // namespace zqbchwcx::qt

@@ -1,0 +1,60 @@
+#include "zqbchwcx/qt/GridModel.h"
+
+#include <algorithm>
+
+namespace zqbchwcx::qt {
+
+void GridModel::Reset()
+{
+    beginResetModel();
+    mContent.Clear();
+    endResetModel();
+}
+
+void GridModel::AddColumn(const QString& caption)
+{
+    beginInsertColumns({}, mContent.ColumnCount(), mContent.ColumnCount());
+    mContent.AddColumn(caption);
+    endInsertColumns();
+}
+
+void GridModel::SetRowCount(std::int32_t lRows)
+{
+    const std::int32_t lBefore = mContent.RowCount();
+    if (lRows > lBefore) {
+        beginInsertRows({}, lBefore, lRows - 1);
+        mContent.RowCount(lRows);
+        endInsertRows();
+    } else if (lRows < lBefore) {
+        beginRemoveRows({}, std::max(lRows, 0), lBefore - 1);
+        mContent.RowCount(lRows);
+        endRemoveRows();
+    }
+}
+
+void GridModel::TellChanged(GridCell cell)
+{
+    const QModelIndex changed = IndexOf(cell);
+    emit dataChanged(changed, changed);
+}
+
+void GridModel::TellHeaderChanged(std::int32_t lColumn)
+{
+    emit headerDataChanged(Qt::Horizontal, lColumn - 1, lColumn - 1);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) return {};
+    return mContent.Cell(CellOf(index)).text;
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role != Qt::DisplayRole) return {};
+    if (orientation == Qt::Horizontal) return mContent.Column(section + 1).caption;
+    // A row is known by what its first column says.
+    return mContent.ColumnCount() > 0 ? QVariant(mContent.Cell({section + 1, 1}).text) : QVariant();
+}
+
+} // namespace zqbchwcx::qt
