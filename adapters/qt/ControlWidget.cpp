@@ -40,18 +40,6 @@ bool IsOwnKey(const QKeyEvent& event)
     }
 }
 
-/// Draws a window that draws itself on whatever it is shown.
-void PaintOwnPixels(QPainter& painter, const PixelGrid& grid, QWidget& widget, QPoint corner)
-{
-    const QRect device = grid.Device(MakeRect(corner.x(), corner.y(), widget.width(), widget.height()));
-    QImage image(device.size(), QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(grid.Ratio());
-    image.fill(Qt::transparent);
-    widget.render(&image);
-    image.setDevicePixelRatio(1);
-    painter.drawImage(device.topLeft(), image);
-}
-
 /// Draws the visible child windows, lowest first, with the origin at the control's corner. `offset` is the control's
 /// own corner in the picture, in logical pixels.
 void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& control, QPoint offset)
@@ -67,7 +55,11 @@ void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& contr
             shape->Paint(painter, grid.Device(MakeRect(corner.x(), corner.y(), shape->width(), shape->height())),
                          grid.Ratio());
         } else if (qobject_cast<GridWidget*>(widget) != nullptr || qobject_cast<TabStripWidget*>(widget) != nullptr) {
-            PaintOwnPixels(painter, grid, *widget, corner);
+            // They draw themselves on whatever they are shown.
+            painter.save();
+            painter.scale(grid.Ratio(), grid.Ratio());
+            widget->render(&painter, corner);
+            painter.restore();
         } else if (!widget->isWindow()) {
             PaintWindows(painter, grid, *widget, corner);
         }

@@ -10,6 +10,14 @@
 namespace zqbchwcx::qt {
 namespace {
 
+constexpr double Half = 0.5;
+
+/// Not a colour of the desktop.
+bool IsFixed(OleColor color)
+{
+    return (static_cast<std::uint32_t>(color) & 0x80000000U) == 0;
+}
+
 /// The same hue, as far from the dark base as the colour is from white.
 QColor Deep(const QColor& pale, const QColor& base)
 {
@@ -43,9 +51,8 @@ QColor GridColors::Back(OleColor color)
     for (const auto& [known, translated] : mcolBacks)
         if (known == color) return translated;
     QColor translated = ToQColor(color).value_or(base);
-    const bool bFixed = (static_cast<std::uint32_t>(color) & 0x80000000U) == 0;
-    constexpr double Half = 0.5;
-    if (bFixed && base.lightnessF() < Half && translated.lightnessF() > Half) translated = Deep(translated, base);
+    if (IsFixed(color) && base.lightnessF() < Half && translated.lightnessF() > Half)
+        translated = Deep(translated, base);
     mcolBacks.emplace_back(color, translated);
     return translated;
 }
@@ -54,7 +61,11 @@ QColor GridColors::Text(OleColor color, const QColor& back)
 {
     for (const auto& known : mcolTexts)
         if (known.color == color && known.back == back.rgb()) return known.translated;
-    return mcolTexts.emplace_back(TextOnBack{color, back.rgb(), ReadableOn(color, back)}).translated;
+    QColor translated = ReadableOn(color, back);
+    // A grey that is faint on a pale ground would be lost on a deep one.
+    constexpr double Lighter = 0.35;
+    if (IsFixed(color) && base.lightnessF() < Half) translated = Mixed(translated, Qt::white, Lighter);
+    return mcolTexts.emplace_back(TextOnBack{color, back.rgb(), translated}).translated;
 }
 
 QColor Mixed(const QColor& first, const QColor& second, double share)

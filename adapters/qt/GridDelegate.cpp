@@ -8,8 +8,12 @@
 #include <QPainter>
 #include <QPen>
 
+#include <cmath>
+
 namespace zqbchwcx::qt {
 namespace {
+
+constexpr double Half = 0.5;
 
 QRect Inside(const QRect& rect, int margin)
 {
@@ -34,8 +38,18 @@ public:
         : mSelf(self), mPainter(painter), mBefore(painter.transform()), mGrid(DeviceRatio(painter)),
           mThin(ThinLine(mGrid.Ratio()))
     {
+        const QTransform toDevice = painter.deviceTransform();
         UseDevicePixels(painter, mGrid.Ratio());
-        mBounds = mGrid.Device(MakeRect(logical.x(), logical.y(), logical.width(), logical.height()));
+        // Rounded on the device, not in the window: rows lie as what is beside the grid does.
+        const auto edge = [&](double x, double y) {
+            const QPointF device = toDevice.map(QPointF(x, y));
+            const QPointF origin = painter.deviceTransform().map(QPointF(0, 0));
+            return QPoint(int(std::floor(device.x() + Half)) - int(std::lrint(origin.x())),
+                          int(std::floor(device.y() + Half)) - int(std::lrint(origin.y())));
+        };
+        const QPoint corner = edge(logical.x(), logical.y());
+        const QPoint end = edge(logical.x() + logical.width(), logical.y() + logical.height());
+        mBounds = {corner, end - QPoint(1, 1)};
         // The lines at the right and at the bottom belong to the cell.
         mCell = mBounds.adjusted(0, 0, -mThin, -mThin);
         self.mColors.Follow();

@@ -45,10 +45,10 @@ GridEditor::GridEditor(QWidget& parent, GridCell cell, const QFont& font) : QLin
     connect(this, &QLineEdit::textChanged, this, &GridEditor::Grow);
 }
 
-void GridEditor::Place(const QRect& cell, int right)
+void GridEditor::Place(const QRect& cell, const QRect& room)
 {
     mCellRect = cell;
-    mRight = right;
+    mRoom = room.united(cell);
     Grow();
 }
 
@@ -61,8 +61,9 @@ void GridEditor::Show(const QString& text)
 void GridEditor::Grow()
 {
     const int wanted = fontMetrics().horizontalAdvance(text()) + 2 * GridDelegate::Padding + 2;
-    const int room = std::max(mRight - mCellRect.left(), mCellRect.width());
-    setGeometry(mCellRect.left(), mCellRect.top(), std::clamp(wanted, mCellRect.width(), room), mCellRect.height());
+    const int width = std::clamp(wanted, mCellRect.width(), mRoom.width());
+    const int left = std::min(mCellRect.left(), mRoom.right() + 1 - width);
+    setGeometry(left, mCellRect.top(), width, mCellRect.height());
 }
 
 bool GridEditor::event(QEvent* event)

@@ -13,8 +13,8 @@ public:
     GridEditor(QWidget& parent, GridCell cell, const QFont& font);
 
     GridCell Cell() const { return mCell; }
-    /// The smallest rectangle, and how far right it may grow with its text.
-    void Place(const QRect& cell, int right);
+    /// The smallest rectangle, and the one in which it may grow with its text: to the right first, then to the left.
+    void Place(const QRect& cell, const QRect& room);
     /// Shows another text, as if the editor had been opened with it.
     void Show(const QString& text);
 
@@ -36,7 +36,7 @@ private:
 
     GridCell mCell;
     QRect mCellRect;
-    int mRight = 0;
+    QRect mRoom;
     bool mbTold = false; ///< of the key that comes next
 };
 

@@ -235,7 +235,10 @@ void GridWidget::PlaceEditor()
     const GridCell cell = mEditor->Cell();
     const QRect rect = visualRect(mModel.IndexOf(cell)).adjusted(0, 0, -1, -1);
     const bool bMayGrow = mModel.Content().Look(cell).kind == CellKind::Comment;
-    mEditor->Place(rect, bMayGrow ? viewport()->width() : rect.right() + 1);
+    // What says which row it is stays in sight.
+    const int left = mHeader->sectionSize(mHeader->logicalIndex(0));
+    mEditor->Place(rect,
+                   bMayGrow ? QRect(QPoint(left, rect.top()), QPoint(viewport()->width() - 1, rect.bottom())) : rect);
 }
 
 GridCell GridWidget::CellAt(QPoint at) const

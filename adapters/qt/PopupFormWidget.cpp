@@ -23,7 +23,6 @@ void PopupFormWidget::ShowAt(const QRect& onScreen)
     parentWidget()->window()->removeEventFilter(this);
     parentWidget()->window()->installEventFilter(this);
     show();
-    raise();
 }
 
 bool PopupFormWidget::eventFilter(QObject* watched, QEvent* event)

@@ -50,6 +50,7 @@ GridStage::GridStage(double points)
 {
     window.resize(400, 226);
     control.move(8, 8);
+    site.Events(&siteEvents);
     site.Font("Tahoma", points);
     control.resize(384, 206);
     tabs = toolkit.CreateTabStrip(site, "vxtab_Main", MakeRect(0, 0, 384, 206), 4);
@@ -61,13 +62,13 @@ GridStage::GridStage(double points)
     Fill(*grid);
     grid->Events(&events);
     tabs->Events(&events);
-    window.setPalette(QApplication::palette());
 }
 
 GridStage::~GridStage()
 {
     grid->Events(nullptr);
     tabs->Events(nullptr);
+    site.Events(nullptr);
 }
 
 QPoint GridStage::Middle(GridCell cell)

@@ -86,6 +86,7 @@ public:
 
     qt::QtToolkit toolkit;
     GridRecorder events;
+    EventRecorder siteEvents;
     QWidget window;
     qt::ControlWidget control{&window, qt::ControlWidget::Backdrop::Own};
     qt::QtUserControl site{control};

@@ -63,7 +63,7 @@ TEST(GridGeometry, everyColumnHasRoomAndTheLastTakesWhatIsLeftOver)
     using qt::FittedWidths;
     using Widths = std::vector<std::int32_t>;
     EXPECT_EQ(FittedWidths({32, 78, 60}, 200, 16), (Widths{32, 78, 90}));
-    EXPECT_EQ(FittedWidths({32, 116, 60}, 148, 16), (Widths{24, 66, 58}));
+    EXPECT_EQ(FittedWidths({32, 116, 60}, 148, 16), (Widths{29, 102, 17}));
     EXPECT_EQ(FittedWidths({32, 78}, 20, 16), (Widths{16, 16}));
     EXPECT_EQ(FittedWidths({}, 20, 16), Widths{});
 }
@@ -116,6 +116,7 @@ TEST_F(GridInput, anEditorWritesOrGivesUp)
 
     grid->StartEditing(cell, "A very long comment that needs more room than its cell has to offer");
     EXPECT_EQ(Window().Editor()->geometry().right() + 1, Cells()->width());
+    EXPECT_LT(Window().Editor()->geometry().left(), grid->CellRect(cell).left);
     grid->CommitEditor();
     EXPECT_TRUE(grid->EditedCell());
     grid->CellText(cell, "undone");
