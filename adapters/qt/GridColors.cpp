@@ -62,9 +62,13 @@ QColor GridColors::Text(OleColor color, const QColor& back)
     for (const auto& known : mcolTexts)
         if (known.color == color && known.back == back.rgb()) return known.translated;
     QColor translated = ReadableOn(color, back);
-    // A grey that is faint on a pale ground would be lost on a deep one.
+    // What is made for a pale ground would be lost on a deep one.
     constexpr double Lighter = 0.35;
-    if (IsFixed(color) && base.lightnessF() < Half) translated = Mixed(translated, Qt::white, Lighter);
+    if (IsFixed(color) && base.lightnessF() < Half) {
+        const float lightness = std::max(translated.lightnessF(), 1 - translated.lightnessF());
+        translated.setHslF(std::max(translated.hslHueF(), 0.0F), translated.hslSaturationF(), lightness);
+        translated = Mixed(translated, Qt::white, Lighter);
+    }
     return mcolTexts.emplace_back(TextOnBack{color, back.rgb(), translated}).translated;
 }
 
