@@ -24,6 +24,7 @@ TEST(GridPicture, looksAsStoredInLightAndDark)
     EXPECT_TRUE(LooksLikeReference(stage.Picture(1), "grid-1x"));
     EXPECT_TRUE(LooksLikeReference(stage.Picture(2), "grid-2x"));
     const PaletteChange dark(DarkPalette());
+    QCoreApplication::processEvents();
     stage.grid->StartEditing({4, 6}, std::nullopt);
     EXPECT_TRUE(LooksLikeReference(stage.Picture(1), "grid-editing-dark-1x"));
     EXPECT_TRUE(LooksLikeReference(stage.Picture(2), "grid-editing-dark-2x"));
