@@ -3,10 +3,14 @@
 #include "app/document/Document.h"
 #include "app/document/SharedView.h"
 #include "app/export/PartShown.h"
+#include "app/host/PlainText.h"
+#include "app/window/CellMessage.h"
 #include "app/window/DistributedNote.h"
 #include "app/window/ModuleList.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/qt/RackTableWidget.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/config/VxHWRackTable.h"
 #include "zqbchwcx/views/shared/QuietView.h"
 
 #include <QHBoxLayout>
@@ -24,20 +28,40 @@ namespace {
 
 constexpr int OverviewWidth = 262; // the racks, and room for the arrow to the list
 
-/// On a low screen the picture is seen in parts.
-QScrollArea* MakeScrollable(QWidget* left)
+/// On a low screen the picture is seen in parts; what lies beside it for its arrow moves with it.
+QScrollArea* MakeScrollable(QWidget* content)
 {
     auto* scroll = new QScrollArea;
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setFixedWidth(OverviewWidth);
-    scroll->setWidget(left);
+    scroll->setWidget(content);
     // The first rack is the lowest one.
     QScrollBar* bar = scroll->verticalScrollBar();
     QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
     return scroll;
+}
+
+/// The table stands right of the picture, and as high: the arrow of the picture points at its rows.
+QWidget* SideBySide(QWidget* left, QWidget* table)
+{
+    auto* both = new QWidget;
+    both->setBackgroundRole(QPalette::Base);
+    both->setAutoFillBackground(true);
+    left->setFixedWidth(OverviewWidth);
+    auto* line = new QHBoxLayout(both);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(0);
+    line->addWidget(left);
+    line->addWidget(table, 1, Qt::AlignTop);
+    return both;
+}
+
+/// Whether the table shows all racks and places of the station.
+bool HasTable(const reference::Station& station)
+{
+    return station.StationKind() == vxStationKindCentral && !PartShown(station.Data());
 }
 
 } // namespace
@@ -70,26 +94,33 @@ StationView::StationView(Document& document, QWidget* parent)
 {
     const reference::StationPtr& station = document.Station();
     QWidget* left = MakeLeftSide();
+    QWidget* table = HasTable(*station) ? MakeTable() : nullptr;
     moManager->Initialize(static_cast<VxEnumStationType>(station->StationKind()), moOverview, moTable, station);
     moHandler = moManager->VxHWSelectionHandler();
     moDragWatch = std::make_shared<DragWatch>(moTable->VxHWDragDropController(), moHandler);
     if (const auto controller = std::dynamic_pointer_cast<IVxHWController>(moTable->VxHWDragDropController())) {
         controller->AddSubscriber(moDragWatch);
     }
-    // The manager wires the overview; drawing it is the host's.
+    // The manager wires the views; drawing them is the host's.
     moOverview->Refresh();
-
-    auto* list = new ModuleList(station, moHandler, this);
-    moList = list;
-    connect(list, &ModuleList::editRequested, this, [this] { moManager->EditModuleParams(); });
-    connect(list, &ModuleList::deleteRequested, this, [this] { moManager->Delete(); });
-    connect(list, &ModuleList::menuRequested, this, &StationView::menuRequested);
+    moTable->Refresh();
 
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(0);
-    line->addWidget(MakeScrollable(left));
-    line->addWidget(list, 1);
+    if (table) {
+        line->addWidget(MakeScrollable(SideBySide(left, table)));
+    } else {
+        left->setFixedWidth(OverviewWidth);
+        QScrollArea* scroll = MakeScrollable(left);
+        scroll->setFixedWidth(OverviewWidth);
+        line->addWidget(scroll);
+        line->addWidget(MakeList(), 1);
+    }
+    moCellMessage = new CellMessage(this);
+    mcolConnections.push_back(station->Refused.Connect([this](const reference::Refusal& refusal) {
+        msRefusal = PlainText(refusal.text, moDocument.Station()->Context()->CurrentLanguage(), LongestDescription);
+    }));
 
     for (QWidget* child : findChildren<QWidget*>()) child->installEventFilter(this);
     mcolConnections.push_back(moHandler->SelChange.Connect([this] { emit selectionChanged(); }));
@@ -163,6 +194,28 @@ bool StationView::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+QWidget* StationView::MakeTable()
+{
+    auto* widget = new qt::RackTableWidget(this);
+    moTable = widget->Control();
+    connect(widget, &qt::RackTableWidget::editRefused, this, &StationView::TellRefusedEdit);
+    return widget;
+}
+
+QWidget* StationView::MakeList()
+{
+    moList = new ModuleList(moDocument.Station(), moHandler, this);
+    connect(moList, &ModuleList::editRequested, this, [this] { moManager->EditModuleParams(); });
+    connect(moList, &ModuleList::deleteRequested, this, [this] { moManager->Delete(); });
+    connect(moList, &ModuleList::menuRequested, this, &StationView::menuRequested);
+    return moList;
+}
+
+void StationView::TellRefusedEdit(const QString& value, const QRect& cellOnScreen)
+{
+    moCellMessage->Tell(tr("\"%1\" was not taken: %2").arg(PlainText(value), msRefusal), cellOnScreen);
+}
+
 reference::ViewState StationView::View() const
 {
     return moDragWatch->IsDragging() ? moDragWatch->ViewBefore() : CaptureView(*moHandler);
@@ -176,7 +229,8 @@ void StationView::changeEvent(QEvent* event)
 
 void StationView::FocusStation()
 {
-    (moOverviewWidget ? moOverviewWidget : moList)->setFocus();
+    if (moOverviewWidget) moOverviewWidget->setFocus();
+    else moList->setFocus();
 }
 
 } // namespace quillon_ed

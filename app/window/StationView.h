@@ -16,10 +16,12 @@ class QLabel;
 
 namespace quillon_ed {
 
+class CellMessage;
 class Document;
+class ModuleList;
 
-/// The views of one station, connected in configuration mode: the overview with the module list beside it. A
-/// distributed station has the list only.
+/// The views of one station, connected in configuration mode: the overview with the table beside it. A station that is
+/// larger than these show has the list of all its modules in place of the table, a distributed one the list only.
 class StationView : public QWidget {
     Q_OBJECT
 
@@ -52,6 +54,9 @@ private:
     void TellPartShown();
     QWidget* MakeOverview();
     QWidget* MakeNote();
+    QWidget* MakeTable();
+    QWidget* MakeList();
+    void TellRefusedEdit(const QString& value, const QRect& cellOnScreen);
 
     Document& moDocument;
     std::shared_ptr<zqbchwcx::IVxHWControl> moOverview;
@@ -60,7 +65,9 @@ private:
     zqbchwcx::VxHWSelectionHandlerPtr moHandler;
     std::shared_ptr<DragWatch> moDragWatch;
     QWidget* moOverviewWidget = nullptr;
-    QWidget* moList = nullptr;
+    ModuleList* moList = nullptr; ///< where there is no table
+    CellMessage* moCellMessage;
+    QString msRefusal;             ///< why the model refused the last change
     QLabel* moPartShown = nullptr; ///< below a picture that is not whole
     std::vector<zqbchwcx::EventConnection> mcolConnections;
 };

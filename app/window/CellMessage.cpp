@@ -1,0 +1,65 @@
+#include "app/window/CellMessage.h"
+
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace quillon_ed {
+namespace {
+
+constexpr int StaysMilliseconds = 6000;
+constexpr int Margin = 6;
+constexpr int Stripe = 3;
+constexpr int Width = 320;
+constexpr QColor StripeColor(200, 40, 40);
+
+} // namespace
+
+CellMessage::CellMessage(QWidget* parent) : QLabel(parent)
+{
+    setObjectName(QStringLiteral("cellMessage"));
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setContentsMargins(Margin + Stripe, Margin, Margin, Margin);
+    setPalette(QToolTip::palette());
+    setBackgroundRole(QPalette::ToolTipBase);
+    setForegroundRole(QPalette::ToolTipText);
+    setAutoFillBackground(true);
+    hide();
+    mGoes.setSingleShot(true);
+    mGoes.setInterval(StaysMilliseconds);
+    connect(&mGoes, &QTimer::timeout, this, &QWidget::hide);
+}
+
+void CellMessage::Tell(const QString& text, const QRect& cellOnScreen)
+{
+    setText(text);
+    setAccessibleName(text);
+    const QRect cell(parentWidget()->mapFromGlobal(cellOnScreen.topLeft()), cellOnScreen.size());
+    const QRect room = parentWidget()->rect();
+    const int width = std::min(Width, room.width());
+    resize(width, heightForWidth(width));
+    const int below = cell.bottom() + 2;
+    const int top = below + height() <= room.bottom() ? below : std::max(cell.top() - height() - 1, 0);
+    move(std::clamp(cell.left(), 0, std::max(room.width() - width, 0)), top);
+    show();
+    raise();
+    mGoes.start();
+}
+
+void CellMessage::mousePressEvent(QMouseEvent* /*event*/)
+{
+    hide();
+}
+
+void CellMessage::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(0, 0, Stripe, height(), StripeColor);
+}
+
+} // namespace quillon_ed
