@@ -19,6 +19,7 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWStation.h"
+#include "zqbchwcx/managers/ViewWiring.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <utility>
@@ -35,15 +36,6 @@ void Create(IVxHWControllerPtr& oController, std::shared_ptr<InputController>& o
     auto oCreated = std::make_shared<Controller>();
     oController = oCreated;
     oiInput = std::move(oCreated);
-}
-
-void DisconnectView(IVxHWControl& view)
-{
-    view.VxHWStation(nullptr);
-    view.VxHWSelectionHandler(nullptr);
-    view.VxHWMouseInputController(nullptr);
-    view.VxHWKeyInputController(nullptr);
-    view.VxHWDragDropController(nullptr);
 }
 
 void CreateMissingSubModules(VxHWStation& station, const VxHWModulePtr& oModule)
@@ -73,13 +65,13 @@ void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlP
         moiRackTable = std::move(oiRackTable);
         moSelHandler = std::make_shared<zqbchwcx::VxHWSelectionHandler>();
         CreateControllers();
-        ConnectView(*G_Require(moiRackOverview, "The rack overview"), eStationType);
-        ConnectView(*G_Require(moiRackTable, "The rack table"), eStationType);
+        const ViewWiring wiring{ModeService::None, eStationType, vxStyleHWConfig, moHWStation, nullptr,
+                                nullptr,           moSelHandler, moiMouseInput,   moiKeyInput, moiDragDrop};
+        G_ConnectView(*G_Require(moiRackOverview, "The rack overview"), wiring);
+        G_ConnectView(*G_Require(moiRackTable, "The rack table"), wiring);
         G_Require(moSelHandler, "The selection handler")->VxHWStation(moHWStation);
-        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
-            G_Require(oController, "A controller")->VxHWStation(moHWStation);
-            oController->VxHWSelectionHandler(moSelHandler);
-        }
+        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD})
+            G_ConnectController(*G_Require(oController, "A controller"), wiring);
         Subscribe(moiRackOverview);
         Subscribe(moiRackTable);
         G_Require(moHWStation, "The station")->StartConfiguration();
@@ -90,13 +82,11 @@ void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlP
 void VxHWConfigManager::Terminate() noexcept
 {
     G_Trap(ClassName, "Terminate", [&] {
-        DisconnectView(*G_Require(moiRackOverview, "The rack overview"));
-        DisconnectView(*G_Require(moiRackTable, "The rack table"));
+        G_DisconnectView(*G_Require(moiRackOverview, "The rack overview"), ModeService::None);
+        G_DisconnectView(*G_Require(moiRackTable, "The rack table"), ModeService::None);
         G_Require(moSelHandler, "The selection handler")->VxHWStation(nullptr);
         for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
-            if (!oController) continue; // an initialisation that failed made none
-            oController->VxHWStation(nullptr);
-            oController->VxHWSelectionHandler(nullptr);
+            if (oController) G_DisconnectController(*oController, ModeService::None); // a failed start made none
         }
         if (moCtrlDD) moCtrlDD->RemoveAllSubscribers();
         moiRackOverview = nullptr;
@@ -167,17 +157,6 @@ void VxHWConfigManager::CreateControllers()
     }
 }
 
-void VxHWConfigManager::ConnectView(IVxHWControl& view, VxEnumStationType eStationType) const
-{
-    view.StationType(eStationType);
-    view.Style(vxStyleHWConfig);
-    view.VxHWStation(moHWStation);
-    view.VxHWSelectionHandler(moSelHandler);
-    view.VxHWMouseInputController(moiMouseInput);
-    view.VxHWKeyInputController(moiKeyInput);
-    view.VxHWDragDropController(moiDragDrop);
-}
-
 void VxHWConfigManager::Subscribe(const IVxHWControlPtr& oiView) const
 {
     // A view of a host that draws no drop markings has nothing to subscribe.
@@ -188,17 +167,11 @@ void VxHWConfigManager::Subscribe(const IVxHWControlPtr& oiView) const
 void VxHWConfigManager::P_InitSelection() noexcept
 {
     G_Trap(ClassName, "P_InitSelection", [&] {
-        const auto oPlaces = G_RackByNumber(moHWStation, 0)->Places();
-        std::int32_t lNumber = 0;
-        for (const auto& oPlace : oPlaces) {
-            if (oPlace->Usability() == vxPlaceNotUsable) continue;
-            lNumber = oPlace->Number();
-            break;
-        }
+        const std::int32_t lNumber = G_FirstUsablePlace(moHWStation);
         const auto oSelHandler = G_Require(moSelHandler, "The selection handler");
         oSelHandler->ShiftSelPosition(G_PlacePosition(0, lNumber));
         oSelHandler->FocusPosition(G_PlacePosition(0, lNumber));
-        G_SelPlaces(oSelHandler)->Add(oPlaces->Item(lNumber));
+        G_SelPlaces(oSelHandler)->Add(G_PlaceByNumber(moHWStation, 0, lNumber));
         oSelHandler->SelChangeComplete();
     });
 }

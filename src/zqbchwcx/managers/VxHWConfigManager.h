@@ -41,7 +41,6 @@ public:
 
 private:
     void CreateControllers();
-    void ConnectView(IVxHWControl& view, VxEnumStationType eStationType) const;
     void Subscribe(const IVxHWControlPtr& oiView) const;
     void P_InitSelection() noexcept;
     VxHWModulesPtr ModulesToInsert(const VxHWModulePtr& oModule) const;
