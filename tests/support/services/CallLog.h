@@ -2,7 +2,10 @@
 
 #include "tests/support/services/FaultPoints.h"
 
+#include <cstddef>
 #include <memory>
+#include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -40,11 +43,14 @@ public:
 protected:
     void Call(std::string_view call) const { moLog->Call(call); }
     void Note(std::string line) const { moLog->Note(std::move(line)); }
-    /// A call that only answers.
+    /// A call that only answers; an object can be nothing.
     template <class Value>
     Value Answer(std::string_view call, Value value) const
     {
         moLog->Call(call);
+        const bool bNothing = moLog->faults.TakeNothing();
+        if constexpr (std::is_constructible_v<Value, std::nullptr_t> && !std::is_convertible_v<Value, std::string_view>)
+            if (bNothing) return nullptr;
         return value;
     }
 

@@ -32,6 +32,7 @@ public:
         mlCount = 0;
         msThrown.clear();
         mAction = nullptr;
+        mbNothing = false;
     }
     /// The call with that number does this before it goes on.
     void RunAt(std::int32_t lCall, std::function<void()> action)
@@ -39,6 +40,13 @@ public:
         ThrowAt(lCall);
         mAction = std::move(action);
     }
+    /// The call with that number answers nothing, if it answers an object.
+    void NothingAt(std::int32_t lCall)
+    {
+        RunAt(lCall, [this] { mbNothing = true; });
+    }
+    /// Whether the call that was just counted answers nothing; asked once.
+    bool TakeNothing() { return std::exchange(mbNothing, false); }
     std::int32_t Count() const { return mlCount; }
     /// The armed call; empty when it has not come.
     const std::string& Thrown() const { return msThrown; }
@@ -50,6 +58,7 @@ private:
     std::int32_t mlThrowAt = 0;
     std::string msThrown;
     std::function<void()> mAction;
+    bool mbNothing = false;
 };
 
 } // namespace zqbchwcx::testing

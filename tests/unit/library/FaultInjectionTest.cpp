@@ -297,6 +297,22 @@ TEST_P(EveryCall, MayFail)
     }
 }
 
+TEST_P(EveryCall, MayAnswerNothing)
+{
+    const Scenario& scenario = GetParam();
+    const auto undisturbed = MakeWorld(scenario);
+    scenario.operate(*undisturbed);
+    const std::int32_t lCalls = undisturbed->services.Faults().Count();
+    for (std::int32_t lCall = 1; lCall <= lCalls && !HasFailure(); ++lCall) {
+        const auto world = MakeWorld(scenario);
+        world->services.Faults().NothingAt(lCall);
+        scenario.operate(*world);
+        SCOPED_TRACE("call " + std::to_string(lCall) + ": " + world->services.Faults().Thrown());
+        ExpectBracketsClosed(*world, scenario);
+        ExpectNextEventWorks(*world, scenario);
+    }
+}
+
 TEST_P(EveryCall, MayEndTheMode)
 {
     const Scenario& scenario = GetParam();
