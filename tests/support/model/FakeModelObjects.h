@@ -34,7 +34,8 @@ protected:
         Call("Collection.Item");
         if (lIndex < 0 || lIndex >= static_cast<std::int32_t>(members.size()))
             throw VxError(vxErrorSubscript, "There is nothing at the index " + std::to_string(lIndex));
-        return members[static_cast<std::size_t>(lIndex)];
+        const auto& member = members[static_cast<std::size_t>(lIndex)];
+        return moLog->faults.TakeNothing() ? nullptr : member;
     }
     template <class Object>
     void Append(const std::shared_ptr<Object>& oObject)
