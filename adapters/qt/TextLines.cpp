@@ -1,5 +1,6 @@
 #include "zqbchwcx/qt/TextLines.h"
 
+#include "zqbchwcx/qt/PlainText.h"
 #include "zqbchwcx/qt/UiFont.h"
 
 #include <QFontMetrics>
@@ -9,6 +10,8 @@ namespace zqbchwcx::qt {
 namespace {
 
 constexpr qsizetype CacheLimit = 1024;
+/// More than fit into any cell.
+constexpr qsizetype MostCharacters = 1000;
 
 } // namespace
 
@@ -44,12 +47,7 @@ const TextLines::Line& TextLines::Laid(const QString& text, int width)
     if (mcolLines.size() >= CacheLimit) mcolLines.clear();
     const QFontMetrics metrics(mFont);
     // Whatever the text holds, it is one line.
-    QString single = text;
-    for (QChar& character : single)
-        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
-            character == QChar::ParagraphSeparator)
-            character = u' ';
-    const QString visible = metrics.elidedText(single, Qt::ElideRight, width);
+    const QString visible = metrics.elidedText(PlainText(text, MostCharacters), Qt::ElideRight, width);
     Line line{QStaticText(visible), metrics.horizontalAdvance(visible)};
     line.text.setTextFormat(Qt::PlainText);
     line.text.prepare({}, mFont);
