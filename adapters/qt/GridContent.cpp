@@ -104,8 +104,7 @@ std::vector<std::int32_t> FittedWidths(const std::vector<std::int32_t>& wanted, 
     if (wanted.empty()) return {};
     std::vector<std::int32_t> widths;
     for (const std::int32_t lWidth : wanted) widths.push_back(std::max(lWidth, lSmallest));
-    // Of the last column only the smallest width counts: it lives on what the others leave.
-    widths.back() = lSmallest;
+    widths.back() = std::max(std::min(widths.back(), LastColumnClaim), lSmallest);
     const auto lSum = std::accumulate(widths.begin(), widths.end(), 0);
     const auto lLeast = lSmallest * static_cast<std::int32_t>(widths.size());
     if (lSum > lAvailable && lSum > lLeast) {

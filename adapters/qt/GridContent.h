@@ -61,7 +61,10 @@ private:
 /// Replaces what the format says and keeps what it leaves open. True when that changes something.
 bool Merge(CellFormat& into, const CellFormat& format);
 
-/// The widths of columns, from the left, in a grid of that width: as wanted, the last one wider by what is left over.
+/// More than this of its wanted width the last column, which takes what is left over, does not claim from the others.
+inline constexpr std::int32_t LastColumnClaim = 60;
+
+/// The widths of columns, from the left, in a grid of that width: as wanted, the last one as wide as what is left over.
 /// In a grid that is too narrow all are narrower in proportion, but none narrower than the smallest width.
 std::vector<std::int32_t> FittedWidths(const std::vector<std::int32_t>& wanted, std::int32_t lAvailable,
                                        std::int32_t lSmallest);

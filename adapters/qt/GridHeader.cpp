@@ -65,13 +65,15 @@ void GridHeader::Resized(int logicalIndex, int newSize)
 {
     if (mbFitting || !mbByUser) return;
     // No wider than the others leave room for: nothing is ever out of sight.
+    const int last = this->logicalIndex(count() - 1);
     int room = viewport()->width();
-    for (int visual = 0; visual < count(); ++visual) {
-        const int other = this->logicalIndex(visual);
-        if (other != logicalIndex) room -= visual == count() - 1 ? SmallestWidth : sectionSize(other);
-    }
+    for (int other = 0; other < count(); ++other)
+        if (other != logicalIndex && other != last) room -= sectionSize(other);
+    const int size = std::clamp(newSize, SmallestWidth, std::max(room - SmallestWidth, SmallestWidth));
     mbChanged = true;
-    emit userResized(logicalIndex + 1, std::clamp(newSize, SmallestWidth, std::max(room, SmallestWidth)));
+    emit userResized(logicalIndex + 1, size);
+    // What is taken from the last column is meant to be taken.
+    if (last != logicalIndex && room - size < LastColumnClaim) emit userResized(last + 1, room - size);
     Fit();
 }
 

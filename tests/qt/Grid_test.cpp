@@ -64,7 +64,7 @@ TEST(GridGeometry, everyColumnHasRoomAndTheLastTakesWhatIsLeftOver)
     using qt::FittedWidths;
     using Widths = std::vector<std::int32_t>;
     EXPECT_EQ(FittedWidths({32, 78, 60}, 200, 16), (Widths{32, 78, 90}));
-    EXPECT_EQ(FittedWidths({32, 116, 60}, 148, 16), (Widths{29, 102, 17}));
+    EXPECT_EQ(FittedWidths({32, 116, 60}, 148, 16), (Widths{26, 78, 44}));
     EXPECT_EQ(FittedWidths({32, 78}, 20, 16), (Widths{16, 16}));
     EXPECT_EQ(FittedWidths({}, 20, 16), Widths{});
 }
@@ -206,7 +206,7 @@ TEST_F(GridInput, tooltipsArePlainTextAndShowWhatIsCutOff)
         QApplication::sendEvent(Cells(), &help);
         return QToolTip::text();
     };
-    EXPECT_TRUE(ask({1, 2}).contains("&lt;i&gt;"));
+    EXPECT_FALSE(Qt::mightBeRichText(ask({1, 2})));
     EXPECT_EQ(ask({4, 6}), "Limit switches, conveyor belt and gate");
 }
 
