@@ -1,7 +1,9 @@
 #include "tests/unit/app/AppStage.h"
 
 #include "app/document/SharedView.h"
+#include "app/window/CellMessage.h"
 #include "app/window/ModuleInserter.h"
+#include "app/window/ModuleList.h"
 #include "app/window/PositionText.h"
 #include "app/window/StationView.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
@@ -12,11 +14,12 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/platform/Input.h"
 #include "zqbchwcx/qt/MimeDataObject.h"
+#include "zqbchwcx/qt/RackTableWidget.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTableView>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -40,18 +43,22 @@ protected:
     {
         ShowView(*view->Handler(), *document->Station(), {places, places.back(), places.front()});
     }
-    QTableView& Table() const { return *view->findChild<QTableView*>(); }
     ViewState Shown() const { return CaptureView(*view->Handler()); }
     bool IsEmpty(std::int32_t lPosition) const
     {
         return document->Station()->PlaceAt({0, lPosition / 2})->Module()->IsEmpty();
     }
-    /// Rows of the list that look selected.
-    std::vector<int> SelectedRows() const
+    /// The example in racks of another length.
+    void ShowRacks(std::size_t racks, std::size_t places)
     {
-        std::vector<int> rows;
-        for (const auto& index : Table().selectionModel()->selectedRows()) rows.push_back(index.row());
-        return rows;
+        view.reset();
+        reference::StationData data = OpenExample()->Station()->Data();
+        reference::RackData rack = *data.racks.front();
+        rack.places.resize(places);
+        rack.places.back().module = rack.places.front().module;
+        data.racks.assign(racks, std::make_shared<const reference::RackData>(rack));
+        document = MakeDocument(data);
+        view = std::make_unique<StationView>(*document, nullptr);
     }
 
     std::unique_ptr<Document> document;
@@ -110,33 +117,56 @@ TEST_F(StationViewTest, AnInsertionIsOneStepAndARefusalSaysWhyAndChangesNothing)
     EXPECT_FALSE(document->IsModified());
 }
 
-TEST_F(StationViewTest, TheListAndTheStationShareSelectionAndFocus)
+TEST_F(StationViewTest, ARefusedEditSaysWhyAtItsCell)
+{
+    auto& table = *view->findChild<qt::RackTableWidget*>();
+    view->show();
+    auto& grid = *table.findChild<QTableView*>();
+    Select({Field});
+    const std::string before = document->Station()->PlaceAt({0, 5})->Module()->InputAddressText();
+    QTest::keyClick(&grid, Qt::Key_F2);
+    auto* editor = grid.findChild<QLineEdit*>();
+    ASSERT_TRUE(editor != nullptr && editor->isVisible());
+    editor->setText(QStringLiteral("0"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    const auto* message = view->findChild<CellMessage*>();
+    EXPECT_TRUE(message->isVisible());
+    EXPECT_THAT(message->text().toStdString(), ::testing::MatchesRegex("\"0\" was not taken: .*place 4.*"));
+    EXPECT_EQ(document->Station()->PlaceAt({0, 5})->Module()->InputAddressText(), before);
+}
+
+/// A station that is larger than the table has the list of its modules instead.
+class ModuleListTest : public StationViewTest {
+protected:
+    ModuleListTest() { ShowRacks(2, 12); }
+    QTableView& List() const { return *view->findChild<ModuleList*>()->findChild<QTableView*>(); }
+    std::vector<int> SelectedRows() const
+    {
+        std::vector<int> rows;
+        for (const auto& index : List().selectionModel()->selectedRows()) rows.push_back(index.row());
+        return rows;
+    }
+};
+
+TEST_F(ModuleListTest, SharesSelectionAndFocusWithTheStation)
 {
     Select({Feedback, Field});
     EXPECT_EQ(SelectedRows(), (std::vector{3, 4}));
-    Table().selectRow(10);
+    List().selectRow(10);
     EXPECT_EQ(Shown(), (ViewState{{Empty}, Empty, Empty}));
-}
-
-TEST_F(StationViewTest, TheListExtendsASelectionFromTheSharedPlace)
-{
-    Table().setCurrentIndex(Table().model()->index(9, 0));
     Select({G_PlacePosition(0, 2)});
-    QKeyEvent shiftDown(QEvent::KeyPress, Qt::Key_Down, Qt::ShiftModifier);
-    QCoreApplication::sendEvent(&Table(), &shiftDown);
+    QTest::keyClick(&List(), Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(SelectedRows(), (std::vector<int>{1, 2}));
     EXPECT_EQ(Shown().selection.size(), 2U);
 }
 
-TEST_F(StationViewTest, TheListHasItsMenuOnTheKeyboard)
+TEST_F(ModuleListTest, HasItsMenuOnTheKeyboard)
 {
     int asked = 0;
     QObject::connect(view.get(), &StationView::menuRequested, [&] { ++asked; });
-    QKeyEvent plain(QEvent::KeyPress, Qt::Key_F10, Qt::NoModifier);
-    QKeyEvent withShift(QEvent::KeyPress, Qt::Key_F10, Qt::ShiftModifier);
-    QCoreApplication::sendEvent(&Table(), &plain);
+    QTest::keyClick(&List(), Qt::Key_F10);
     EXPECT_EQ(asked, 0);
-    QCoreApplication::sendEvent(&Table(), &withShift);
+    QTest::keyClick(&List(), Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_EQ(asked, 1);
 }
 
@@ -156,14 +186,7 @@ TEST_F(StationViewTest, PositionsAreToldForPeople)
 TEST_F(StationViewTest, APictureThatIsNotWholeSaysSo)
 {
     const auto told = [&](std::size_t racks, std::size_t places) {
-        view.reset();
-        reference::StationData data = OpenExample()->Station()->Data();
-        reference::RackData rack = *data.racks.front();
-        rack.places.resize(places);
-        rack.places.back().module = rack.places.front().module;
-        data.racks.assign(racks, std::make_shared<const reference::RackData>(rack));
-        document = MakeDocument(data);
-        view = std::make_unique<StationView>(*document, nullptr);
+        ShowRacks(racks, places);
         QString text;
         for (const auto* label : view->findChildren<QLabel*>()) text += label->text();
         return text.toStdString();
@@ -182,7 +205,7 @@ TEST_F(StationViewTest, EveryExampleCanBeShownAndClosed)
         view.reset();
         document = OpenExample(example.toLatin1().constData());
         view = std::make_unique<StationView>(*document, nullptr);
-        EXPECT_GT(Table().model()->rowCount(), 0) << example.toStdString();
+        EXPECT_GT(view->findChild<QTableView*>()->model()->rowCount(), 0) << example.toStdString();
         document->History().Undo();
         EXPECT_FALSE(document->IsModified());
     }

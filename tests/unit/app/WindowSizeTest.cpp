@@ -90,7 +90,7 @@ TEST_F(WindowSizeTest, ListsAndTabsFollowTheFontOfTheDesktop)
 {
     const testing::FontChange font(15);
     MainWindow window(services);
-    window.Files().OpenExample(QString::fromLatin1(testing::Waterworks));
+    window.Files().OpenExample(QStringLiteral(":/examples/assembly-cell.station.json"));
     const auto* table = window.findChild<QTableView*>();
     for (const QWidget* widget :
          {static_cast<const QWidget*>(table), static_cast<const QWidget*>(window.findChild<QTabBar*>())})
