@@ -60,8 +60,8 @@ public:
     /// True when the key is consumed: neither the grid nor its editor then act on it.
     virtual bool OnKeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept = 0;
     virtual void OnKeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept = 0;
-    /// Text was typed while no cell is edited; true when it is consumed. The text is empty when an input method begins to
-    /// compose one: an editor that is opened then goes on with it.
+    /// Text was typed while no cell is edited; true when it is consumed. The text is empty when an input method begins
+    /// to compose one: an editor that is opened then goes on with it.
     virtual bool OnCharacters(std::string_view text) noexcept = 0;
 
     virtual void OnMouseDown(const GridMouse& mouse) noexcept = 0;
@@ -112,8 +112,8 @@ public:
     virtual void ColumnKey(std::int32_t lColumn, std::string_view key) = 0;
     /// The column with the key, 0 when there is none.
     virtual std::int32_t ColumnIndex(std::string_view key) const = 0;
-    /// Logical pixels, as put or as the user made it. The last visible column is shown wider by what is left over; where
-    /// the grid is too narrow for all columns, they are shown narrower.
+    /// Logical pixels, as put or as the user made it. The last visible column is shown wider by what is left over;
+    /// where the grid is too narrow for all columns, they are shown narrower.
     virtual std::int32_t ColumnWidth(std::int32_t lColumn) const = 0;
     virtual void ColumnWidth(std::int32_t lColumn, std::int32_t lWidth) = 0;
     /// The numbers of the columns as they are shown, from the left. A put with other numbers changes nothing.
@@ -132,7 +132,8 @@ public:
     virtual void RowHeight(std::int32_t lHeight) = 0;
     virtual void HeaderHeight(std::int32_t lHeight) = 0;
 
-    /// A put into the edited cell shows in the editor as well, unless the user has typed since it was opened or written.
+    /// A put into the edited cell shows in the editor as well, unless the user has typed since it was opened or
+    /// written.
     virtual std::string CellText(GridCell cell) const = 0;
     virtual void CellText(GridCell cell, std::string_view text) = 0;
     /// The picture in the middle of the cell; null for none.
