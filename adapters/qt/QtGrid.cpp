@@ -25,11 +25,6 @@ void QtGrid::Events(GridEvents* receiver)
     if (mWidget) mWidget->Receiver(receiver);
 }
 
-void QtGrid::AccessibleName(std::string_view name)
-{
-    if (mWidget) mWidget->setAccessibleName(ToQString(name));
-}
-
 void QtGrid::Reset()
 {
     if (!mWidget) return;

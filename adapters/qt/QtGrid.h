@@ -17,7 +17,6 @@ public:
     QtGrid& operator=(const QtGrid&) = delete;
 
     void Events(GridEvents* receiver) override;
-    void AccessibleName(std::string_view name) override;
 
     void Reset() override;
     std::int32_t AddColumn(std::string_view caption) override;

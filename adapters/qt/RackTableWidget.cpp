@@ -1,6 +1,7 @@
 #include "zqbchwcx/qt/RackTableWidget.h"
 
 #include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/GridWidget.h"
 #include "zqbchwcx/qt/HostedView.h"
 #include "zqbchwcx/views/config/VxHWRackTable.h"
 
@@ -73,6 +74,11 @@ void RackTableWidget::RetranslateUi()
 {
     setAccessibleName(tr("Rack table"));
     setAccessibleDescription(tr("Places of a rack with their modules and addresses; the arrow keys move the focus"));
+    // The keyboard, and with it a screen reader, is at the grid.
+    if (auto* grid = findChild<GridWidget*>()) {
+        grid->setAccessibleName(accessibleName());
+        grid->setAccessibleDescription(accessibleDescription());
+    }
 }
 
 } // namespace zqbchwcx::qt

@@ -100,9 +100,6 @@ public:
     /// Who receives the events; null for nobody. The receiver outlives the grid or sets null before it ends.
     virtual void Events(GridEvents* receiver) = 0;
 
-    /// What a screen reader calls the grid.
-    virtual void AccessibleName(std::string_view name) = 0;
-
     /// Drops all columns and all rows but the header.
     virtual void Reset() = 0;
     /// Appends a column and returns its number.

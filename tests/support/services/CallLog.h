@@ -49,7 +49,7 @@ protected:
     {
         moLog->Call(call);
         const bool bNothing = moLog->faults.TakeNothing();
-        if constexpr (std::is_constructible_v<Value, std::nullptr_t> && !std::is_convertible_v<Value, std::string_view>)
+        if constexpr (std::is_convertible_v<std::nullptr_t, Value> && !std::is_convertible_v<Value, std::string_view>)
             if (bNothing) return nullptr;
         return value;
     }

@@ -16,8 +16,6 @@ public:
     RecordingGrid(CallLogPtr log, const Rect& rect) : Logged(std::move(log)), bounds(rect) {}
 
     void Events(GridEvents* receiver) override { mpEvents = receiver; }
-    void AccessibleName(std::string_view name) override { accessibleName = name; }
-
     void Reset() override;
     std::int32_t AddColumn(std::string_view caption) override;
     std::int32_t ColumnCount() const override { return static_cast<std::int32_t>(mcolColumns.size()); }
@@ -105,7 +103,6 @@ public:
     Point Middle(GridCell cell) const;
 
     Rect bounds;
-    std::string accessibleName;
     std::string resetCaption;
     GridScrollBar scrollBar = GridScrollBar::Never;
     std::int32_t caret = 0;          ///< of the editor, in bytes of an ASCII text
