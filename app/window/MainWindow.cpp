@@ -65,7 +65,7 @@ EditOffer OfferOf(const VxHWStation& station, const VxHWSelectionHandler& handle
     offer.copy = handler.IsModuleInSelection() && station.DisplayMode() == vxDisplayModeOffline;
     offer.change = offer.copy && !station.IsReadOnly();
     offer.paste = hasClipboard && !station.IsReadOnly();
-    for (const VxHWRackPlacePtr& place : *handler.SelPlaces()) {
+    for (const VxHWRackPlacePtr& place : handler.SelPlaces()) {
         offer.parameters = offer.parameters || place->Module()->HasParamDialog();
     }
     offer.picture = station.StationKind() == vxStationKindCentral;

@@ -102,12 +102,13 @@ QVariant ModuleListModel::data(const QModelIndex& index, int role) const
     if (!moStation || PositionOf(index.row()) == vxNoPosition) return {};
     QVariant result;
     G_Trap(ClassName, "data", [&] {
+        const VxHWRackPlacePtr place = PlaceAt(index.row());
         switch (role) {
         case Qt::DisplayRole:
-            result = Text(*PlaceAt(index.row()), index.column());
+            result = Text(*place, index.column());
             break;
         case Qt::ToolTipRole:
-            result = ToolTipText(Text(*PlaceAt(index.row()), index.column()));
+            result = ToolTipText(Text(*place, index.column()));
             break;
         case Qt::TextAlignmentRole:
             if (index.column() == Place) result = QVariant(Qt::AlignHCenter | Qt::AlignVCenter);

@@ -70,7 +70,8 @@ QString PositionText(const VxHWStation& station, std::int32_t lPosition)
         else parts << PositionTexts::tr("between places %1 and %2").arg(info.lNumber).arg(info.lNumber + 1);
     } else if (info.eType == vxPositionPlace) {
         parts << PositionTexts::tr("Place %1").arg(info.lNumber);
-        AddPlaceTexts(parts, *rack->Places()->Item(info.lNumber));
+        const VxHWRackPlacePtr place = rack->Places()->Item(info.lNumber);
+        AddPlaceTexts(parts, *place);
     } else if (rack->State() == vxRackNotPresent) {
         parts << PositionTexts::tr("not present");
     }
