@@ -1,8 +1,16 @@
 #include "zqbchwcx/qt/GridModel.h"
 
+#include "zqbchwcx/qt/PlainText.h"
+
 #include <algorithm>
 
 namespace zqbchwcx::qt {
+namespace {
+
+/// Of a text that is shown or read out; more than any cell has room for.
+constexpr qsizetype LongestShown = 400;
+
+} // namespace
 
 void GridModel::Reset()
 {
@@ -46,7 +54,8 @@ void GridModel::TellHeaderChanged(std::int32_t lColumn)
 QVariant GridModel::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) return {};
-    return mContent.Cell(CellOf(index)).text;
+    const QString& text = mContent.Cell(CellOf(index)).text;
+    return role == Qt::EditRole ? text : PlainText(text, LongestShown);
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -109,9 +109,12 @@ StationView::StationView(Document& document, QWidget* parent)
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(0);
     if (table) {
-        line->addWidget(MakeScrollable(SideBySide(left, table)));
+        // The table has its width; where the window leaves less, both are seen in parts.
+        QScrollArea* scroll = MakeScrollable(SideBySide(left, table));
+        scroll->setObjectName(QStringLiteral("stationViews"));
+        scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        line->addWidget(scroll);
     } else {
-        left->setFixedWidth(OverviewWidth);
         QScrollArea* scroll = MakeScrollable(left);
         scroll->setFixedWidth(OverviewWidth);
         line->addWidget(scroll);

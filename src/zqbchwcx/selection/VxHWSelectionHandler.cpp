@@ -225,7 +225,7 @@ bool VxHWSelectionHandler::SetSelectionToClipboard() const noexcept
     VxHWModulesPtr oModules;
     if (!CollectSelectedModules(oModules)) return false;
     return G_Trap(ClassName, "SetSelectionToClipboard", [&] {
-        const auto oExchange = G_ServiceRoot().objectFactory->CreateExchangeData();
+        const auto oExchange = G_Require(G_ServiceRoot().objectFactory->CreateExchangeData(), "The exchange object");
         oExchange->StartEmpty();
         G_Require(moStation, "The station")->WriteModulesToExchange(oModules, oExchange);
         oExchange->PutOnClipboard();

@@ -33,7 +33,7 @@ std::int16_t ConfigTextFormat()
 
 ExchangeDataPtr CreateExchangeData()
 {
-    return G_ServiceRoot().objectFactory->CreateExchangeData();
+    return G_Require(G_ServiceRoot().objectFactory->CreateExchangeData(), "The exchange object");
 }
 
 bool IsGapOrPlace(const PositionInfo& info)

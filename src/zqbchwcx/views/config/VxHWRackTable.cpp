@@ -174,7 +174,7 @@ void VxHWRackTable::OnStation()
     mContent.P_InitializeGrid();
     mvxgrdMain->ResetColumnsCaption(mTexts->Text(TextResetColumns));
     for (std::int32_t lTab = 0; lTab < TabCount; ++lTab) mvxtabMain->Enabled(lTab, false);
-    mvxtabMain->SelectedTab(mContext.oStation ? 0 : -1);
+    mvxtabMain->SelectedTab(0);
 }
 
 void VxHWRackTable::sysinf_Main_SysColorsChanged() noexcept
