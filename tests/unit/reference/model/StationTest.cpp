@@ -58,11 +58,14 @@ protected:
 TEST_F(ReferenceStation, AnyMemberStandsForItsWholeModuleInOrderOfPlaces)
 {
     // The second member of AI2, behind the module of place 8.
-    const ModuleBlock block = BlockOf(*ModulesIn({8, 6, 7}));
+    const auto members = ModulesIn({8, 6, 7});
+    const ModuleBlock block = BlockOf(*members);
     ASSERT_EQ(block.size(), 3u);
-    EXPECT_EQ(block[0], BlockOf(*ModulesIn({5}))[0]);
+    const auto other = ModulesIn({5});
+    EXPECT_EQ(block[0], BlockOf(*other)[0]);
     EXPECT_EQ(block[1], nullptr);
-    EXPECT_EQ(BlockOf(*ModulesIn({6, 8, 5})).size(), 2u) << "both members of AI2";
+    const auto both = ModulesIn({6, 8, 5});
+    EXPECT_EQ(BlockOf(*both).size(), 2u) << "both members of AI2";
 }
 
 TEST_F(ReferenceStation, MembersShowTheirPartOfTheModule)
