@@ -19,12 +19,19 @@ namespace {
 /// Holds back the grid's drawing while it lives.
 class RedrawOff {
 public:
-    explicit RedrawOff(Grid& grid) : mGrid(grid), mbRedraw(grid.Redraw()) { mGrid.Redraw(false); }
-    ~RedrawOff() { mGrid.Redraw(mbRedraw); }
+    RedrawOff(std::string_view className, Grid& grid) : msClassName(className), mGrid(grid), mbRedraw(grid.Redraw())
+    {
+        mGrid.Redraw(false);
+    }
+    ~RedrawOff()
+    {
+        G_Trap(msClassName, "AutoRefresh", [&] { mGrid.Redraw(mbRedraw); });
+    }
     RedrawOff(const RedrawOff&) = delete;
     RedrawOff& operator=(const RedrawOff&) = delete;
 
 private:
+    std::string_view msClassName;
     Grid& mGrid;
     bool mbRedraw;
 };
@@ -45,7 +52,7 @@ void TableContent::P_InitializeGrid() noexcept
 {
     G_Trap(mContext.className, "P_InitializeGrid", [&] {
         auto& grid = Grid();
-        const RedrawOff redrawOff(grid);
+        const RedrawOff redrawOff(mContext.className, grid);
         grid.Reset();
         if (!mContext.oStation) return;
         mRowFill.ReadTexts();
@@ -79,7 +86,7 @@ void TableContent::P_SetBackColor() noexcept
 
 void TableContent::FillAll()
 {
-    const RedrawOff redrawOff(Grid());
+    const RedrawOff redrawOff(mContext.className, Grid());
     for (const auto& oPlace : G_RackByNumber(mContext.oStation, mlRack)->Places()) FillPlace(oPlace);
 }
 
@@ -89,7 +96,7 @@ void TableContent::FillPlace(const VxHWRackPlacePtr& oPlace)
     const std::int32_t lPlace = oPlace->Number();
     const std::int32_t lRow = mRows.RowOf(lPlace);
     if (lRow == 0) return;
-    const RedrawOff redrawOff(Grid());
+    const RedrawOff redrawOff(mContext.className, Grid());
     mRowFill.Fill(Grid(), lRow, oPlace);
     Grid().RowSelected(lRow, IsSelected(lPlace));
 }
@@ -110,7 +117,7 @@ void TableContent::TakeSelection()
 void TableContent::ShowSelection()
 {
     auto& grid = Grid();
-    const RedrawOff redrawOff(grid);
+    const RedrawOff redrawOff(mContext.className, grid);
     for (std::int32_t lRow = 1; lRow <= grid.RowCount(); ++lRow) {
         const bool bSelected = IsSelected(mRows.PlaceOf(lRow));
         if (grid.RowSelected(lRow) != bSelected) grid.RowSelected(lRow, bSelected);
