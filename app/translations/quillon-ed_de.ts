@@ -955,4 +955,22 @@
         <translation>Baugruppenträger der Station mit ihren Plätzen und Baugruppen; die Pfeiltasten bewegen den Fokus</translation>
     </message>
 </context>
+<context>
+    <name>zqbchwcx::qt::RackTableWidget</name>
+    <message>
+        <source>Rack table</source>
+        <translation>Trägertabelle</translation>
+    </message>
+    <message>
+        <source>Places of a rack with their modules and addresses; the arrow keys move the focus</source>
+        <translation>Plätze eines Baugruppenträgers mit ihren Baugruppen und Adressen; die Pfeiltasten bewegen den Fokus</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::StationView</name>
+    <message>
+        <source>&quot;%1&quot; was not taken: %2</source>
+        <translation>„%1“ wurde nicht übernommen: %2</translation>
+    </message>
+</context>
 </TS>
