@@ -1,3 +1,4 @@
+#include "app/commandline/Complain.h"
 #include "app/commandline/HelpText.h"
 #include "app/commandline/OpenStations.h"
 #include "app/commandline/ParseCommandLine.h"
@@ -20,15 +21,15 @@ int refuse(const UsageError& error)
     const std::string word = CommandWord(error.understood.command);
     const std::string command = word.empty() ? "quillon-ed" : "quillon-ed " + word;
     const Language language = LanguageOf(error.understood);
-    std::cerr << "quillon-ed: " << error.reason.In(language) << '\n'
-              << LocalizedText{"See '" + command + " --help'.", "Siehe '" + command + " --help'."}.In(language) << '\n';
+    Complain(std::cerr, error.reason.In(language));
+    std::cerr << LocalizedText{"See '" + command + " --help'.", "Siehe '" + command + " --help'."}.In(language) << '\n';
     return ExitUsage;
 }
 
 /// What the window system's layer remarks about the desktop is nothing to a command that needs none.
 void keepQuietAboutTheDesktop(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
-    if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << "quillon-ed: " << text.toStdString() << '\n';
+    if (type == QtCriticalMsg || type == QtFatalMsg) Complain(std::cerr, text.toStdString());
 }
 
 Language languageOfStart = Language::English;
@@ -39,7 +40,7 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&
     if (type != QtFatalMsg) return;
     const LocalizedText reason{"no window can be opened: no display can be reached",
                                "es kann kein Fenster geöffnet werden: kein Bildschirm ist erreichbar"};
-    std::cerr << "quillon-ed: " << reason.In(languageOfStart) << '\n';
+    Complain(std::cerr, reason.In(languageOfStart));
     std::_Exit(ExitFile);
 }
 

@@ -1,5 +1,6 @@
 #include "app/commandline/OpenStations.h"
 
+#include "app/commandline/Complain.h"
 #include "app/commandline/RunCommand.h"
 #include "app/commandline/TellErrors.h"
 #include "app/host/AppServices.h"
@@ -27,7 +28,7 @@ void openOtherStations(const CommandLine& line)
                       << (*line.language == Language::German ? QStringLiteral("de") : QStringLiteral("en"));
         arguments << QStringLiteral("--") << ToQString(line.files[i]);
         if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments))
-            std::cerr << "quillon-ed: " << line.files[i] << ": another program could not be started for it\n";
+            Complain(std::cerr, line.files[i] + ": another program could not be started for it");
     }
 }
 

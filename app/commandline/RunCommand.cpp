@@ -1,5 +1,6 @@
 #include "app/commandline/RunCommand.h"
 
+#include "app/commandline/Complain.h"
 #include "app/commandline/TellErrors.h"
 #include "app/export/PartShown.h"
 #include "app/host/ShippedData.h"
@@ -70,7 +71,7 @@ int EndOutput(const CommandStreams& streams, Language language, int exitCode)
     if (streams.out.flush()) return exitCode;
     const LocalizedText reason{"standard output cannot be written",
                                "die Standardausgabe kann nicht geschrieben werden"};
-    streams.err << "quillon-ed: " << reason.In(language) << '\n';
+    Complain(streams.err, reason.In(language));
     return ExitFile;
 }
 

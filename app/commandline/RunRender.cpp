@@ -1,5 +1,6 @@
 #include "app/commandline/RunRender.h"
 
+#include "app/commandline/Complain.h"
 #include "app/commandline/RunCommand.h"
 #include "app/commandline/TellErrors.h"
 #include "app/export/ExportOverview.h"
@@ -21,8 +22,7 @@ namespace {
 /// What the library reports while it draws is no reason to stop, but must not be lost either.
 void tellReports(const ErrorLog& log, std::ostream& err)
 {
-    for (const ErrorEntry& entry : log.Entries())
-        err << "quillon-ed: " << entry.source << ": " << entry.description << '\n';
+    for (const ErrorEntry& entry : log.Entries()) Complain(err, entry.source + ": " + entry.description);
 }
 
 } // namespace
@@ -33,15 +33,14 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
         UserSettings settings;
         AppServices services(settings.Settings());
         services.ShowLanguage(LanguageOf(line));
-        if (settings.Refused()) streams.err << "quillon-ed: " << settings.Refused()->Message(LanguageOf(line)) << '\n';
+        if (settings.Refused()) Complain(streams.err, settings.Refused()->Message(LanguageOf(line)));
 
         const std::string& file = line.files[0];
         StationData data = LoadStation(file, services.Catalogue()).data;
         if (data.kind != zqbchwcx::vxStationKindCentral)
             throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed",
                             "die Übersicht zeigt zentrale Stationen, und diese ist dezentral");
-        if (const auto part = PartShown(data))
-            streams.err << "quillon-ed: " << file << ": " << part->In(LanguageOf(line)) << '\n';
+        if (const auto part = PartShown(data)) Complain(streams.err, file + ": " + part->In(LanguageOf(line)));
         const PageHeader header{PlainText(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
         ExportOverview(std::make_shared<Station>(services.Context(), std::move(data)), header, line.scale,

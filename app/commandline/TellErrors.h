@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/commandline/CommandLine.h"
+#include "app/commandline/Complain.h"
 
 #include "zqbchwcx/reference/json/FileError.h"
 
@@ -17,14 +18,14 @@ int TellErrors(std::ostream& err, zqbchwcx::reference::Language language, Body&&
     try {
         return body();
     } catch (const zqbchwcx::reference::FileError& error) {
-        err << "quillon-ed: " << error.Message(language) << '\n';
+        Complain(err, error.Message(language));
         return ExitFile;
     } catch (const std::bad_alloc&) {
         const LocalizedText reason{"there is not enough memory", "der Speicher reicht nicht"};
-        err << "quillon-ed: " << reason.In(language) << '\n';
+        Complain(err, reason.In(language));
         return ExitFile;
     } catch (const std::exception& error) {
-        err << "quillon-ed: " << error.what() << '\n';
+        Complain(err, error.what());
         return ExitFile;
     }
 }

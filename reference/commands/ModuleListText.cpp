@@ -1,5 +1,7 @@
 #include "zqbchwcx/reference/commands/ModuleListText.h"
 
+#include "zqbchwcx/reference/commands/TerminalLine.h"
+
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -64,15 +66,23 @@ std::string CsvLine(const Line& line)
     return text + "\r\n";
 }
 
-/// A cell of a table in which a line is a row: a bar would end the cell, a line end the table.
-std::string MarkdownField(const std::string& text)
+/// A cell of a table in which a line is a row: a bar would end the cell, a line end the table, and what means something
+/// in Markdown or HTML would not be seen as it was written.
+std::string MarkdownField(std::string_view text)
 {
+    constexpr std::string_view meaning = "|\\<&*_`[";
     std::string field;
-    for (const char character : text) {
-        if (character == '|' || character == '\\') field += '\\';
-        if (character == '\r') continue;
-        if (character == '\n') field += "<br>";
-        else field += character;
+    for (;;) {
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        for (const char character : TerminalLine(line)) {
+            if (meaning.find(character) != std::string_view::npos) field += '\\';
+            field += character;
+        }
+        if (end == std::string_view::npos) break;
+        field += "<br>";
+        text.remove_prefix(end + 1);
     }
     return field;
 }
@@ -82,13 +92,6 @@ std::string MarkdownLine(const Line& line)
     std::string text = "|";
     for (const std::string& cell : line) text.append(" ").append(MarkdownField(cell)).append(" |");
     return text + "\n";
-}
-
-std::string OneLine(std::string text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n' || c == '\t'; }, ' ');
-    return text;
 }
 
 /// The columns that a text takes, as far as counting its characters tells.
@@ -105,7 +108,7 @@ std::string WritePlain(const std::vector<ModuleRow>& rows, Language language)
     std::array<std::size_t, 8> widths{};
     for (Line& line : lines)
         for (std::size_t i = 0; i < line.size(); ++i) {
-            line[i] = OneLine(std::move(line[i]));
+            line[i] = TerminalLine(line[i]);
             widths[i] = std::max(widths[i], Width(line[i]));
         }
     std::string text;

@@ -8,6 +8,7 @@
 namespace zqbchwcx::reference {
 namespace {
 
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -47,6 +48,23 @@ TEST(ModuleListText, KeepsTablesWhole)
     const auto json = nlohmann::json::parse(WriteModuleList(Awkward, ListFormat::Json, Language::German));
     EXPECT_EQ(json[1]["comment"], "Größe\r\nzwei");
     EXPECT_EQ(json[0].count("outputs"), 0U);
+}
+
+TEST(ModuleListText, ShowsForeignTextsAsText)
+{
+    const std::vector<ModuleRow> hostile = {
+        {0, 1, 0, "a\x1b[2J\x07\u009b1m", "\u202Eb\u2066", "\u2028", "\x7f", "<img src=x> *[x](y)* `_&lt;"}};
+    const auto text = [&](ListFormat format) {
+        const std::string all = WriteModuleList(hostile, format, Language::English);
+        return all.substr(all.rfind('\n', all.size() - 2) + 1);
+    };
+    EXPECT_THAT(text(ListFormat::Plain), StartsWith("0     1                  a [2J  1m  b    "));
+    EXPECT_THAT(text(ListFormat::Plain), EndsWith("    <img src=x> *[x](y)* `_&lt;\n"));
+    EXPECT_EQ(text(ListFormat::Markdown),
+              "| 0 | 1 |  | a \\[2J  1m | b |   |   | \\<img src=x> \\*\\[x](y)\\* \\`\\_\\&lt; |\n");
+    const std::vector<Refusal> found = {{Rule::WrongPlace, {0, 4}, {"No\x1b[1m\nreally.", ""}}};
+    EXPECT_EQ(WriteCheckReport(found, "a\nb.json", Language::English),
+              "a b.json: place 4 of rack 0: wrong-place: No [1m really.\n");
 }
 
 TEST(CheckReport, SaysFilePlaceRuleAndReason)
