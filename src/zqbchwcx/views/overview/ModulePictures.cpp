@@ -1,22 +1,11 @@
 #include "zqbchwcx/views/overview/ModulePictures.h"
 
 #include "zqbchwcx/foundation/Nothing.h"
+#include "zqbchwcx/foundation/UpperCase.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/foundation/mdl_Main.h"
 
 namespace zqbchwcx {
-namespace {
-
-std::string ToUpper(std::string text)
-{
-    for (char& c : text) {
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    }
-    return text;
-}
-
-} // namespace
-
 void ModulePictures::Load(TextModule& textModule, const PictureStrip& strip)
 {
     mcolWithoutPicture.clear();
@@ -32,7 +21,7 @@ std::string ModulePictures::KeyOf(const VxHWModule& oModule, std::string_view de
 {
     std::string key(defaultKey);
     G_Trap(msClassName, "P_GetModulePicName", [&] {
-        std::string name = ToUpper(oModule.PictureName());
+        std::string name = G_UpperCase(oModule.PictureName());
         if (name.starts_with("IDB_") || List().Contains(name) || AddFile(name)) key = std::move(name);
     });
     return key;
