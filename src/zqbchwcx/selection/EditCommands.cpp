@@ -29,8 +29,8 @@ bool IsEditableModuleInSelection(const VxHWSelectionHandler& selection)
 
 } // namespace
 
-EditCommands G_PossibleEditCommands(std::string_view className, const VxHWStationPtr& oStation,
-                                    const VxHWSelectionHandlerPtr& oSelHandler) noexcept
+EditCommands G_PossibleSelectionCommands(std::string_view className, const VxHWStationPtr& oStation,
+                                         const VxHWSelectionHandlerPtr& oSelHandler) noexcept
 {
     EditCommands possible;
     G_Trap(className, "P_IsEditableModuleInSelection", [&] {
@@ -40,10 +40,20 @@ EditCommands G_PossibleEditCommands(std::string_view className, const VxHWStatio
     G_Trap(className, "P_PossibleEditCommands", [&] {
         const auto oSelection = G_Require(oSelHandler, "The selection handler");
         const auto oKept = G_Require(oStation, "The station");
-        const bool bChangeable = !oKept->IsReadOnly();
         possible.bCopy = oSelection->IsModuleInSelection() && oKept->DisplayMode() == vxDisplayModeOffline;
-        possible.bCut = possible.bDelete = possible.bCopy && bChangeable;
-        possible.bPaste = bChangeable && CanPaste(oKept, oSelection->FocusPosition());
+        possible.bCut = possible.bDelete = possible.bCopy && !oKept->IsReadOnly();
+    });
+    return possible;
+}
+
+EditCommands G_PossibleEditCommands(std::string_view className, const VxHWStationPtr& oStation,
+                                    const VxHWSelectionHandlerPtr& oSelHandler) noexcept
+{
+    EditCommands possible = G_PossibleSelectionCommands(className, oStation, oSelHandler);
+    G_Trap(className, "P_PossibleEditCommands", [&] {
+        const auto oSelection = G_Require(oSelHandler, "The selection handler");
+        const auto oKept = G_Require(oStation, "The station");
+        possible.bPaste = !oKept->IsReadOnly() && CanPaste(oKept, oSelection->FocusPosition());
     });
     return possible;
 }

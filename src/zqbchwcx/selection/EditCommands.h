@@ -18,9 +18,13 @@ struct EditCommands {
     bool operator==(const EditCommands&) const = default;
 };
 
-/// Edit needs a selected module with a parameter dialog; copy a selected module of an offline station; cut and delete
-/// also that the station may be changed; paste that, and modules on the clipboard that can be placed at the focus.
-/// An error is reported under the class; what it keeps from being known is not possible.
+/// All but pasting, for hosts that ask more often than they may ask for the clipboard. Edit needs a selected module
+/// with a parameter dialog; copy a selected module of an offline station; cut and delete also that the station may be
+/// changed. An error is reported under the class; what it keeps from being known is not possible.
+EditCommands G_PossibleSelectionCommands(std::string_view className, const VxHWStationPtr& oStation,
+                                         const VxHWSelectionHandlerPtr& oSelHandler) noexcept;
+
+/// These, and paste: the station may be changed, and the modules on the clipboard can be placed at the focus.
 EditCommands G_PossibleEditCommands(std::string_view className, const VxHWStationPtr& oStation,
                                     const VxHWSelectionHandlerPtr& oSelHandler) noexcept;
 
