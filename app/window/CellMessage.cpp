@@ -26,6 +26,7 @@ CellMessage::CellMessage(QWidget* parent) : QLabel(parent)
     setBackgroundRole(QPalette::ToolTipBase);
     setForegroundRole(QPalette::ToolTipText);
     setAutoFillBackground(true);
+    setAttribute(Qt::WA_TransparentForMouseEvents); // what it covers can be pressed
     hide();
     mGoes.setSingleShot(true);
     mGoes.setInterval(StaysMilliseconds);
@@ -46,11 +47,6 @@ void CellMessage::Tell(const QString& text, const QRect& cellOnScreen)
     show();
     raise();
     mGoes.start();
-}
-
-void CellMessage::mousePressEvent(QMouseEvent* /*event*/)
-{
-    hide();
 }
 
 void CellMessage::paintEvent(QPaintEvent* event)

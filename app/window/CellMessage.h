@@ -5,8 +5,8 @@
 
 namespace quillon_ed {
 
-/// A note at a cell: what was typed and why it was not taken. It goes after a while, with a press of the mouse on it,
-/// or when another one comes.
+/// A note at a cell: what was typed and why it was not taken. It goes after a while, or when
+/// another one comes, and lets presses of the mouse through to what it covers.
 class CellMessage : public QLabel {
     Q_OBJECT
 
@@ -17,7 +17,6 @@ public:
     void Tell(const QString& text, const QRect& cellOnScreen);
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

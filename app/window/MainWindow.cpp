@@ -20,11 +20,9 @@
 #include "app/window/StatusLine.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/foundation/mdl_Main.h"
-#include "zqbchwcx/foundation/model/VxHWModule.h"
 #include "zqbchwcx/foundation/model/VxHWModules.h"
-#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
-#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
+#include "zqbchwcx/selection/EditCommands.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -48,29 +46,6 @@ constexpr qsizetype LongestMenuText = 60;
 constexpr int CatalogueCharacters = 48; ///< names and order numbers are whole
 const QString GeometryKey = QStringLiteral("Window/Geometry");
 const QString StateKey = QStringLiteral("Window/State");
-
-/// What can be done with a station and its selection.
-struct EditOffer {
-    bool copy = false;
-    bool change = false;
-    bool paste = false;
-    bool parameters = false;
-    bool picture = false;
-};
-
-/// Pasting is offered wherever the focus is, as inserting is: what speaks against a place is told when it is tried.
-EditOffer OfferOf(const VxHWStation& station, const VxHWSelectionHandler& handler, bool hasClipboard)
-{
-    EditOffer offer;
-    offer.copy = handler.IsModuleInSelection() && station.DisplayMode() == vxDisplayModeOffline;
-    offer.change = offer.copy && !station.IsReadOnly();
-    offer.paste = hasClipboard && !station.IsReadOnly();
-    for (const VxHWRackPlacePtr& place : handler.SelPlaces()) {
-        offer.parameters = offer.parameters || place->Module()->HasParamDialog();
-    }
-    offer.picture = station.StationKind() == vxStationKindCentral;
-    return offer;
-}
 
 QString InSentence(const QString& step, Language language)
 {
@@ -253,6 +228,12 @@ void MainWindow::changeEvent(QEvent* event)
     }
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    PaintedFrame::resizeEvent(event);
+    GiveViewsRoom();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     // A menu's command runs inside the view that would end.
@@ -326,10 +307,20 @@ void MainWindow::ShowDocument()
         moRefused = document->Station()->Refused.Connect(tell);
         ReadClipboard();
         moView->FocusStation();
+        GiveViewsRoom();
     } else {
         moPages->setCurrentWidget(moStartPage);
     }
     UpdateActions();
+}
+
+void MainWindow::GiveViewsRoom()
+{
+    // Asked when the window's own layout has been done.
+    QTimer::singleShot(0, this, [this] {
+        const int lacking = moView && !moCatalogueDock->isFloating() ? moView->LackingWidth() : 0;
+        if (lacking > 0) resizeDocks({moCatalogueDock}, {moCatalogueDock->width() - lacking}, Qt::Horizontal);
+    });
 }
 
 void MainWindow::UpdateTitle()
@@ -362,19 +353,21 @@ void MainWindow::UpdateActions()
     moActions.editRedo.setEnabled(history && history->CanRedo());
     moActions.NameUndo(history ? name(history->UndoName()) : QString(),
                        history ? name(history->RedoName()) : QString());
-    EditOffer offer;
+    EditCommands possible;
     if (document) {
+        possible = G_PossibleSelectionCommands(ClassName, document->Station(), moView->Handler());
+        // Offered wherever the focus is, as inserting is: what speaks against a place is told when it is tried.
         G_Trap(ClassName, "UpdateActions", [&] {
-            const bool hasClipboard = moClipboardModules && moClipboardModules->Count() > 0;
-            offer = OfferOf(*document->Station(), *moView->Handler(), hasClipboard);
+            possible.bPaste =
+                moClipboardModules && moClipboardModules->Count() > 0 && !document->Station()->IsReadOnly();
         });
     }
-    moActions.editCopy.setEnabled(offer.copy);
-    moActions.editCut.setEnabled(offer.change);
-    moActions.editDelete.setEnabled(offer.change);
-    moActions.editPaste.setEnabled(offer.paste);
-    moActions.editParameters.setEnabled(offer.parameters);
-    moActions.exportPicture.setEnabled(offer.picture);
+    moActions.editCopy.setEnabled(possible.bCopy);
+    moActions.editCut.setEnabled(possible.bCut);
+    moActions.editDelete.setEnabled(possible.bDelete);
+    moActions.editPaste.setEnabled(possible.bPaste);
+    moActions.editParameters.setEnabled(possible.bEditModuleParams);
+    moActions.exportPicture.setEnabled(document && document->Station()->StationKind() == vxStationKindCentral);
 }
 
 void MainWindow::ReadClipboard()

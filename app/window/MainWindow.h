@@ -35,6 +35,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void ConnectFileActions();
@@ -49,6 +50,8 @@ private:
 
     void CloseView();
     void ShowDocument();
+    /// Takes from the catalogue what the views of the station need to stand side by side.
+    void GiveViewsRoom();
     void UpdateTitle();
     void UpdateActions();
     void ReadClipboard();

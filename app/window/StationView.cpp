@@ -20,13 +20,15 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace quillon_ed {
 
 using namespace zqbchwcx;
 
 namespace {
 
-constexpr int OverviewWidth = 262; // the racks, and room for the arrow to the list
+constexpr int OverviewWidth = 256; // the racks, and room for the arrow to the list
 
 /// On a low screen the picture is seen in parts; what lies beside it for its arrow moves with it.
 QScrollArea* MakeScrollable(QWidget* content)
@@ -110,10 +112,10 @@ StationView::StationView(Document& document, QWidget* parent)
     line->setSpacing(0);
     if (table) {
         // The table has its width; where the window leaves less, both are seen in parts.
-        QScrollArea* scroll = MakeScrollable(SideBySide(left, table));
-        scroll->setObjectName(QStringLiteral("stationViews"));
-        scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-        line->addWidget(scroll);
+        moViews = MakeScrollable(SideBySide(left, table));
+        moViews->setObjectName(QStringLiteral("stationViews"));
+        moViews->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+        line->addWidget(moViews);
     } else {
         QScrollArea* scroll = MakeScrollable(left);
         scroll->setFixedWidth(OverviewWidth);
@@ -228,6 +230,11 @@ void StationView::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) TellPartShown();
+}
+
+int StationView::LackingWidth() const
+{
+    return moViews ? std::max(moViews->widget()->minimumSizeHint().width() - moViews->viewport()->width(), 0) : 0;
 }
 
 void StationView::FocusStation()

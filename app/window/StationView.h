@@ -13,6 +13,7 @@
 #include <vector>
 
 class QLabel;
+class QScrollArea;
 
 namespace quillon_ed {
 
@@ -36,6 +37,8 @@ public:
     /// What undo brings back: during a drag, whose focus follows the mouse, the view from before the drag.
     zqbchwcx::reference::ViewState View() const;
     void FocusStation();
+    /// How many pixels more the views need to be seen side by side as a whole; 0 for none.
+    int LackingWidth() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -65,7 +68,8 @@ private:
     zqbchwcx::VxHWSelectionHandlerPtr moHandler;
     std::shared_ptr<DragWatch> moDragWatch;
     QWidget* moOverviewWidget = nullptr;
-    ModuleList* moList = nullptr; ///< where there is no table
+    QScrollArea* moViews = nullptr; ///< where there is a table
+    ModuleList* moList = nullptr;   ///< where there is no table
     CellMessage* moCellMessage;
     QString msRefusal;             ///< why the model refused the last change
     QLabel* moPartShown = nullptr; ///< below a picture that is not whole
