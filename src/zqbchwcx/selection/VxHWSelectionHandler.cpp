@@ -138,16 +138,14 @@ void VxHWSelectionHandler::SelectRack(const VxHWRackPtr& oRack) noexcept
 
 bool VxHWSelectionHandler::IsParentModuleSelected(const VxHWModulePtr& oParentModule) const noexcept
 {
-    bool bSelected = false;
-    G_Trap(ClassName, "IsParentModuleSelected", [&] {
+    return G_TrapValue(ClassName, "IsParentModuleSelected", false, [&] {
         const auto oPlaces = G_Require(moStation, "The station")->ParentModulePlaces(oParentModule);
         for (const auto& oPlace : oPlaces) {
             if (oPlace->Module()->IndexInParent() < 1) continue;
-            bSelected = G_Require(moSelPlaces, "The selection")->Contains(oPlace);
-            if (bSelected) return;
+            if (G_Require(moSelPlaces, "The selection")->Contains(oPlace)) return true;
         }
+        return false;
     });
-    return bSelected;
 }
 
 bool VxHWSelectionHandler::IsModuleInSelection() const noexcept
@@ -171,13 +169,10 @@ bool VxHWSelectionHandler::FindModuleInSelection(bool& bFound) const noexcept
 
 bool VxHWSelectionHandler::IsModuleInFocus() const noexcept
 {
-    bool bModule = false;
-    G_Trap(ClassName, "IsModuleInFocus", [&] {
+    return G_TrapValue(ClassName, "IsModuleInFocus", false, [&] {
         const PositionInfo focus = G_PositionInfo(mlFocusPosition);
-        if (focus.eType != vxPositionPlace) return;
-        bModule = HasModule(G_PlaceByNumber(moStation, focus.lRack, focus.lNumber));
+        return focus.eType == vxPositionPlace && HasModule(G_PlaceByNumber(moStation, focus.lRack, focus.lNumber));
     });
-    return bModule;
 }
 
 VxHWModulesPtr VxHWSelectionHandler::GetSelectedModules() const noexcept

@@ -36,7 +36,7 @@ void ConfigKeyController::KeyReturn() noexcept
     });
 }
 
-void ConfigKeyController::P_CursorKeyDown(std::int32_t lNewPosition, std::int16_t nShift) noexcept
+void ConfigKeyController::CursorKey(std::int32_t lNewPosition, std::int16_t nShift) noexcept
 {
     G_Trap(className(), "IVxHWKeyInputController_CursorKeyDown", [&] {
         const auto oHandler = SelHandler();
@@ -51,7 +51,7 @@ void ConfigKeyController::P_CursorKeyDown(std::int32_t lNewPosition, std::int16_
     });
 }
 
-void ConfigKeyController::P_SpaceKeyDown(std::int16_t nShift) noexcept
+void ConfigKeyController::SpaceKey(std::int16_t nShift) noexcept
 {
     G_Trap(className(), "IVxHWKeyInputController_SpaceKeyDown", [&] {
         const auto oHandler = SelHandler();
@@ -75,7 +75,7 @@ void ConfigKeyController::P_SpaceKeyDown(std::int16_t nShift) noexcept
     });
 }
 
-void ConfigKeyController::P_Copy() noexcept
+void ConfigKeyController::CopySelection() noexcept
 {
     RunAsCommand(TextCopy, "IVxHWKeyInputController_Copy", [&] { SelHandler()->SetSelectionToClipboard(); });
 }
@@ -83,8 +83,10 @@ void ConfigKeyController::P_Copy() noexcept
 void ConfigKeyController::SelectPosition(std::int32_t lPosition) const
 {
     const PositionInfo info = G_PositionInfo(lPosition);
-    if (info.eType != vxPositionPlace) return G_ClearSelection(SelHandler());
-    G_SelectPlace(SelHandler(), G_PlaceByNumber(Station(), info.lRack, info.lNumber));
+    const auto oSelPlaces = G_SelPlaces(SelHandler());
+    oSelPlaces->Clear();
+    if (info.eType == vxPositionPlace) oSelPlaces->Add(G_PlaceByNumber(Station(), info.lRack, info.lNumber));
+    SelHandler()->SelChangeComplete();
 }
 
 void ConfigKeyController::RunAsAction(std::int32_t lTextId, std::string_view procedureName,

@@ -20,9 +20,9 @@ protected:
     explicit ConfigKeyController(std::string_view className) noexcept;
 
     /// The focus follows the key; the selection follows it alone without modifiers, from the anchor with Shift.
-    void P_CursorKeyDown(std::int32_t lNewPosition, std::int16_t nShift) noexcept;
-    void P_SpaceKeyDown(std::int16_t nShift) noexcept;
-    void P_Copy() noexcept;
+    void CursorKey(std::int32_t lNewPosition, std::int16_t nShift) noexcept;
+    void SpaceKey(std::int16_t nShift) noexcept;
+    void CopySelection() noexcept;
 
     /// Empties the selection or, when the position is a place, selects that place alone.
     void SelectPosition(std::int32_t lPosition) const;

@@ -169,30 +169,26 @@ void VxHWConfigCtrlDD::OLECompleteDrag(std::int32_t& lEffect) noexcept
 
 bool VxHWConfigCtrlDD::IsDropPlace(const VxHWRackPlacePtr& oPlace) const noexcept
 {
-    bool bDropPlace = false;
-    G_Trap(className(), "IsDropPlace", [&] {
-        if (meState != vxDragDropStateActive) return;
+    return G_TrapValue(className(), "IsDropPlace", false, [&] {
+        if (meState != vxDragDropStateActive) return false;
         const std::int32_t lRack = G_Require(oPlace, "The place")->Rack()->Number();
         const std::int32_t lPlace = oPlace->Number();
-        bDropPlace = malPossibleDropPlaces.Contains(lRack, lPlace) && malPossibleDropPlaces.Get(lRack, lPlace) == -1;
+        return malPossibleDropPlaces.Contains(lRack, lPlace) && malPossibleDropPlaces.Get(lRack, lPlace) == -1;
     });
-    return bDropPlace;
 }
 
 bool VxHWConfigCtrlDD::IsValidDragPosition(std::int32_t lPosition) const noexcept
 {
-    bool bValid = false;
-    G_Trap(className(), "IVxHWDragDropController_IsValidDragPosition", [&] {
+    return G_TrapValue(className(), "IVxHWDragDropController_IsValidDragPosition", false, [&] {
         const PositionInfo info = G_PositionInfo(lPosition);
-        if (info.eType == vxPositionNone || !G_Exists(Station(), info)) return;
+        if (info.eType == vxPositionNone || !G_Exists(Station(), info)) return false;
         const auto oHandler = SelHandler();
         if (IsGapOrPlace(info)) {
             const auto oPlace = G_PlaceByNumber(Station(), info.lRack, G_PlaceNumberAt(info));
-            if (!G_SelPlaces(oHandler)->Contains(oPlace)) return;
+            if (!G_SelPlaces(oHandler)->Contains(oPlace)) return false;
         }
-        bValid = oHandler->IsModuleInFocus();
+        return oHandler->IsModuleInFocus();
     });
-    return bValid;
 }
 
 void VxHWConfigCtrlDD::P_FillDragModules(const DataObjectPtr& oData, bool bWithExchange) noexcept
@@ -226,18 +222,14 @@ void VxHWConfigCtrlDD::P_FillPossibleDropPlaces() noexcept
 
 bool VxHWConfigCtrlDD::P_CanBePlaced(std::int32_t lPosition, std::int16_t nShift) noexcept
 {
-    bool bCanBePlaced = false;
-    G_Trap(className(), "P_CanBePlaced", [&] {
-        if (const auto found = mcolCanBePlaced.find(lPosition); found != mcolCanBePlaced.end()) {
-            bCanBePlaced = found->second;
-            return;
-        }
+    return G_TrapValue(className(), "P_CanBePlaced", false, [&] {
+        if (const auto found = mcolCanBePlaced.find(lPosition); found != mcolCanBePlaced.end()) return found->second;
         const bool bMove = IsMove(nShift);
         const auto oSourcePlaces = bMove ? G_SelPlaces(SelHandler()) : nullptr;
-        bCanBePlaced = Station()->CanBePlaced(lPosition, moDragModules, bMove, oSourcePlaces);
+        const bool bCanBePlaced = Station()->CanBePlaced(lPosition, moDragModules, bMove, oSourcePlaces);
         mcolCanBePlaced.emplace(lPosition, bCanBePlaced);
+        return bCanBePlaced;
     });
-    return bCanBePlaced;
 }
 
 void VxHWConfigCtrlDD::P_CheckDropEffect(std::int32_t& lEffect, bool bCanDrop, std::int16_t /*nButton*/,

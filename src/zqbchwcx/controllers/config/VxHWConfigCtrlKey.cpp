@@ -21,12 +21,12 @@ VxHWConfigCtrlKey::VxHWConfigCtrlKey() noexcept : ConfigKeyController("VxHWConfi
 
 void VxHWConfigCtrlKey::CursorKeyDown(std::int32_t lNewPosition, std::int16_t nShift) noexcept
 {
-    P_CursorKeyDown(lNewPosition, nShift);
+    CursorKey(lNewPosition, nShift);
 }
 
 void VxHWConfigCtrlKey::SpaceKeyDown(std::int16_t nShift) noexcept
 {
-    P_SpaceKeyDown(nShift);
+    SpaceKey(nShift);
 }
 
 void VxHWConfigCtrlKey::Delete() noexcept
@@ -48,7 +48,7 @@ void VxHWConfigCtrlKey::Cut() noexcept
 
 void VxHWConfigCtrlKey::Copy() noexcept
 {
-    P_Copy();
+    CopySelection();
 }
 
 void VxHWConfigCtrlKey::Paste() noexcept

@@ -58,12 +58,12 @@ void VxHWConfigCtrlMouse::MouseDown(std::int32_t lPosition, std::int16_t nButton
 
         const Modifiers modifiers = G_Modifiers(nShift);
         if (modifiers == Modifiers::Other) return;
-        if (pressed.eType == vxPositionRack) return P_MouseDownOnRack(lPosition, pressed.lRack);
-        if (modifiers == Modifiers::Shift) return P_MouseDownShift(lPosition, pressed.lRack, pressed.lNumber);
+        if (pressed.eType == vxPositionRack) return P_MouseDownOnRack(pressed);
+        if (modifiers == Modifiers::Shift) return P_MouseDownShift(pressed);
         // With Ctrl the release decides, so that a multiple selection can be dragged as a copy.
         if (modifiers == Modifiers::Ctrl) return;
-        if (pressed.eType == vxPositionGap) P_MouseDownOnGap(lPosition, pressed.lRack, pressed.lNumber);
-        else P_MouseDownOnPlace(lPosition, pressed.lRack, pressed.lNumber);
+        if (pressed.eType == vxPositionGap) P_MouseDownOnGap(pressed);
+        else P_MouseDownOnPlace(pressed);
     });
 }
 
@@ -71,8 +71,7 @@ void VxHWConfigCtrlMouse::MouseUp(std::int32_t /*lPosition*/, std::int16_t nButt
 {
     G_Trap(className(), "IVxHWMouseInputController_MouseUp", [&] {
         if (nButton != vxButtonLeft) return;
-        const std::int32_t lPosition = mlMouseDownPosition;
-        const PositionInfo pressed = G_PositionInfo(lPosition);
+        const PositionInfo pressed = G_PositionInfo(mlMouseDownPosition);
         if (pressed.eType == vxPositionNone) return;
         if (!G_IsPresent(Station(), pressed)) return;
         if (pressed.eType == vxPositionRack) return;
@@ -80,96 +79,106 @@ void VxHWConfigCtrlMouse::MouseUp(std::int32_t /*lPosition*/, std::int16_t nButt
         const bool bGap = pressed.eType == vxPositionGap;
         const Modifiers modifiers = G_Modifiers(nShift);
         if (modifiers == Modifiers::None) {
-            if (bGap) P_MouseUpOnGap(lPosition, pressed.lRack, pressed.lNumber);
-            else P_MouseUpOnPlace(lPosition, pressed.lRack, pressed.lNumber);
+            if (bGap) P_MouseUpOnGap(pressed);
+            else P_MouseUpOnPlace(pressed);
         } else if (modifiers == Modifiers::Ctrl) {
-            if (bGap) P_MouseUpCtrlOnGap(lPosition, pressed.lRack, pressed.lNumber);
-            else P_MouseUpCtrlOnPlace(lPosition, pressed.lRack, pressed.lNumber);
+            if (bGap) P_MouseUpCtrlOnGap(pressed);
+            else P_MouseUpCtrlOnPlace(pressed);
         }
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseDownOnGap(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept
+void VxHWConfigCtrlMouse::P_MouseDownOnGap(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseDownOnGap", [&] {
-        if (lPlace == 0 || !IsSelected(lRack, lPlace)) G_ClearSelection(SelHandler());
-        G_FocusAndAnchor(SelHandler(), lPosition);
+        if (pressed.lNumber == 0 || !IsSelected(pressed)) G_ClearSelection(SelHandler());
+        FocusAndAnchor(pressed);
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseDownOnPlace(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept
+void VxHWConfigCtrlMouse::P_MouseDownOnPlace(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseDownOnPlace", [&] {
         // A press on a selected place keeps a multiple selection, so that it can be dragged.
-        const auto oPlace = G_PlaceByNumber(Station(), lRack, lPlace);
+        const auto oPlace = PlaceOf(pressed);
         if (!G_SelPlaces(SelHandler())->Contains(oPlace)) G_SelectPlace(SelHandler(), oPlace);
-        G_FocusAndAnchor(SelHandler(), lPosition);
+        FocusAndAnchor(pressed);
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseDownOnRack(std::int32_t /*lPosition*/, std::int32_t lRack) noexcept
+void VxHWConfigCtrlMouse::P_MouseDownOnRack(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseDownOnRack", [&] {
         const auto oHandler = SelHandler();
-        oHandler->SelectRack(G_RackByNumber(Station(), lRack));
+        oHandler->SelectRack(G_RackByNumber(Station(), pressed.lRack));
         oHandler->SelChangeComplete();
-        oHandler->FocusPosition(lRack * vxRackFactor + ElementCode(oHandler->FocusPosition()));
+        oHandler->FocusPosition(G_RackPosition(pressed.lRack) + ElementCode(oHandler->FocusPosition()));
         oHandler->ShiftSelPosition(oHandler->FocusPosition());
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseDownShift(std::int32_t lPosition, std::int32_t lRack, std::int32_t /*lPlace*/) noexcept
+void VxHWConfigCtrlMouse::P_MouseDownShift(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseDownShift", [&] {
         const auto oHandler = SelHandler();
         G_SelPlaces(oHandler)->Clear();
         const std::int32_t lAnchor = oHandler->ShiftSelPosition();
-        if (lRack != lAnchor / vxRackFactor) oHandler->ShiftSelPosition(ElementCode(lAnchor) + lRack * vxRackFactor);
-        oHandler->SelectRange(oHandler->ShiftSelPosition(), lPosition);
+        if (pressed.lRack != lAnchor / vxRackFactor)
+            oHandler->ShiftSelPosition(ElementCode(lAnchor) + G_RackPosition(pressed.lRack));
+        oHandler->SelectRange(oHandler->ShiftSelPosition(), G_Position(pressed));
         oHandler->SelChangeComplete();
-        oHandler->FocusPosition(lPosition);
+        oHandler->FocusPosition(G_Position(pressed));
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseUpOnGap(std::int32_t /*lPosition*/, std::int32_t lRack, std::int32_t lPlace) noexcept
+void VxHWConfigCtrlMouse::P_MouseUpOnGap(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseUpOnGap", [&] {
-        if (lPlace > 0 && IsSelected(lRack, lPlace)) G_ClearSelection(SelHandler());
+        if (pressed.lNumber > 0 && IsSelected(pressed)) G_ClearSelection(SelHandler());
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseUpOnPlace(std::int32_t /*lPosition*/, std::int32_t lRack, std::int32_t lPlace) noexcept
+void VxHWConfigCtrlMouse::P_MouseUpOnPlace(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseUpOnPlace", [&] {
         const auto oSelPlaces = G_SelPlaces(SelHandler());
-        const auto oPlace = G_PlaceByNumber(Station(), lRack, lPlace);
+        const auto oPlace = PlaceOf(pressed);
         if (oSelPlaces->Contains(oPlace) && oSelPlaces->Count() >= 2) G_SelectPlace(SelHandler(), oPlace);
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseUpCtrlOnGap(std::int32_t lPosition, std::int32_t lRack,
-                                             std::int32_t /*lPlace*/) noexcept
+void VxHWConfigCtrlMouse::P_MouseUpCtrlOnGap(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseUpCtrlOnGap", [&] {
-        if (IsSelectionInOtherRack(lRack)) G_ClearSelection(SelHandler());
-        G_FocusAndAnchor(SelHandler(), lPosition);
+        if (IsSelectionInOtherRack(pressed.lRack)) G_ClearSelection(SelHandler());
+        FocusAndAnchor(pressed);
     });
 }
 
-void VxHWConfigCtrlMouse::P_MouseUpCtrlOnPlace(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept
+void VxHWConfigCtrlMouse::P_MouseUpCtrlOnPlace(const PositionInfo& pressed) noexcept
 {
     G_Trap(className(), "P_MouseUpCtrlOnPlace", [&] {
         const auto oHandler = SelHandler();
-        if (IsSelectionInOtherRack(lRack)) G_SelPlaces(oHandler)->Clear();
-        G_ToggleInSelection(oHandler, G_PlaceByNumber(Station(), lRack, lPlace));
+        if (IsSelectionInOtherRack(pressed.lRack)) G_SelPlaces(oHandler)->Clear();
+        G_ToggleInSelection(oHandler, PlaceOf(pressed));
         oHandler->SelChangeComplete();
-        G_FocusAndAnchor(oHandler, lPosition);
+        FocusAndAnchor(pressed);
     });
 }
 
-bool VxHWConfigCtrlMouse::IsSelected(std::int32_t lRack, std::int32_t lPlace) const
+VxHWRackPlacePtr VxHWConfigCtrlMouse::PlaceOf(const PositionInfo& pressed) const
 {
-    return G_SelPlaces(SelHandler())->Contains(G_PlaceByNumber(Station(), lRack, lPlace));
+    return G_PlaceByNumber(Station(), pressed.lRack, pressed.lNumber);
+}
+
+bool VxHWConfigCtrlMouse::IsSelected(const PositionInfo& pressed) const
+{
+    return G_SelPlaces(SelHandler())->Contains(PlaceOf(pressed));
+}
+
+void VxHWConfigCtrlMouse::FocusAndAnchor(const PositionInfo& pressed) const
+{
+    G_FocusAndAnchor(SelHandler(), G_Position(pressed));
 }
 
 bool VxHWConfigCtrlMouse::IsSelectionInOtherRack(std::int32_t lRack) const

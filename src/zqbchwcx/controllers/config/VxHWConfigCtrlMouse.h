@@ -24,16 +24,19 @@ protected:
     explicit VxHWConfigCtrlMouse(std::string_view className) noexcept;
 
 private:
-    void P_MouseDownOnGap(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_MouseDownOnPlace(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_MouseDownOnRack(std::int32_t lPosition, std::int32_t lRack) noexcept;
-    void P_MouseDownShift(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_MouseUpOnGap(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_MouseUpOnPlace(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_MouseUpCtrlOnGap(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_MouseUpCtrlOnPlace(std::int32_t lPosition, std::int32_t lRack, std::int32_t lPlace) noexcept;
+    void P_MouseDownOnGap(const PositionInfo& pressed) noexcept;
+    void P_MouseDownOnPlace(const PositionInfo& pressed) noexcept;
+    void P_MouseDownOnRack(const PositionInfo& pressed) noexcept;
+    void P_MouseDownShift(const PositionInfo& pressed) noexcept;
+    void P_MouseUpOnGap(const PositionInfo& pressed) noexcept;
+    void P_MouseUpOnPlace(const PositionInfo& pressed) noexcept;
+    void P_MouseUpCtrlOnGap(const PositionInfo& pressed) noexcept;
+    void P_MouseUpCtrlOnPlace(const PositionInfo& pressed) noexcept;
 
-    bool IsSelected(std::int32_t lRack, std::int32_t lPlace) const;
+    /// The place, or the place left of the gap.
+    VxHWRackPlacePtr PlaceOf(const PositionInfo& pressed) const;
+    bool IsSelected(const PositionInfo& pressed) const;
+    void FocusAndAnchor(const PositionInfo& pressed) const;
     bool IsSelectionInOtherRack(std::int32_t lRack) const;
 
     /// What a release acts on, wherever the mouse is by then.

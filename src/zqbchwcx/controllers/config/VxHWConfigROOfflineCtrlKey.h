@@ -11,12 +11,12 @@ public:
 
     void CursorKeyDown(std::int32_t lNewPosition, std::int16_t nShift) noexcept override
     {
-        P_CursorKeyDown(lNewPosition, nShift);
+        CursorKey(lNewPosition, nShift);
     }
-    void SpaceKeyDown(std::int16_t nShift) noexcept override { P_SpaceKeyDown(nShift); }
+    void SpaceKeyDown(std::int16_t nShift) noexcept override { SpaceKey(nShift); }
     void Delete() noexcept override {}
     void Cut() noexcept override {}
-    void Copy() noexcept override { P_Copy(); }
+    void Copy() noexcept override { CopySelection(); }
     void Paste() noexcept override {}
 };
 

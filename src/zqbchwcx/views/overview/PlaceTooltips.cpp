@@ -29,16 +29,15 @@ void PlaceTooltips::Connect(std::intptr_t hWnd) noexcept
 
 Tooltip PlaceTooltips::GetTooltip(Point at) noexcept
 {
-    Tooltip tooltip;
-    G_Trap(mContext.className, "moTTCallback_GetTooltip", [&] {
-        if (!mContext.oStation || mContext.IsDragActive()) return;
+    return G_TrapValue(mContext.className, "moTTCallback_GetTooltip", Tooltip(), [&] {
+        if (!mContext.oStation || mContext.IsDragActive()) return Tooltip();
         const PositionInfo position = G_PositionInfo(mLayout.PositionAt(at));
         // The view shows four racks of eleven places, whatever the station has of them.
-        if (position.eType != vxPositionPlace || !G_Exists(mContext.oStation, position)) return;
+        if (position.eType != vxPositionPlace || !G_Exists(mContext.oStation, position)) return Tooltip();
         std::string text = TextOf(mContext.Place(position.lRack, position.lNumber));
-        if (!text.empty()) tooltip = {std::move(text), mLayout.PlaceRect(position.lRack, position.lNumber)};
+        if (text.empty()) return Tooltip();
+        return Tooltip{std::move(text), mLayout.PlaceRect(position.lRack, position.lNumber)};
     });
-    return tooltip;
 }
 
 std::string PlaceTooltips::TextOf(const VxHWRackPlacePtr& oPlace) const
@@ -56,26 +55,22 @@ std::string PlaceTooltips::TextOf(const VxHWRackPlacePtr& oPlace) const
 
 std::string PlaceTooltips::P_GetTooltipHWConfiguration(const VxHWRackPlacePtr& oPlace) const noexcept
 {
-    std::string text;
-    G_Trap(mContext.className, "P_GetTooltipHWConfiguration", [&] {
+    return G_TrapValue(mContext.className, "P_GetTooltipHWConfiguration", std::string(), [&] {
         const auto oModule = oPlace->Module();
-        if (!oModule->IsEmpty()) text = mContext.Station()->ModuleTooltip(oModule);
-        else if (mContext.bLocked) return;
-        else if (oPlace->Usability() == vxPlaceActive) text = mTexts->Text(TextPlaceCanBeFilled);
-        else text = mContext.Station()->EmptyPlaceTooltip(oPlace);
+        if (!oModule->IsEmpty()) return mContext.Station()->ModuleTooltip(oModule);
+        if (mContext.bLocked) return std::string();
+        if (oPlace->Usability() == vxPlaceActive) return mTexts->Text(TextPlaceCanBeFilled);
+        return mContext.Station()->EmptyPlaceTooltip(oPlace);
     });
-    return text;
 }
 
 std::string PlaceTooltips::P_GetTooltipHWDiagnostics(const VxHWRackPlacePtr& oPlace) const noexcept
 {
-    std::string text;
-    G_Trap(mContext.className, "P_GetTooltipHWDiagnostics", [&] {
-        if (oPlace->Module()->IsEmpty()) return;
+    return G_TrapValue(mContext.className, "P_GetTooltipHWDiagnostics", std::string(), [&] {
+        if (oPlace->Module()->IsEmpty()) return std::string();
         const auto oDiagService = G_Require(mContext.oDiagService, "The diagnostics service");
-        text = DiagTexts::Description(*oDiagService, oPlace, *mTexts, DiagTexts::NoText);
+        return DiagTexts::Description(*oDiagService, oPlace, *mTexts, DiagTexts::NoText);
     });
-    return text;
 }
 
 std::string PlaceTooltips::P_GetTooltipHWCompare(const VxHWRackPlacePtr& oPlace) const noexcept
