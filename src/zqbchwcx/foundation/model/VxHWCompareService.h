@@ -33,6 +33,7 @@ public:
     virtual void Compare() = 0;
     /// One of the vxCompare… values.
     virtual std::int32_t PlaceResult(const VxHWRackPlacePtr& oPlace) const = 0;
+    /// Null where no parameters were compared.
     virtual ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& oPlace) const = 0;
     /// Opens the host's parameter comparison of the place: at one of its differences, or as a whole for nothing.
     virtual void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace,

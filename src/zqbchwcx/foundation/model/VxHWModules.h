@@ -9,7 +9,7 @@
 
 namespace zqbchwcx {
 
-/// A collection of modules.
+/// A collection of modules, none of them null.
 class VxHWModules {
 public:
     virtual ~VxHWModules() = default;

@@ -6,6 +6,7 @@
 
 namespace zqbchwcx {
 
+/// A rack of a station, also one that is not present. What it returns is never null.
 class VxHWRack {
 public:
     virtual ~VxHWRack() = default;

@@ -7,7 +7,7 @@
 
 namespace zqbchwcx {
 
-/// A numbered place of a rack.
+/// A numbered place of a rack. What it returns is never null.
 class VxHWRackPlace {
 public:
     virtual ~VxHWRackPlace() = default;
