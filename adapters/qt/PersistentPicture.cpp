@@ -1,5 +1,6 @@
 #include "zqbchwcx/qt/PersistentPicture.h"
 
+#include "zqbchwcx/qt/PlainText.h"
 #include "zqbchwcx/qt/QtImage.h"
 #include "zqbchwcx/qt/QtImageList.h"
 #include "zqbchwcx/qt/SystemColors.h"
@@ -14,6 +15,8 @@
 
 namespace zqbchwcx::qt {
 namespace {
+
+constexpr qsizetype LongestCellText = 400;
 
 QImage NewImage(const PixelGrid& grid, Size size, const QColor& background)
 {
@@ -183,8 +186,8 @@ void PersistentPicture::DrawLeftText(std::string_view text, const Rect& box, Ole
     const QRect device = mGrid.Device(box);
     const QFont font = ScaledFont(mFont, mGrid.Ratio());
     const QFontMetrics metrics(font);
-    const QString line = metrics.elidedText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())),
-                                            Qt::ElideRight, device.width());
+    const QString line =
+        metrics.elidedText(PlainText(ToQString(text), LongestCellText), Qt::ElideRight, device.width());
     QPainter& painter = Painter();
     painter.save();
     painter.setClipRect(device);

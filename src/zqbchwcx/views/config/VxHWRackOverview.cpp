@@ -120,7 +120,7 @@ void VxHWRackOverview::OnStation()
 {
     mLinks.Hide();
     if (!mContext.oStation) {
-        mContext.backColor = vxColorWindowBackground;
+        mContext.backColor = mContext.bLocked ? G_ColorDisabledBackground() : vxColorWindowBackground;
         mArrow.Hide();
         const DrawingBracket drawing(mCanvas);
         mCanvas.Box().BackColor(mContext.backColor);

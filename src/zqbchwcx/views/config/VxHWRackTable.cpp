@@ -10,6 +10,7 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/views/table/RedrawOff.h"
 #include "zqbchwcx/views/table/TableCursor.h"
 
 #include <algorithm>
@@ -122,15 +123,11 @@ void VxHWRackTable::Refresh() noexcept
     G_Trap(ClassName, "Refresh", [&] {
         static_cast<void>(mContext.Station());
         const RedrawGate::RefreshBracket refreshing(mGate);
-        const bool bAutoRefresh = AutoRefresh();
-        AutoRefresh(false);
-        G_Trap(ClassName, "Refresh", [&] {
-            const PositionInfo focus = G_PositionInfo(mContext.FocusPosition());
-            if (focus.eType != vxPositionNone) mContent.ActiveRack(focus.lRack);
-            SetTabs();
-            ShowContent();
-        });
-        AutoRefresh(bAutoRefresh);
+        const RedrawOff redrawOff(ClassName, mContent.Grid());
+        const PositionInfo focus = G_PositionInfo(mContext.FocusPosition());
+        if (focus.eType != vxPositionNone) mContent.ActiveRack(focus.lRack);
+        SetTabs();
+        ShowContent();
     });
 }
 
@@ -170,8 +167,8 @@ void VxHWRackTable::OnStation()
 {
     mContent.ActiveRack(0);
     mContent.ResetSelection();
-    mContent.P_SetBackColor();
-    mContent.P_InitializeGrid();
+    mContent.SetBackColor();
+    mContent.InitializeGrid();
     mvxgrdMain->ResetColumnsCaption(mTexts->Text(TextResetColumns));
     for (std::int32_t lTab = 0; lTab < TabCount; ++lTab) mvxtabMain->Enabled(lTab, false);
     mvxtabMain->SelectedTab(0);
@@ -180,7 +177,7 @@ void VxHWRackTable::OnStation()
 void VxHWRackTable::sysinf_Main_SysColorsChanged() noexcept
 {
     G_Trap(ClassName, "sysinf_Main_SysColorsChanged", [&] {
-        mContent.P_SetBackColor();
+        mContent.SetBackColor();
         if (mContext.oStation) Refresh();
     });
 }

@@ -28,7 +28,7 @@ std::string AttributeOf(const Grid& grid, GridCell cell)
 
 } // namespace
 
-bool CellEditing::P_IsCellEditable(GridCell cell) const noexcept
+bool CellEditing::IsCellEditable(GridCell cell) const noexcept
 {
     return G_TrapValue(mContext.className, "P_IsCellEditable", false, [&] {
         if (cell.lRow < 1 || cell.lColumn < 1) return false;
@@ -45,7 +45,7 @@ bool CellEditing::P_IsCellEditable(GridCell cell) const noexcept
 
 bool CellEditing::MayEdit(GridCell cell) const
 {
-    if (mContext.bLocked || !P_IsCellEditable(cell)) return false;
+    if (mContext.bLocked || !IsCellEditable(cell)) return false;
     const std::string key = mContent.Grid().ColumnKey(cell.lColumn);
     if (key != ColumnKey::InputAddress && key != ColumnKey::Comment) return false;
     const auto oStation = mContext.Station();

@@ -29,7 +29,7 @@ public:
     void Forget() { mbEditing = false; }
 
     /// Whether the cell's text can be edited at all: a comment of a module, an address of a module without sub-modules.
-    bool P_IsCellEditable(GridCell cell) const noexcept;
+    bool IsCellEditable(GridCell cell) const noexcept;
     /// False refuses; else the place of the row has the focus and nothing is selected.
     bool OnStartEditing(GridCell cell) noexcept;
     void OnEndEditing(GridCell cell) noexcept;

@@ -14,7 +14,7 @@ constexpr std::string_view OrderSuffix = "Order";
 
 } // namespace
 
-void ColumnStore::P_ReadSettings(const std::string& parameter) noexcept
+void ColumnStore::ReadSettings(const std::string& parameter) noexcept
 {
     G_Trap(msClassName, "P_ReadSettings", [&] {
         mcolWidths.clear();
@@ -34,7 +34,7 @@ void ColumnStore::Apply(Grid& grid) const
     grid.ColumnOrder(mcolOrder);
 }
 
-void ColumnStore::P_SaveSettings(const std::string& parameter, const Grid& grid) noexcept
+void ColumnStore::SaveSettings(const std::string& parameter, const Grid& grid) noexcept
 {
     G_Trap(msClassName, "P_SaveSettings", [&] {
         if (parameter.empty() || grid.ColumnCount() == 0) return;

@@ -18,10 +18,10 @@ public:
     explicit ColumnStore(std::string_view className) : msClassName(className) {}
 
     /// What is stored for the widths parameter; the order is stored beside it. Without a parameter nothing is.
-    void P_ReadSettings(const std::string& parameter) noexcept;
+    void ReadSettings(const std::string& parameter) noexcept;
     /// Gives the grid the stored widths greater than 0, and the stored order if it fits.
     void Apply(Grid& grid) const;
-    void P_SaveSettings(const std::string& parameter, const Grid& grid) noexcept;
+    void SaveSettings(const std::string& parameter, const Grid& grid) noexcept;
 
 private:
     OptionService& P_GetOptionService();

@@ -44,7 +44,9 @@ frm_SubModules::frm_SubModules() noexcept : mRegistration(ClassName) {}
 frm_SubModules::~frm_SubModules()
 {
     Form_Unload();
-    if (moForm) moForm->Events(nullptr);
+    G_Trap(ClassName, "Form_Terminate", [&] {
+        if (moForm) moForm->Events(nullptr);
+    });
 }
 
 void frm_SubModules::Create(Toolkit& toolkit, UserControl& oControl)

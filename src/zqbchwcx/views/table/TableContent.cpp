@@ -10,34 +10,11 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
+#include "zqbchwcx/views/table/RedrawOff.h"
 
 #include <algorithm>
 
 namespace zqbchwcx {
-namespace {
-
-/// Holds back the grid's drawing while it lives.
-class RedrawOff {
-public:
-    RedrawOff(std::string_view className, Grid& grid) : msClassName(className), mGrid(grid), mbRedraw(grid.Redraw())
-    {
-        mGrid.Redraw(false);
-    }
-    ~RedrawOff()
-    {
-        G_Trap(msClassName, "AutoRefresh", [&] { mGrid.Redraw(mbRedraw); });
-    }
-    RedrawOff(const RedrawOff&) = delete;
-    RedrawOff& operator=(const RedrawOff&) = delete;
-
-private:
-    std::string_view msClassName;
-    Grid& mGrid;
-    bool mbRedraw;
-};
-
-} // namespace
-
 Grid& TableContent::Grid() const
 {
     return *G_Require(mpGrid, "The grid");
@@ -45,10 +22,10 @@ Grid& TableContent::Grid() const
 
 void TableContent::SaveColumns() noexcept
 {
-    if (mpGrid != nullptr) mColumnStore.P_SaveSettings(P_GetParamName(), *mpGrid);
+    if (mpGrid != nullptr) mColumnStore.SaveSettings(P_GetParamName(), *mpGrid);
 }
 
-void TableContent::P_InitializeGrid() noexcept
+void TableContent::InitializeGrid() noexcept
 {
     G_Trap(mContext.className, "P_InitializeGrid", [&] {
         auto& grid = Grid();
@@ -58,7 +35,7 @@ void TableContent::P_InitializeGrid() noexcept
         mRowFill.ReadTexts();
         G_AddColumns(grid, Columns(), *mTexts);
         ResetColumns();
-        mColumnStore.P_ReadSettings(P_GetParamName());
+        mColumnStore.ReadSettings(P_GetParamName());
         mColumnStore.Apply(grid);
         grid.RowCount(mRows.RowCount());
         const std::int32_t lNumberColumn = grid.ColumnIndex(ColumnKey::RackPlace);
@@ -73,7 +50,7 @@ void TableContent::ResetColumns()
     G_ResetColumns(Grid(), Columns());
 }
 
-void TableContent::P_SetBackColor() noexcept
+void TableContent::SetBackColor() noexcept
 {
     G_Trap(mContext.className, "P_SetBackColor", [&] {
         mContext.backColor = vxColorWindowBackground;

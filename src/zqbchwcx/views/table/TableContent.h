@@ -33,10 +33,10 @@ public:
     /// Keeps the columns as the user left them.
     void SaveColumns() noexcept;
     /// The columns of the style, as the user left them, over empty rows.
-    void P_InitializeGrid() noexcept;
+    void InitializeGrid() noexcept;
     void ResetColumns();
     /// The background by the lock and the display mode of the station.
-    void P_SetBackColor() noexcept;
+    void SetBackColor() noexcept;
 
     std::int32_t ActiveRack() const { return mlRack; }
     /// Whose places the next filling shows.

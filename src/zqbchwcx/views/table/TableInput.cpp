@@ -159,7 +159,7 @@ void TableInput::OnMouseDown(const GridMouse& mouse) noexcept
         const GridCell cell = mContent.Grid().CellAt(mouse.at);
         mlClosedByPress = mSubModules.TakeClosedByPress() ? mlFormRow : 0;
         if (cell.lRow < 1) return;
-        mContent.Grid().CurrentCell(cell, mEditing.P_IsCellEditable(cell));
+        mContent.Grid().CurrentCell(cell, mEditing.IsCellEditable(cell));
         mlMouseDownPosition = mContent.PositionOfRow(cell.lRow);
         mContext.MouseCtrl()->MouseDown(mlMouseDownPosition, mouse.nButton, mouse.nShift);
     });
