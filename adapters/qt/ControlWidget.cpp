@@ -13,8 +13,13 @@
 #include <QPalette>
 #include <QResizeEvent>
 
+#include <algorithm>
+
 namespace zqbchwcx::qt {
 namespace {
+
+constexpr double SmallestScale = 0.5;
+constexpr double LargestScale = 8;
 
 /// Keys that the views use themselves, whatever the shortcuts and the focus order of the window they are put in.
 bool IsOwnKey(const QKeyEvent& event)
@@ -114,6 +119,16 @@ QImage ControlWidget::ToImage() const
     image.fill(BackgroundColor());
     QPainter painter(&image);
     PaintWindows(painter, grid, *this, {});
+    return image;
+}
+
+QImage ControlWidget::ToImage(QSize size, double scale)
+{
+    // A widget that was never shown has not been told of its size.
+    ResizeNow(size);
+    OverrideRatio(std::clamp(scale, SmallestScale, LargestScale));
+    QImage image = ToImage();
+    OverrideRatio(0);
     return image;
 }
 

@@ -32,6 +32,8 @@ public:
     QColor BackgroundColor() const;
     /// The control and its children as a picture, at the ratio that was asked for last.
     QImage ToImage() const;
+    /// The same in that size, drawn anew at the scale (0.5 to 8, otherwise the nearest of these), shown or not.
+    QImage ToImage(QSize size, double scale);
     /// Makes the picture boxes draw at another ratio than the window's; 0 for the window's own.
     void OverrideRatio(double ratio);
     double Ratio() const { return mRatio; }

@@ -7,17 +7,12 @@
 #include <QEvent>
 #include <QSignalBlocker>
 
-#include <algorithm>
-
 namespace zqbchwcx::qt {
 namespace {
 
 constexpr QSize SmallestSize(3525 / vxTwipsPerPixel, 5880 / vxTwipsPerPixel);
 /// The picture box and, right of it, the way of the arrow with its head.
 constexpr QSize ComfortableSize(242 + 28, 392);
-
-constexpr double SmallestScale = 0.5;
-constexpr double LargestScale = 8;
 
 } // namespace
 
@@ -60,12 +55,7 @@ QImage RackOverviewWidget::RenderToImage(double scale)
 {
     // Drawing anew is no news for the host.
     const QSignalBlocker silence(this);
-    // A widget that was never shown has not been told of its size.
-    m->window->ResizeNow(size().expandedTo(SmallestSize));
-    m->window->OverrideRatio(std::clamp(scale, SmallestScale, LargestScale));
-    QImage image = m->window->ToImage();
-    m->window->OverrideRatio(0);
-    return image;
+    return m->window->ToImage(size().expandedTo(SmallestSize), scale);
 }
 
 QSize RackOverviewWidget::sizeHint() const

@@ -49,6 +49,11 @@ std::shared_ptr<VxHWRackTable> RackTableWidget::Control() const
     return m->view;
 }
 
+QImage RackTableWidget::RenderToImage(double scale)
+{
+    return m->window->ToImage(size().expandedTo(SmallestSize), scale);
+}
+
 QSize RackTableWidget::sizeHint() const
 {
     return SmallestSize;

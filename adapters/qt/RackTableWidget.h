@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 #include <memory>
@@ -24,6 +25,10 @@ public:
 
     /// The view in the widget. It may be kept longer than the widget, but then shows nothing any more.
     std::shared_ptr<VxHWRackTable> Control() const;
+
+    /// The table as it is now, drawn anew for the scale (device pixels per logical pixel; 0.5 to 8, otherwise the
+    /// nearest of these), in the widget's size. It need not be on the screen.
+    QImage RenderToImage(double scale);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/export/PictureContent.h"
+#include "app/host/Colors.h"
 #include "zqbchwcx/reference/catalogue/Catalogue.h"
 #include "zqbchwcx/reference/commands/ModuleListText.h"
 
@@ -22,11 +24,13 @@ struct CommandLine {
     bool version = false; ///< show the version instead of running the command
     /// Open, Check: any number of stations; Render, List: one; Convert: the file to read and the file to write.
     std::vector<std::string> files;
-    std::string output;               ///< Render, List: the file to write; List: empty for standard output
-    std::string view = "overview";    ///< Render
-    double scale = 1;                 ///< Render: device pixels to a logical pixel
-    std::optional<ListFormat> format; ///< List
-    std::optional<Language> language; ///< none: the user's setting, or the desktop's language
+    std::string output;                       ///< Render, List: the file to write; List: empty for standard output
+    PictureView view = PictureView::Overview; ///< Render
+    std::optional<std::int32_t> rack;         ///< Render: the table's; none: rack 0
+    double scale = 1;                         ///< Render: device pixels to a logical pixel
+    std::optional<Colors> colors;             ///< Render to PNG; none: light
+    std::optional<ListFormat> format;         ///< List
+    std::optional<Language> language;         ///< none: the user's setting, or the desktop's language
 };
 
 /// Exit codes of the program.

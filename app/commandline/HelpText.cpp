@@ -10,7 +10,7 @@ LocalizedText openText()
 
 Usage:
   quillon-ed [STATION...]               open stations in a window
-  quillon-ed render STATION -o FILE     draw a view to a PNG, SVG or PDF file
+  quillon-ed render STATION -o FILE     draw views to a PNG, SVG or PDF file
   quillon-ed check STATION...           list every broken rule
   quillon-ed list STATION               list the modules with their addresses
   quillon-ed convert IN OUT             write a station to another file or format
@@ -32,7 +32,7 @@ Exit codes:
 
 Aufruf:
   quillon-ed [STATION...]               Stationen in einem Fenster öffnen
-  quillon-ed render STATION -o DATEI    eine Ansicht in eine PNG-, SVG- oder PDF-Datei zeichnen
+  quillon-ed render STATION -o DATEI    Ansichten in eine PNG-, SVG- oder PDF-Datei zeichnen
   quillon-ed check STATION...           jede verletzte Regel nennen
   quillon-ed list STATION               die Baugruppen mit ihren Adressen auflisten
   quillon-ed convert EIN AUS            eine Station in eine andere Datei oder Form schreiben
@@ -54,23 +54,31 @@ Rückgabewerte:
 
 LocalizedText renderText()
 {
-    return {R"(Usage: quillon-ed render STATION -o FILE [--scale NUMBER] [--view overview] [--lang de|en]
+    return {R"(Usage: quillon-ed render STATION -o FILE [--view overview|table|both] [--rack NUMBER] [--scale NUMBER]
+                         [--palette light|dark|contrast] [--lang de|en]
 
-Draws a view of the station without a display. The ending of FILE says what is written: .png (pixels), .svg or
+Draws views of the station without a display. The ending of FILE says what is written: .png (pixels), .svg or
 .pdf (vectors; a PDF page has a header with the station's name, the date and the page number).
 
   -o, --output FILE   the file to write; one that exists is replaced
+  --view VIEW         what to draw: overview (the racks; if not given), table (the table of a rack, its columns as the
+                      window has them), both (side by side, with the arrow from the rack's first usable place)
+  --rack NUMBER       the rack in the table; 0 if not given
   --scale NUMBER      PNG: device pixels to a logical pixel, from 0.5 to 8; 1 if not given
-  --view VIEW         the view to draw: overview
+  --palette PALETTE   PNG: light (if not given), dark or contrast
 )",
-            R"(Aufruf: quillon-ed render STATION -o DATEI [--scale ZAHL] [--view overview] [--lang de|en]
+            R"(Aufruf: quillon-ed render STATION -o DATEI [--view overview|table|both] [--rack ZAHL] [--scale ZAHL]
+                          [--palette light|dark|contrast] [--lang de|en]
 
-Zeichnet eine Ansicht der Station ohne Bildschirm. Die Endung von DATEI sagt, was geschrieben wird: .png (Bildpunkte),
+Zeichnet Ansichten der Station ohne Bildschirm. Die Endung von DATEI sagt, was geschrieben wird: .png (Bildpunkte),
 .svg oder .pdf (Vektoren; eine PDF-Seite hat eine Kopfzeile mit Stationsname, Datum und Seitenzahl).
 
   -o, --output DATEI  die Datei, die geschrieben wird; eine vorhandene wird ersetzt
+  --view ANSICHT      was gezeichnet wird: overview (die Träger; ohne Angabe), table (die Tabelle eines Trägers, mit
+                      den Spalten des Fensters), both (nebeneinander, mit dem Pfeil vom ersten nutzbaren Platz)
+  --rack ZAHL         der Träger in der Tabelle; ohne Angabe 0
   --scale ZAHL        PNG: Gerätepunkte je logischem Bildpunkt, von 0.5 bis 8; ohne Angabe 1
-  --view ANSICHT      die Ansicht, die gezeichnet wird: overview
+  --palette PALETTE   PNG: light (hell; ohne Angabe), dark (dunkel) oder contrast (hoher Kontrast)
 )"};
 }
 

@@ -55,22 +55,50 @@ Reason setScale(CommandLine& line, const std::string& value)
     return {};
 }
 
-Reason setView(CommandLine& line, const std::string& value)
+template <class Value, std::size_t Count>
+struct NamedValues {
+    LocalizedText singular;
+    LocalizedText plural;
+    std::array<std::pair<std::string_view, Value>, Count> values;
+};
+
+const NamedValues<PictureView, 3> Views{
+    {"no view", "keine Ansicht"},
+    {"views", "Ansichten"},
+    {{{"overview", PictureView::Overview}, {"table", PictureView::Table}, {"both", PictureView::Both}}}};
+const NamedValues<Colors, 3> Palettes{
+    {"no palette", "keine Palette"},
+    {"palettes", "Paletten"},
+    {{{"light", Colors::Light}, {"dark", Colors::Dark}, {"contrast", Colors::Contrast}}}};
+const NamedValues<Language, 2> Languages{{"no language", "keine Sprache"},
+                                         {"languages", "Sprachen"},
+                                         {{{"de", Language::German}, {"en", Language::English}}}};
+
+/// Sets the value of that name; a name that there is not is refused with those that there are.
+template <class Target, class Value, std::size_t Count>
+Reason setNamed(Target& target, const std::string& name, const NamedValues<Value, Count>& named)
 {
-    if (value != "overview")
-        return LocalizedText{"there is no view '" + value + "'; the views are: overview",
-                             "es gibt keine Ansicht '" + value + "'; die Ansichten sind: overview"};
-    line.view = value;
-    return {};
+    std::string names;
+    for (const auto& [known, value] : named.values) {
+        if (known == name) {
+            target = value;
+            return {};
+        }
+        names.append(names.empty() ? "" : ", ").append(known);
+    }
+    return LocalizedText{"there is " + named.singular.en + " '" + name + "'; the " + named.plural.en + " are: " + names,
+                         "es gibt " + named.singular.de + " '" + name + "'; die " + named.plural.de +
+                             " sind: " + names};
 }
 
-Reason setLanguage(CommandLine& line, const std::string& value)
+Reason setRack(CommandLine& line, const std::string& value)
 {
-    if (value == "en") line.language = Language::English;
-    else if (value == "de") line.language = Language::German;
-    else
-        return LocalizedText{"there is no language '" + value + "'; the languages are: de, en",
-                             "es gibt keine Sprache '" + value + "'; die Sprachen sind: de, en"};
+    std::int32_t rack = -1;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), rack);
+    if (error != std::errc() || end != value.data() + value.size() || rack < 0)
+        return LocalizedText{"the rack '" + value + "' is not a number from 0",
+                             "der Träger '" + value + "' ist keine Zahl ab 0"};
+    line.rack = rack;
     return {};
 }
 
@@ -102,14 +130,19 @@ constexpr std::array OptionRules{
                    line.version = true;
                    return {};
                }},
-    OptionRule{"--lang", 0, true, EveryCommand, setLanguage},
+    OptionRule{"--lang", 0, true, EveryCommand,
+               [](CommandLine& line, const std::string& value) { return setNamed(line.language, value, Languages); }},
     OptionRule{"--output", 'o', true, bit(Command::Render) | bit(Command::List),
                [](CommandLine& line, const std::string& value) -> Reason {
                    line.output = value;
                    return {};
                }},
     OptionRule{"--scale", 0, true, bit(Command::Render), setScale},
-    OptionRule{"--view", 0, true, bit(Command::Render), setView},
+    OptionRule{"--view", 0, true, bit(Command::Render),
+               [](CommandLine& line, const std::string& value) { return setNamed(line.view, value, Views); }},
+    OptionRule{"--rack", 0, true, bit(Command::Render), setRack},
+    OptionRule{"--palette", 0, true, bit(Command::Render),
+               [](CommandLine& line, const std::string& value) { return setNamed(line.colors, value, Palettes); }},
     OptionRule{"--csv", 0, false, bit(Command::List),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Csv); }},
     OptionRule{"--json", 0, false, bit(Command::List),
@@ -239,6 +272,12 @@ private:
         if (line.command == Command::Render && !endsInOneOf(line.output, {".png", ".svg", ".pdf"}))
             return LocalizedText{"the name of the picture '" + line.output + "' must end in .png, .svg or .pdf",
                                  "der Name des Bilds '" + line.output + "' muss auf .png, .svg oder .pdf enden"};
+        if (line.rack && line.view == PictureView::Overview)
+            return LocalizedText{"'--rack' is for tables: add --view table or --view both",
+                                 "'--rack' ist für Tabellen: --view table oder --view both angeben"};
+        if (line.colors && !line.output.ends_with(".png"))
+            return LocalizedText{"'--palette' is for .png files: vectors are drawn for white paper",
+                                 "'--palette' ist für .png-Dateien: Vektoren werden für weißes Papier gezeichnet"};
         if (line.command == Command::Convert && !endsInOneOf(line.files[1], {".json", ".csv", ".md"}))
             return LocalizedText{"the name of the new file '" + line.files[1] + "' must end in .json, .csv or .md",
                                  "der Name der neuen Datei '" + line.files[1] +

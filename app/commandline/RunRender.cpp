@@ -3,7 +3,7 @@
 #include "app/commandline/Complain.h"
 #include "app/commandline/RunCommand.h"
 #include "app/commandline/TellErrors.h"
-#include "app/export/ExportOverview.h"
+#include "app/export/ExportViews.h"
 #include "app/export/PartShown.h"
 #include "app/host/AppServices.h"
 #include "app/host/PlainText.h"
@@ -12,6 +12,8 @@
 #include "zqbchwcx/reference/files/StationReader.h"
 #include "zqbchwcx/reference/json/FileError.h"
 #include "zqbchwcx/reference/model/contract/Station.h"
+
+#include <QApplication>
 
 namespace quillon_ed {
 
@@ -31,6 +33,8 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
 {
     return TellErrors(streams.err, LanguageOf(line), [&] {
         UserSettings settings;
+        // The desktop's colours are left alone: the same station gives the same picture everywhere.
+        QApplication::setPalette(PaletteOf(line.colors.value_or(Colors::Light)));
         AppServices services(settings.Settings());
         services.ShowLanguage(LanguageOf(line));
         if (settings.Refused()) Complain(streams.err, settings.Refused()->Message(LanguageOf(line)));
@@ -38,13 +42,19 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
         const std::string& file = line.files[0];
         StationData data = LoadStation(file, services.Catalogue()).data;
         if (data.kind != zqbchwcx::vxStationKindCentral)
-            throw FileError(file, "/kind", "the overview shows central stations, and this one is distributed",
-                            "die Übersicht zeigt zentrale Stationen, und diese ist dezentral");
-        if (const auto part = PartShown(data)) Complain(streams.err, file + ": " + part->In(LanguageOf(line)));
+            throw FileError(file, "/kind", "the views show central stations, and this one is distributed",
+                            "die Ansichten zeigen zentrale Stationen, und diese ist dezentral");
+        const PictureContent content{line.view, line.rack.value_or(0)};
+        if (const auto reason = AgainstContent(data, content)) {
+            Complain(streams.err, file + ": " + reason->In(LanguageOf(line)));
+            return ExitUsage;
+        }
+        if (const auto part = PartShown(data, content))
+            Complain(streams.err, file + ": " + part->In(LanguageOf(line)));
         const PageHeader header{PlainText(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
-        ExportOverview(std::make_shared<Station>(services.Context(), std::move(data)), header, line.scale,
-                       ToQString(line.output));
+        ExportViews(std::make_shared<Station>(services.Context(), std::move(data)), content, header, line.scale,
+                    ToQString(line.output));
         tellReports(services.Errors(), streams.err);
         return ExitClean;
     });

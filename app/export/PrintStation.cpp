@@ -1,7 +1,7 @@
 #include "app/export/PrintStation.h"
 
 #include "app/export/ExportModuleList.h"
-#include "app/export/PaperOverview.h"
+#include "app/export/PaperViews.h"
 #include "app/export/WriteBytes.h"
 
 #include <QBuffer>
@@ -40,7 +40,7 @@ QByteArray PdfOf(const StationPages& pages, const QPrinter& printer, int first, 
 bool PrintStation(const reference::StationPtr& station, const PageHeader& header, QPrinter& printer)
 {
     StationPages pages(header, PageSizeOf(printer));
-    std::optional<PaperOverview> overview;
+    std::optional<PaperViews> overview;
     if (station->StationKind() == vxStationKindCentral) {
         overview.emplace(station);
         pages.AddDrawing(overview->Size(), [&](QPainter& painter) { overview->Paint(painter); });

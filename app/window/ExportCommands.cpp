@@ -4,7 +4,7 @@
 #include "app/document/LastFolder.h"
 #include "app/document/ProposedName.h"
 #include "app/export/ExportModuleList.h"
-#include "app/export/ExportOverview.h"
+#include "app/export/ExportViews.h"
 #include "app/export/PrintStation.h"
 #include "app/host/AppServices.h"
 #include "app/host/PlainText.h"
@@ -92,7 +92,7 @@ QString ExportPicture(AppServices& services, const Document& document, QWidget* 
                                       ExportTexts::tr("Vector picture (*.svg)")},
                                      parent);
     return Export(file, services, parent, ExportTexts::tr("The picture cannot be exported."),
-                  [&] { ExportOverview(document.Station(), HeaderOf(document), PictureScale, file); });
+                  [&] { ExportViews(document.Station(), {}, HeaderOf(document), PictureScale, file); });
 }
 
 QString ExportList(AppServices& services, const Document& document, QWidget* parent)

@@ -198,12 +198,29 @@ class Render(Home):
         self.assertEqual(pictures[0], pictures[1])
         self.assertGreater(pictures[0].differing(pictures[2]), 500)
 
+    def test_overview_and_table_are_drawn_alone_and_side_by_side(self):
+        def picture(*options):
+            self.succeed("render", EXAMPLES / "bottling-filler.station.json", "-o", "view.png", "--scale=2", *options)
+            return read_png(self.folder / "view.png")
+
+        both, other_rack = picture("--view=both"), picture("--view=both", "--rack=1")
+        table, dark = picture("--view=table", "--rack=1"), picture("--view=table", "--rack=1", "--palette=dark")
+        left = both.width - table.width
+        beside = other_rack.cut(left, 0, table.width, table.height)
+        selected = 15 * 2 * table.width
+        self.assertLessEqual(beside.differing(table), selected, "the selected row is all that differs")
+        self.assertGreater(both.cut(left, 0, table.width, table.height).differing(beside), selected)
+        black = (0, 0, 0)
+        self.assertEqual(both.pixel(left - 20, 2 * 48), black, "the arrow leads to the first row")
+        self.assertGreater(sum(table.pixel(2, 2)), sum(dark.pixel(2, 2)))
+
     def test_an_svg_file_holds_vectors(self):
-        self.succeed("render", self.station(), "-o", "view.svg")
-        root = xml.parse(self.folder / "view.svg").getroot()
-        tags = [element.tag.rsplit("}", 1)[-1] for element in root.iter()]
-        self.assertGreater(tags.count("path") + tags.count("rect") + tags.count("polygon"), 100)
-        self.assertNotIn("image", tags)
+        for view in ("overview", "table", "both"):
+            self.succeed("render", self.station(), "-o", "view.svg", "--view", view)
+            root = xml.parse(self.folder / "view.svg").getroot()
+            tags = [element.tag.rsplit("}", 1)[-1] for element in root.iter()]
+            self.assertGreater(tags.count("path") + tags.count("rect") + tags.count("polygon"), 100)
+            self.assertNotIn("image", tags)
 
     def pdf_text(self):
         return subprocess.run(["pdftotext", "-layout", "view.pdf", "-"], cwd=self.folder, text=True, check=True,
@@ -212,9 +229,9 @@ class Render(Home):
     def test_a_pdf_page_has_a_header(self):
         station = self.station()
         name = json.loads(station.read_text(encoding="utf-8"))["name"]
-        self.succeed("render", station, "-o", "view.pdf")
-        self.assertIn(name, self.pdf_text())
-        self.assertIn("Page 1 of 1", self.pdf_text())
+        self.succeed("render", station, "-o", "view.pdf", "--view=both")
+        for text in (name, "Page 1 of 1", self.modules(station)[0]["orderNumber"]):
+            self.assertIn(text, self.pdf_text())
 
     def test_a_station_that_is_larger_than_its_picture_is_told_everywhere(self):
         station = self.station()
@@ -241,6 +258,9 @@ class Render(Home):
         self.assertIn(".png, .svg or .pdf", done.stderr)
         done = self.run_command("render", self.folder / "missing.json", "-o", "view.png")
         self.assertEqual(done.returncode, UNREADABLE)
+        done = self.run_command("render", station, "-o", "view.png", "--view=both", "--rack=3")
+        self.assertEqual(done.returncode, USAGE)
+        self.assertRegex(done.stderr, rf"^quillon-ed: {station}: [^\n]*rack 3[^\n]*\n$")
         for ending in ("png", "svg", "pdf"):
             done = self.run_command("render", station, "-o", f"view.{ending}", before=ON_A_FULL_DISK)
             self.assertEqual(done.returncode, UNREADABLE, done.stderr)

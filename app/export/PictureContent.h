@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace quillon_ed {
+
+enum class PictureView { Overview, Table, Both };
+
+/// What of a station a picture shows.
+struct PictureContent {
+    PictureView view = PictureView::Overview;
+    std::int32_t rack = 0; ///< Table and Both: the rack in the table
+
+    bool HasOverview() const { return view != PictureView::Table; }
+    bool HasTable() const { return view != PictureView::Overview; }
+};
+
+} // namespace quillon_ed
