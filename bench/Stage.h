@@ -28,7 +28,7 @@ public:
               zqbchwcx::reference::LoadStation(QUILLON_SOURCE_DIR "/examples/packaging-line.station.json",
                                                mServices.Catalogue())
                   .data)),
-          mTable(std::make_shared<zqbchwcx::zqbchwcx::QuietView>())
+          mTable(std::make_shared<zqbchwcx::QuietView>())
     {
         mManager.Initialize(zqbchwcx::vxStationTypeCentral, mWidget.Control(), mTable, mStation);
         mWidget.Control()->Refresh();
@@ -54,7 +54,7 @@ private:
     QSettings mSettings;
     quillon_ed::AppServices mServices;
     zqbchwcx::reference::StationPtr mStation;
-    std::shared_ptr<zqbchwcx::zqbchwcx::QuietView> mTable;
+    std::shared_ptr<zqbchwcx::QuietView> mTable;
     zqbchwcx::qt::RackOverviewWidget mWidget;
     zqbchwcx::VxHWConfigManager mManager;
 };

@@ -12,21 +12,10 @@ namespace {
 
 constexpr double Half = 0.5;
 
-/// Not a colour of the desktop.
-bool IsFixed(OleColor color)
-{
-    return (static_cast<std::uint32_t>(color) & 0x80000000U) == 0;
-}
-
-/// The same hue, as far from the dark base as the colour is from white.
-QColor Deep(const QColor& pale, const QColor& base)
-{
-    constexpr double Distance = 0.6;
-    constexpr double Saturation = 0.45;
-    const double lightness = base.lightnessF() + (1 - pale.lightnessF()) * Distance;
-    return QColor::fromHslF(std::max(pale.hslHueF(), 0.0F), pale.hslSaturationF() * float(Saturation),
-                            float(std::min(lightness, 1.0)));
-}
+/// Shares of the text's colour.
+constexpr double CellLine = 0.17;
+constexpr double HeaderLine = 0.22;
+constexpr double StrongLine = 0.5;
 
 } // namespace
 
@@ -37,24 +26,22 @@ void GridColors::Follow()
     mPaletteKey = palette.cacheKey();
     mcolBacks.clear();
     mcolTexts.clear();
-    constexpr double LineShare = 0.17;
     base = palette.color(QPalette::Active, QPalette::Base);
-    line = Mixed(base, palette.color(QPalette::Active, QPalette::Text), LineShare);
     highlight = palette.color(QPalette::Active, QPalette::Highlight);
     highlightText = palette.color(QPalette::Active, QPalette::HighlightedText);
     button = palette.color(QPalette::Active, QPalette::Button);
     buttonText = palette.color(QPalette::Active, QPalette::ButtonText);
+    // Where a header is like the ground, as in high contrast, lines are all that tells cells apart.
+    const bool bOnlyLines = button == base;
+    line = Mixed(base, palette.color(QPalette::Active, QPalette::Text), bOnlyLines ? StrongLine : CellLine);
+    headerLine = Mixed(button, buttonText, bOnlyLines ? StrongLine : HeaderLine);
 }
 
 QColor GridColors::Back(OleColor color)
 {
     for (const auto& [known, translated] : mcolBacks)
         if (known == color) return translated;
-    QColor translated = ToQColor(color).value_or(base);
-    if (IsFixed(color) && base.lightnessF() < Half && translated.lightnessF() > Half)
-        translated = Deep(translated, base);
-    mcolBacks.emplace_back(color, translated);
-    return translated;
+    return mcolBacks.emplace_back(color, ToGround(color).value_or(base)).second;
 }
 
 QColor GridColors::Text(OleColor color, const QColor& back)
@@ -64,7 +51,7 @@ QColor GridColors::Text(OleColor color, const QColor& back)
     QColor translated = ReadableOn(color, back);
     // What is made for a pale ground would be lost on a deep one.
     constexpr double Lighter = 0.35;
-    if (IsFixed(color) && base.lightnessF() < Half) {
+    if (IsFixedColor(color) && base.lightnessF() < Half) {
         const float lightness = std::max(translated.lightnessF(), 1 - translated.lightnessF());
         translated.setHslF(std::max(translated.hslHueF(), 0.0F), translated.hslSaturationF(), lightness);
         translated = Mixed(translated, Qt::white, Lighter);

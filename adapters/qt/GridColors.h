@@ -23,6 +23,7 @@ public:
 
     QColor base;
     QColor line; ///< between cells
+    QColor headerLine;
     QColor highlight;
     QColor highlightText;
     QColor button;

@@ -149,10 +149,9 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
 
 void GridDelegate::PaintHeader(QPainter& painter, const QRect& rect, const GridColumn& column, bool bHovered) const
 {
-    constexpr double LineShare = 0.22;
     constexpr double HoverShare = 0.1;
     Painting painting(*this, painter, rect);
-    const QColor line = Mixed(mColors.button, mColors.buttonText, LineShare);
+    const QColor& line = mColors.headerLine;
     const QColor back = column.header.backColor ? mColors.Back(*column.header.backColor) : mColors.button;
     painting.FillWithLines(bHovered ? Mixed(back, mColors.highlight, HoverShare) : back, line, line);
     painting.Text(column.caption, column.header.alignment.value_or(CellAlignment::Left),

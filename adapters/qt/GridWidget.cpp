@@ -17,6 +17,7 @@
 #include <QStyleHints>
 #include <QToolTip>
 
+#include <algorithm>
 #include <utility>
 
 namespace zqbchwcx::qt {
@@ -123,6 +124,19 @@ void GridWidget::TextFont(const QFont& font)
     if (mEditor) mEditor->setFont(font);
     viewport()->update();
     mHeader->viewport()->update();
+}
+
+void GridWidget::WidenColumns()
+{
+    const std::vector<std::int32_t> order = mHeader->Order();
+    for (const std::int32_t lColumn : order) {
+        if (lColumn == order.back()) break;
+        std::int32_t& lWidth = mModel.Edit().Column(lColumn).lWidth;
+        // The view itself would leave out rows that it has no room for.
+        for (std::int32_t lRow = 1; lRow <= mModel.Content().RowCount(); ++lRow)
+            lWidth = std::max(lWidth, mDelegate.sizeHint({}, mModel.IndexOf({lRow, lColumn})).width());
+    }
+    mHeader->Fit();
 }
 
 void GridWidget::HeaderHeight(int height)

@@ -29,6 +29,8 @@ public:
     GridModel& Model() { return mModel; }
     GridHeader& Header() { return *mHeader; }
     void ResetCaption(const QString& caption) { msResetCaption = caption; }
+    /// Shows the texts of all columns but the last one whole, as far as the room goes.
+    void WidenColumns();
     void HeaderHeight(int height);
     void RowHeight(int height);
     int RowHeight() const;

@@ -142,7 +142,8 @@ void PersistentPicture::Font(const QFont& font)
 
 void PersistentPicture::BackColor(OleColor color)
 {
-    mBackground = ToQColor(color).value_or(mBackground);
+    mBackColor = color;
+    mBackground = ToGround(color).value_or(mBackground);
     mcolTranslated.clear();
     Painter().fillRect(mImage.rect(), mBackground);
     Changed(mImage.rect());
@@ -254,6 +255,7 @@ const QColor& PersistentPicture::Translate(OleColor color)
     for (const auto& [known, translated] : mcolTranslated) {
         if (known == color) return translated;
     }
+    if (color == mBackColor) return mBackground;
     const bool isMark = color == vxColorButtonText || color == vxColorGrayText || color == vxColorWindowText;
     return mcolTranslated
         .emplace_back(color, isMark ? ReadableOn(color, mBackground) : ToQColor(color).value_or(mBackground))

@@ -61,7 +61,8 @@ private:
     QImage mImage;
     /// Open between drawing calls: opening one costs more than most of them.
     std::unique_ptr<QPainter> mPainter;
-    QColor mBackground;
+    OleColor mBackColor = vxColorWindowBackground;
+    QColor mBackground; ///< that colour as it is drawn
     /// The colours as translated for this background and the palette of that key.
     std::vector<std::pair<OleColor, QColor>> mcolTranslated;
     qint64 mPaletteKey = 0;

@@ -54,6 +54,11 @@ QImage RackTableWidget::RenderToImage(double scale)
     return m->window->ToImage(size().expandedTo(SmallestSize), scale);
 }
 
+void RackTableWidget::WidenColumns()
+{
+    if (auto* grid = findChild<GridWidget*>()) grid->WidenColumns();
+}
+
 QSize RackTableWidget::sizeHint() const
 {
     return SmallestSize;

@@ -29,6 +29,9 @@ public:
     /// The table as it is now, drawn anew for the scale (device pixels per logical pixel; 0.5 to 8, otherwise the
     /// nearest of these), in the widget's size. It need not be on the screen.
     QImage RenderToImage(double scale);
+    /// Shows all texts whole, as far as the width goes: for pictures, in which nobody can widen a column. The user's
+    /// widths come back with the next station.
+    void WidenColumns();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

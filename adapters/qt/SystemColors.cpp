@@ -62,6 +62,18 @@ bool IsSystemColor(OleColor color)
     return (static_cast<std::uint32_t>(color) >> 24U) == 0x80U;
 }
 
+/// The same hue, as far from the dark base as the colour is from white.
+QColor Deep(const QColor& pale, const QColor& base)
+{
+    constexpr double Distance = 0.6;
+    constexpr double Saturation = 0.45;
+    constexpr double DarkestBase = 0.08; // on black, too, it is told from the ground
+    const double ground = std::max(double(base.lightnessF()), DarkestBase);
+    const double lightness = ground + (1 - pale.lightnessF()) * Distance;
+    return QColor::fromHslF(std::max(pale.hslHueF(), 0.0F), pale.hslSaturationF() * float(Saturation),
+                            float(std::min(lightness, 1.0)));
+}
+
 QColor FromRgb(std::uint32_t value)
 {
     return QColor::fromRgb(static_cast<int>(value & 0xFFU), static_cast<int>((value >> 8U) & 0xFFU),
@@ -97,6 +109,21 @@ std::optional<QColor> ToQColor(OleColor color)
     if (!IsSystemColor(color) || index >= Entries.size() || index == UnassignedIndex) return std::nullopt;
     const PaletteEntry entry = Entries.at(index);
     return QGuiApplication::palette().color(entry.group, entry.role);
+}
+
+std::optional<QColor> ToGround(OleColor color)
+{
+    const std::optional<QColor> translated = ToQColor(color);
+    const QColor base = QGuiApplication::palette().color(Active, QPalette::Base);
+    constexpr double Half = 0.5;
+    const bool bPaleOnDark =
+        translated && IsFixedColor(color) && base.lightnessF() < Half && translated->lightnessF() > Half;
+    return bPaleOnDark ? Deep(*translated, base) : translated;
+}
+
+bool IsFixedColor(OleColor color)
+{
+    return (static_cast<std::uint32_t>(color) & 0x80000000U) == 0;
 }
 
 OleColor ToOleColor(const QColor& color)

@@ -11,6 +11,10 @@ namespace zqbchwcx::qt {
 
 /// The colour in the application's palette of now; nothing for a reference that there is not.
 std::optional<QColor> ToQColor(OleColor color);
+/// The colour of a ground. In a dark palette a pale fixed colour becomes a deep one of the same hue.
+std::optional<QColor> ToGround(OleColor color);
+/// Not a colour of the desktop.
+bool IsFixedColor(OleColor color);
 OleColor ToOleColor(const QColor& color);
 
 /// The colour of a mark or text on the background. A system colour that can hardly be told from the background (a

@@ -1,7 +1,11 @@
 #include "zqbchwcx/qt/TabStripWidget.h"
 
+#include "zqbchwcx/qt/GridColors.h"
+
 #include <QDragEnterEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPolygon>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -11,6 +15,10 @@ namespace {
 /// So short that it feels like none, so long that passing over a tab is not meant.
 constexpr int HoverRest = 120;
 constexpr int DragRest = 400;
+
+constexpr int DarkestOutlined = 16;
+constexpr int UnselectedTop = 2;
+constexpr double OutlineShare = 0.5;
 
 } // namespace
 
@@ -94,6 +102,26 @@ void TabStripWidget::leaveEvent(QEvent* event)
 {
     Leave();
     QTabBar::leaveEvent(event);
+}
+
+void TabStripWidget::paintEvent(QPaintEvent* event)
+{
+    QTabBar::paintEvent(event);
+    // The style's outlines are darker than the window: on black they cannot be seen.
+    const QColor window = palette().color(QPalette::Window);
+    if (window.lightness() > DarkestOutlined) return;
+    QPainter painter(this);
+    painter.setPen(Mixed(window, palette().color(QPalette::WindowText), OutlineShare));
+    const int base = height() - 1;
+    for (int tab = 0; tab < count(); ++tab) {
+        const bool bSelected = tab == currentIndex();
+        const QRect rect = tabRect(tab);
+        const int top = bSelected ? 0 : UnselectedTop;
+        painter.drawPolyline(
+            QPolygon{{rect.left(), base}, {rect.left(), top}, {rect.right(), top}, {rect.right(), base}});
+        if (!bSelected) painter.drawLine(rect.left(), base, rect.right(), base);
+    }
+    painter.drawLine(tabRect(count() - 1).right(), base, width(), base);
 }
 
 void TabStripWidget::wheelEvent(QWheelEvent* event)

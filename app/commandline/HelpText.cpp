@@ -61,8 +61,8 @@ Draws views of the station without a display. The ending of FILE says what is wr
 .pdf (vectors; a PDF page has a header with the station's name, the date and the page number).
 
   -o, --output FILE   the file to write; one that exists is replaced
-  --view VIEW         what to draw: overview (the racks; if not given), table (the table of a rack, its columns as the
-                      window has them), both (side by side, with the arrow from the rack's first usable place)
+  --view VIEW         what to draw: overview (the racks; if not given), table (the table of a rack), both (side by side,
+                      with the arrow from the rack's first usable place)
   --rack NUMBER       the rack in the table; 0 if not given
   --scale NUMBER      PNG: device pixels to a logical pixel, from 0.5 to 8; 1 if not given
   --palette PALETTE   PNG: light (if not given), dark or contrast
@@ -74,8 +74,8 @@ Zeichnet Ansichten der Station ohne Bildschirm. Die Endung von DATEI sagt, was g
 .svg oder .pdf (Vektoren; eine PDF-Seite hat eine Kopfzeile mit Stationsname, Datum und Seitenzahl).
 
   -o, --output DATEI  die Datei, die geschrieben wird; eine vorhandene wird ersetzt
-  --view ANSICHT      was gezeichnet wird: overview (die Träger; ohne Angabe), table (die Tabelle eines Trägers, mit
-                      den Spalten des Fensters), both (nebeneinander, mit dem Pfeil vom ersten nutzbaren Platz)
+  --view ANSICHT      was gezeichnet wird: overview (die Träger; ohne Angabe), table (die Tabelle eines Trägers), both
+                      (nebeneinander, mit dem Pfeil vom ersten nutzbaren Platz)
   --rack ZAHL         der Träger in der Tabelle; ohne Angabe 0
   --scale ZAHL        PNG: Gerätepunkte je logischem Bildpunkt, von 0.5 bis 8; ohne Angabe 1
   --palette PALETTE   PNG: light (hell; ohne Angabe), dark (dunkel) oder contrast (hoher Kontrast)

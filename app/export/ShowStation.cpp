@@ -44,6 +44,7 @@ std::unique_ptr<qt::RackTableWidget> MakeTable(const VxHWStationPtr& station, st
     table->resize(size);
     ShowStation(*table->Control(), station, selection);
     table->Control()->ActiveRack(rack);
+    table->WidenColumns();
     return table;
 }
 

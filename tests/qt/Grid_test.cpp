@@ -17,7 +17,7 @@
 namespace zqbchwcx::testing {
 namespace {
 
-TEST(GridPicture, looksAsStoredInLightAndDark)
+TEST(GridPicture, looksAsStoredInLightDarkAndHighContrast)
 {
     GridStage stage;
     stage.ShowActive();
@@ -28,6 +28,10 @@ TEST(GridPicture, looksAsStoredInLightAndDark)
     stage.grid->StartEditing({4, 6}, std::nullopt);
     EXPECT_TRUE(LooksLikeReference(stage.Picture(1), "grid-editing-dark-1x"));
     EXPECT_TRUE(LooksLikeReference(stage.Picture(2), "grid-editing-dark-2x"));
+    stage.grid->EndEditing(false);
+    const PaletteChange contrast(ContrastPalette());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(LooksLikeReference(stage.Picture(1), "grid-contrast-1x"));
 }
 
 /// Where a line between rows ends, seen from the top: the last row of pixels of each line in a column of empty cells.
@@ -67,6 +71,18 @@ TEST(GridGeometry, everyColumnHasRoomAndTheLastTakesWhatIsLeftOver)
     EXPECT_EQ(FittedWidths({32, 116, 60}, 148, 16), (Widths{26, 78, 44}));
     EXPECT_EQ(FittedWidths({32, 78}, 20, 16), (Widths{16, 16}));
     EXPECT_EQ(FittedWidths({}, 20, 16), Widths{});
+}
+
+TEST(GridGeometry, widenedColumnsShowTheirTextsWholeAndTheLastTakesTheRest)
+{
+    GridStage stage;
+    const QString text = QStringLiteral("Longer than most");
+    const int needed = QFontMetrics(stage.control.TextFont()).horizontalAdvance(text);
+    stage.grid->CellText({11, 2}, text.toStdString());
+    EXPECT_LT(stage.grid->CellRect({11, 2}).width(), needed);
+    stage.Window().WidenColumns();
+    EXPECT_GT(stage.grid->CellRect({11, 2}).width(), needed);
+    EXPECT_EQ(stage.grid->CellRect({11, stage.grid->ColumnCount()}).right, 384);
 }
 
 class GridInput : public ::testing::Test, public GridStage {

@@ -26,6 +26,14 @@ inline QPalette DarkPalette()
     return PaletteOf(0x35383C, 0x24262A, 0xF0F0F0, 0x3D8FD1, 0x8C8C8C);
 }
 
+inline QPalette ContrastPalette()
+{
+    QPalette palette = PaletteOf(0x000000, 0x000000, 0xFFFFFF, 0x1AEBFF, 0x3FF23F);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, 0x3FF23F);
+    return palette;
+}
+
 /// Another palette of the application for as long as it lives.
 class PaletteChange {
 public:

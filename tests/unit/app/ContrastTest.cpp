@@ -135,10 +135,9 @@ protected:
 TEST_F(ContrastTest, EveryTextCanBeReadInLightDarkAndHighContrast)
 {
     const testing::FontChange font(14); // strokes as thick as a pixel at least
-    const std::pair<const char*, QPalette> palettes[] = {
-        {"light", zqbchwcx::testing::LightPalette()},
-        {"dark", zqbchwcx::testing::DarkPalette()},
-        {"high contrast", zqbchwcx::testing::PaletteOf(0x000000, 0x000000, 0xFFFFFF, 0x1AEBFF, 0x3FF23F)}};
+    const std::pair<const char*, QPalette> palettes[] = {{"light", zqbchwcx::testing::LightPalette()},
+                                                         {"dark", zqbchwcx::testing::DarkPalette()},
+                                                         {"high contrast", zqbchwcx::testing::ContrastPalette()}};
     for (const auto& [colors, palette] : palettes) {
         const zqbchwcx::testing::PaletteChange change(palette);
         Show(Shipped(), [&](QWidget& window, const std::string& name) {
