@@ -294,7 +294,10 @@ bool GridWidget::IsButton(GridCell cell) const
 void GridWidget::Mark(GridCell& mark, GridCell cell)
 {
     if (mark == cell) return;
-    for (const GridCell changed : {std::exchange(mark, cell), cell})
+    const GridCell before = std::exchange(mark, cell);
+    // The current cell is marked only where the keyboard is.
+    if (&mark == &mDelegate.Marks().current && !mDelegate.Marks().bFocus) return;
+    for (const GridCell changed : {before, cell})
         if (changed.lRow >= 1 && changed.lRow <= mModel.Content().RowCount()) RowChanged(changed.lRow);
 }
 
