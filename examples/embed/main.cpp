@@ -1,4 +1,4 @@
-// The smallest host: a window with the rack overview of a station, in configuration mode.
+// The smallest host: a window with the rack overview of a station and its table, in configuration mode.
 //
 // Usage: embed STATION ASSETS [PICTURE]
 //   ASSETS holds the folders catalogue/ and texts/; with PICTURE the window is written to that file, and not shown.
@@ -9,7 +9,6 @@
 #include "zqbchwcx/managers/VxHWConfigManager.h"
 #include "zqbchwcx/qt/ClipboardFormats.h"
 #include "zqbchwcx/qt/QtToolkit.h"
-#include "zqbchwcx/qt/RackOverviewWidget.h"
 #include "zqbchwcx/reference/catalogue/CatalogueReader.h"
 #include "zqbchwcx/reference/files/StationReader.h"
 #include "zqbchwcx/reference/model/contract/ModelFactory.h"
@@ -23,10 +22,10 @@
 #include "zqbchwcx/reference/services/Settings.h"
 #include "zqbchwcx/reference/services/Texts.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
-#include "zqbchwcx/views/shared/QuietView.h"
+#include "zqbchwcx/views/config/VxHWRackTable.h"
 
+#include "ui_views.h"
 #include <QApplication>
-#include <QHBoxLayout>
 
 #include <cstdio>
 #include <exception>
@@ -79,15 +78,16 @@ int Show(const std::string& fileName, const std::string& assets, const QString& 
     const auto station = std::make_shared<reference::Station>(
         context, reference::LoadStation(fileName, *context->catalogue).data, reference::StationServices{});
 
-    // Step 3: put the widget into a layout.
+    // Step 3: make the widgets; views.ui holds them as Qt Designer shows it.
     QWidget window;
-    auto* overview = new qt::RackOverviewWidget(&window);
-    (new QHBoxLayout(&window))->addWidget(overview);
+    Ui::Views views;
+    views.setupUi(&window);
 
-    // Step 4: let the manager of the mode connect them. There is no table beside this overview.
+    // Step 4: let the manager of the mode connect them.
     VxHWConfigManager manager;
-    manager.Initialize(vxStationTypeCentral, overview->Control(), std::make_shared<zqbchwcx::QuietView>(), station);
-    overview->Control()->Refresh();
+    manager.Initialize(vxStationTypeCentral, views.overview->Control(), views.table->Control(), station);
+    views.overview->Control()->Refresh();
+    views.table->Control()->Refresh();
 
     int result = 0;
     if (picture.isEmpty()) {
