@@ -2,6 +2,8 @@
 
 #include "zqbchwcx/qt/PlainText.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace zqbchwcx::qt {
@@ -53,9 +55,29 @@ void GridModel::TellHeaderChanged(std::int32_t lColumn)
 
 QVariant GridModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole)) return {};
-    const QString& text = mContent.Cell(CellOf(index)).text;
-    return role == Qt::EditRole ? text : PlainText(text, LongestShown);
+    if (!index.isValid()) return {};
+    const GridCell cell = CellOf(index);
+    switch (role) {
+    case Qt::EditRole:
+        return mContent.Cell(cell).text;
+    case Qt::DisplayRole:
+        return PlainText(mContent.Cell(cell).text, LongestShown);
+    case Qt::AccessibleDescriptionRole:
+        // The first column says which row it is; who hears only that wants to know what is in it.
+        return cell.lColumn == 1 ? RestOfRow(cell.lRow) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QString GridModel::RestOfRow(std::int32_t lRow) const
+{
+    QStringList texts;
+    for (std::int32_t lColumn = 2; lColumn <= mContent.ColumnCount(); ++lColumn) {
+        const QString& text = mContent.Cell({lRow, lColumn}).text;
+        if (!text.isEmpty()) texts << mContent.Column(lColumn).caption + u' ' + text;
+    }
+    return PlainText(texts.join(QStringLiteral(", ")), LongestShown);
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -35,6 +35,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    QString RestOfRow(std::int32_t lRow) const;
+
     GridContent mContent;
 };
 

@@ -1,5 +1,6 @@
 #include "zqbchwcx/qt/GridWidget.h"
 
+#include "zqbchwcx/qt/AccessibleFocus.h"
 #include "zqbchwcx/qt/DragSource.h"
 #include "zqbchwcx/qt/GridEditor.h"
 #include "zqbchwcx/qt/GridHeader.h"
@@ -417,6 +418,13 @@ void GridWidget::focusInEvent(QFocusEvent* event)
     mDelegate.Marks().bFocus = true;
     viewport()->update();
     QAbstractScrollArea::focusInEvent(event);
+    // The window says itself that it has the keyboard; where in it that is comes after.
+    QMetaObject::invokeMethod(this, &GridWidget::TellFocusedCell, Qt::QueuedConnection);
+}
+
+void GridWidget::TellFocusedCell()
+{
+    if (hasFocus()) TellFocus(*this);
 }
 
 void GridWidget::focusOutEvent(QFocusEvent* event)
@@ -486,6 +494,13 @@ void GridWidget::resizeEvent(QResizeEvent* event)
     QTableView::resizeEvent(event);
     mHeader->Fit();
     PlaceEditor();
+}
+
+void GridWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    // What the table would tell screen readers is true only while it has the keyboard.
+    if (hasFocus()) QTableView::currentChanged(current, previous);
+    else QAbstractItemView::currentChanged(current, previous);
 }
 
 DropTarget::Handler GridWidget::DragHandler(bool bDrop)

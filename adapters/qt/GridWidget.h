@@ -60,6 +60,7 @@ protected:
     bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
@@ -77,6 +78,7 @@ protected:
 private:
     bool TellKey(const QKeyEvent& event);
     void TellKeyUp(const QKeyEvent& event);
+    void TellFocusedCell();
     GridMouse Mouse(const QMouseEvent& event, Qt::MouseButtons buttons) const;
     DropTarget::Handler DragHandler(bool bDrop);
     bool IsButton(GridCell cell) const;

@@ -1,11 +1,19 @@
 #include "zqbchwcx/qt/PopupFormWidget.h"
 
+#include "zqbchwcx/qt/AccessibleFocus.h"
 #include "zqbchwcx/qt/InputTranslation.h"
+#include "zqbchwcx/qt/PlainText.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
 
 namespace zqbchwcx::qt {
+namespace {
+
+constexpr qsizetype LongestTold = 400;
+
+} // namespace
 
 PopupFormWidget::PopupFormWidget(QWidget& parent, const QString& name)
     : PictureWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus, {})
@@ -23,6 +31,20 @@ void PopupFormWidget::ShowAt(const QRect& onScreen)
     parentWidget()->window()->removeEventFilter(this);
     parentWidget()->window()->installEventFilter(this);
     show();
+}
+
+void PopupFormWidget::Tell(const QString& text)
+{
+    setAccessibleName(PlainText(text, LongestTold));
+    TellFocus(*this);
+}
+
+void PopupFormWidget::hideEvent(QHideEvent* event)
+{
+    PictureWidget::hideEvent(event);
+    if (accessibleName().isEmpty()) return;
+    setAccessibleName({});
+    if (QWidget* widget = QApplication::focusWidget()) TellFocus(*widget);
 }
 
 bool PopupFormWidget::eventFilter(QObject* watched, QEvent* event)

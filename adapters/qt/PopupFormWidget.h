@@ -13,9 +13,12 @@ public:
 
     void Receiver(PopupFormEvents* receiver) { mReceiver = receiver; }
     void ShowAt(const QRect& onScreen);
+    /// Screen readers take the text for what has the keyboard, until the window is gone.
+    void Tell(const QString& text);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 

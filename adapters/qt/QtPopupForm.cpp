@@ -1,6 +1,7 @@
 #include "zqbchwcx/qt/QtPopupForm.h"
 
 #include "zqbchwcx/qt/ControlWidget.h"
+#include "zqbchwcx/qt/PlainText.h"
 #include "zqbchwcx/qt/WindowHandle.h"
 
 #include <QFontMetrics>
@@ -46,6 +47,11 @@ void QtPopupForm::Show(const Rect& onScreen)
 void QtPopupForm::Hide()
 {
     if (mWidget) mWidget->hide();
+}
+
+void QtPopupForm::Tell(std::string_view text)
+{
+    if (mWidget) mWidget->Tell(ToQString(text));
 }
 
 bool QtPopupForm::Visible() const

@@ -18,6 +18,7 @@ public:
     void Events(PopupFormEvents* receiver) override;
     void Show(const Rect& onScreen) override;
     void Hide() override;
+    void Tell(std::string_view text) override;
     bool Visible() const override;
     Size ScaleSize() const override;
     std::int32_t TextHeight() const override;

@@ -1,7 +1,9 @@
 #include "zqbchwcx/qt/RackOverviewWidget.h"
 
+#include "zqbchwcx/qt/AccessibleOverview.h"
 #include "zqbchwcx/qt/ControlWidget.h"
 #include "zqbchwcx/qt/HostedView.h"
+#include "zqbchwcx/qt/PictureBoxWidget.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
 
 #include <QEvent>
@@ -18,12 +20,16 @@ constexpr QSize ComfortableSize(242 + 28, 392);
 
 struct RackOverviewWidget::Members {
     explicit Members(RackOverviewWidget& self)
-        : window(new ControlWidget(&self, ControlWidget::Backdrop::Own)), view(MakeView<VxHWRackOverview>(*window))
+        : window(new ControlWidget(&self, ControlWidget::Backdrop::Own)), view(MakeView<VxHWRackOverview>(*window)),
+          picture(window->findChild<PictureBoxWidget*>(QStringLiteral("pic_Main"))),
+          accessible(new AccessibleOverview(*picture, std::shared_ptr<const OverviewItems>(view, &view->Items())))
     {
     }
 
     ControlWidget* window;
     std::shared_ptr<VxHWRackOverview> view;
+    PictureBoxWidget* picture;
+    AccessibleOverview* accessible;
     EventConnection contentChange;
     EventConnection selChange;
     EventConnection focusChange;
@@ -39,6 +45,9 @@ RackOverviewWidget::RackOverviewWidget(QWidget* parent) : QWidget(parent), m(std
     setFocusProxy(m->window);
     m->window->ResizeNow(size());
     m->window->show();
+    for (const auto changed :
+         {&RackOverviewWidget::contentChanged, &RackOverviewWidget::selChanged, &RackOverviewWidget::focusChanged})
+        connect(this, changed, m->accessible, &AccessibleOverview::Changed);
     m->contentChange = m->view->ContentChange.Connect([this] { emit contentChanged(); });
     m->selChange = m->view->SelChange.Connect([this] { emit selChanged(); });
     m->focusChange = m->view->FocusChange.Connect([this] { emit focusChanged(); });
@@ -83,6 +92,10 @@ void RackOverviewWidget::RetranslateUi()
 {
     setAccessibleName(tr("Rack overview"));
     setAccessibleDescription(tr("Racks of the station with their places and modules; the arrow keys move the focus"));
+    // The keyboard, and with it a screen reader, is at the picture.
+    m->picture->setAccessibleName(accessibleName());
+    m->picture->setAccessibleDescription(accessibleDescription());
+    m->accessible->Changed();
 }
 
 } // namespace zqbchwcx::qt

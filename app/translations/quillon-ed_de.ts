@@ -541,53 +541,6 @@
     </message>
 </context>
 <context>
-    <name>quillon_ed::PositionText</name>
-    <message>
-        <source>empty</source>
-        <translation>leer</translation>
-    </message>
-    <message>
-        <source>inactive</source>
-        <translation>inaktiv</translation>
-    </message>
-    <message>
-        <source>not usable</source>
-        <translation>nicht nutzbar</translation>
-    </message>
-    <message>
-        <source>I %1</source>
-        <translation>E %1</translation>
-    </message>
-    <message>
-        <source>Rack %1</source>
-        <translation>Träger %1</translation>
-    </message>
-    <message>
-        <source>before place 1</source>
-        <translation>vor Platz 1</translation>
-    </message>
-    <message>
-        <source>behind place %1</source>
-        <translation>hinter Platz %1</translation>
-    </message>
-    <message>
-        <source>between places %1 and %2</source>
-        <translation>zwischen Platz %1 und %2</translation>
-    </message>
-    <message>
-        <source>Place %1</source>
-        <translation>Platz %1</translation>
-    </message>
-    <message>
-        <source>not present</source>
-        <translation>nicht vorhanden</translation>
-    </message>
-    <message>
-        <source>O %1</source>
-        <translation>A %1</translation>
-    </message>
-</context>
-<context>
     <name>quillon_ed::RecoveryDialog</name>
     <message>
         <source>&amp;Recover</source>
@@ -782,10 +735,6 @@
 </context>
 <context>
     <name>quillon_ed::StatusLine</name>
-    <message>
-        <source>Focus</source>
-        <translation>Fokus</translation>
-    </message>
     <message numerus="yes">
         <source>%n place(s) selected</source>
         <translation>
@@ -942,6 +891,49 @@
     <message>
         <source>&amp;Redo %1</source>
         <translation>&amp;Wiederholen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>zqbchwcx::qt::PositionText</name>
+    <message>
+        <source>empty</source>
+        <translation>leer</translation>
+    </message>
+    <message>
+        <source>inactive</source>
+        <translation>inaktiv</translation>
+    </message>
+    <message>
+        <source>not usable</source>
+        <translation>nicht nutzbar</translation>
+    </message>
+    <message>
+        <source>I %1</source>
+        <translation>E %1</translation>
+    </message>
+    <message>
+        <source>Rack %1</source>
+        <translation>Träger %1</translation>
+    </message>
+    <message>
+        <source>Place %1</source>
+        <translation>Platz %1</translation>
+    </message>
+    <message>
+        <source>not present</source>
+        <translation>nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>O %1</source>
+        <translation>A %1</translation>
+    </message>
+    <message>
+        <source>Gap before place %1</source>
+        <translation>Lücke vor Platz %1</translation>
+    </message>
+    <message>
+        <source>Gap behind place %1</source>
+        <translation>Lücke hinter Platz %1</translation>
     </message>
 </context>
 <context>

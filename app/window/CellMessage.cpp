@@ -16,10 +16,9 @@ constexpr QColor StripeColor(200, 40, 40);
 
 } // namespace
 
-CellMessage::CellMessage(QWidget* parent) : QLabel(parent)
+CellMessage::CellMessage(QWidget* parent) : Notice(StaysMilliseconds, parent)
 {
     setObjectName(QStringLiteral("cellMessage"));
-    setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setContentsMargins(Margin + Stripe, Margin, Margin, Margin);
     setPalette(QToolTip::palette());
@@ -27,16 +26,11 @@ CellMessage::CellMessage(QWidget* parent) : QLabel(parent)
     setForegroundRole(QPalette::ToolTipText);
     setAutoFillBackground(true);
     setAttribute(Qt::WA_TransparentForMouseEvents); // what it covers can be pressed
-    hide();
-    mGoes.setSingleShot(true);
-    mGoes.setInterval(StaysMilliseconds);
-    connect(&mGoes, &QTimer::timeout, this, &QWidget::hide);
 }
 
-void CellMessage::Tell(const QString& text, const QRect& cellOnScreen)
+void CellMessage::TellAt(const QRect& cellOnScreen, const QString& text)
 {
     setText(text);
-    setAccessibleName(text);
     const QRect cell(parentWidget()->mapFromGlobal(cellOnScreen.topLeft()), cellOnScreen.size());
     const QRect room = parentWidget()->rect();
     const int width = std::min(Width, room.width());
@@ -44,9 +38,8 @@ void CellMessage::Tell(const QString& text, const QRect& cellOnScreen)
     const int below = cell.bottom() + 2;
     const int top = below + height() <= room.bottom() ? below : std::max(cell.top() - height() - 1, 0);
     move(std::clamp(cell.left(), 0, std::max(room.width() - width, 0)), top);
-    show();
     raise();
-    mGoes.start();
+    Tell(text);
 }
 
 void CellMessage::paintEvent(QPaintEvent* event)

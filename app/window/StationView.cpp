@@ -218,7 +218,7 @@ QWidget* StationView::MakeList()
 
 void StationView::TellRefusedEdit(const QString& value, const QRect& cellOnScreen)
 {
-    moCellMessage->Tell(tr("\"%1\" was not taken: %2").arg(PlainText(value), msRefusal), cellOnScreen);
+    moCellMessage->TellAt(cellOnScreen, tr("\"%1\" was not taken: %2").arg(PlainText(value), msRefusal));
 }
 
 reference::ViewState StationView::View() const

@@ -2,10 +2,11 @@
 
 #include "app/document/Document.h"
 #include "app/host/PlainText.h"
-#include "app/window/PositionText.h"
+#include "app/window/Notice.h"
 #include "app/window/StationView.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
+#include "zqbchwcx/qt/PositionText.h"
 
 #include <QLabel>
 
@@ -20,12 +21,16 @@ constexpr int TellMilliseconds = 8000;
 } // namespace
 
 StatusLine::StatusLine(QWidget* parent)
-    : QStatusBar(parent), moFocus(new QLabel(this)), moSelection(new QLabel(this)), moReadOnly(new QLabel(this)),
-      moMode(new QLabel(this))
+    : QStatusBar(parent), moFocus(new QLabel(this)), moTold(new Notice(TellMilliseconds, this)),
+      moSelection(new QLabel(this)), moReadOnly(new QLabel(this)), moMode(new QLabel(this))
 {
-    moFocus->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    moFocus->setContentsMargins(4, 0, 4, 0);
-    addWidget(moFocus, 1);
+    for (QLabel* label : {moFocus, static_cast<QLabel*>(moTold)}) {
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        label->setContentsMargins(4, 0, 4, 0);
+        addWidget(label, 1);
+    }
+    moTold->hide();
+    connect(moTold, &Notice::gone, moFocus, &QWidget::show);
     for (QLabel* label : {moSelection, moReadOnly, moMode}) {
         label->setContentsMargins(6, 0, 6, 0);
         addPermanentWidget(label);
@@ -34,27 +39,36 @@ StatusLine::StatusLine(QWidget* parent)
 
 void StatusLine::Show(const Document* document, const StationView* view)
 {
-    // Shown anew whenever the language changes, too.
-    moFocus->setAccessibleName(tr("Focus"));
-    for (QLabel* label : {moFocus, moSelection, moReadOnly, moMode}) label->clear();
-    if (document && view) G_Trap("StatusLine", "Show", [&] { ShowStates(*document, *view); });
-    for (QLabel* label : {moSelection, moReadOnly, moMode}) label->setVisible(!label->text().isEmpty());
+    States states;
+    if (document && view) G_Trap("StatusLine", "Show", [&] { states = StatesOf(*document, *view); });
+    // Only what is different changes, for screen readers hear of every change.
+    moFocus->setText(states.focus);
+    for (const auto& [label, text] : {std::pair(moSelection, states.selection), std::pair(moReadOnly, states.readOnly),
+                                      std::pair(moMode, states.mode)}) {
+        label->setText(text);
+        label->setVisible(!text.isEmpty());
+    }
 }
 
-void StatusLine::ShowStates(const Document& document, const StationView& view)
+StatusLine::States StatusLine::StatesOf(const Document& document, const StationView& view)
 {
+    States states;
     const reference::Station& station = *document.Station();
-    moFocus->setText(PositionText(station, view.Handler()->FocusPosition()));
+    const PositionDescription focus = G_DescribePosition(station, view.Handler()->FocusPosition());
+    states.focus = qt::PositionTexts(focus).join(QStringLiteral(" · "));
     const auto selected = view.Handler()->SelPlaces()->Count();
-    if (selected > 0) moSelection->setText(tr("%n place(s) selected", nullptr, selected));
-    if (station.IsReadOnly()) moReadOnly->setText(tr("Read-only"));
-    else if (document.IsFileWriteProtected()) moReadOnly->setText(tr("File is write-protected"));
-    moMode->setText(station.DisplayMode() == vxDisplayModeOffline ? tr("Offline") : tr("Online"));
+    if (selected > 0) states.selection = tr("%n place(s) selected", nullptr, selected);
+    if (station.IsReadOnly()) states.readOnly = tr("Read-only");
+    else if (document.IsFileWriteProtected()) states.readOnly = tr("File is write-protected");
+    states.mode = station.DisplayMode() == vxDisplayModeOffline ? tr("Offline") : tr("Online");
+    return states;
 }
 
 void StatusLine::Tell(const QString& text)
 {
-    showMessage(PlainText(text, LongestDescription), TellMilliseconds);
+    if (text.isEmpty()) return;
+    moFocus->hide();
+    moTold->Tell(PlainText(text, LongestDescription));
 }
 
 } // namespace quillon_ed

@@ -7,6 +7,7 @@ class QLabel;
 namespace quillon_ed {
 
 class Document;
+class Notice;
 class StationView;
 
 /// What has the focus, how much is selected, and in what state the station is.
@@ -22,9 +23,18 @@ public:
     void Tell(const QString& text);
 
 private:
-    void ShowStates(const Document& document, const StationView& view);
+    struct States {
+        QString focus;
+        QString selection;
+        QString readOnly;
+        QString mode;
+    };
+
+    /// Throws what the station throws.
+    static States StatesOf(const Document& document, const StationView& view);
 
     QLabel* moFocus;
+    Notice* moTold; ///< in place of the focus
     QLabel* moSelection;
     QLabel* moReadOnly;
     QLabel* moMode;

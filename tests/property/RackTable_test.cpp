@@ -444,6 +444,7 @@ TEST_F(SubModules, OpenTheirParameters)
     grid.Key(vxKeyDown, vxAltMask);
     for (const std::int16_t nKey : {vxKeyDown, vxKeyDown, vxKeyDown, vxKeyUp}) EXPECT_TRUE(grid.Key(nKey));
     EXPECT_EQ(Handler().FocusPosition(), 10);
+    EXPECT_THAT(form.told, ::testing::StartsWith("Infeed star, ")) << "for screen readers";
     EXPECT_TRUE(grid.Key(vxKeyReturn));
     EXPECT_EQ(dialogs, 2);
 }

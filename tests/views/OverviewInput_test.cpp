@@ -388,5 +388,38 @@ TEST_F(OverviewInputTest, CompareTooltips)
     EXPECT_EQ(TooltipAt(8), "");
 }
 
+TEST_F(OverviewInputTest, WhatItShowsIsListedForThoseWhoDoNotSeeIt)
+{
+    const OverviewItems& items = view->Items();
+    Put(0, 4, "IDB_CRX_MODULE_IO_DIGITAL");
+    Select({{0, 4}});
+    handler->FocusPosition(7);
+    EXPECT_EQ(items.Racks(), (Positions{0, 1000, 2000, 3000}));
+    Positions selected;
+    Positions focused;
+    for (const std::int32_t lRack : items.Racks()) {
+        const Positions within = items.InRack(lRack / vxRackFactor);
+        EXPECT_THAT(within, AllOf(SizeIs(23), Each(AllOf(Gt(lRack), Lt(lRack + 24)))));
+        for (const std::int32_t lPosition : within) {
+            const OverviewItem item = items.At(lPosition);
+            std::int32_t lThere = vxNoPosition;
+            view->PositionByCoordinates((item.rect.left + item.rect.right) / 2, (item.rect.top + item.rect.bottom) / 2,
+                                        lThere);
+            EXPECT_EQ(lThere, lPosition);
+            if (item.bSelected) selected.push_back(lPosition);
+            if (item.bFocused) focused.push_back(lPosition);
+        }
+    }
+    EXPECT_EQ(selected, Positions{8});
+    EXPECT_EQ(focused, Positions{7});
+    EXPECT_FALSE(items.At(8).what.bEmpty);
+    EXPECT_EQ(items.DetailsAt(8), TooltipAt(8));
+    for (const std::int32_t lPosition : {-1, 24, 4000})
+        EXPECT_EQ(items.At(lPosition).what.position.eType, vxPositionNone) << lPosition;
+    view->VxHWStation(nullptr);
+    EXPECT_THAT(items.Racks(), IsEmpty());
+    EXPECT_THAT(items.InRack(0), IsEmpty());
+}
+
 } // namespace
 } // namespace zqbchwcx::testing

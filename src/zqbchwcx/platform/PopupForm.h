@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 namespace zqbchwcx {
 
@@ -28,6 +29,8 @@ public:
     /// Shows the form with its picture erased. The rectangle is in logical pixels of the screen.
     virtual void Show(const Rect& onScreen) = 0;
     virtual void Hide() = 0;
+    /// What the keyboard is at now, for screen readers: the picture tells them nothing.
+    virtual void Tell(std::string_view text) = 0;
     virtual bool Visible() const = 0;
     virtual Size ScaleSize() const = 0;
     /// The height of one line of text in the form's font.

@@ -21,6 +21,7 @@ public:
         mbVisible = true;
     }
     void Hide() override { Call("PopupForm.Hide"), mbVisible = false; }
+    void Tell(std::string_view text) override { Call("PopupForm.Tell"), told = text; }
     bool Visible() const override { return mbVisible; }
     Size ScaleSize() const override { return {rect.width(), rect.height()}; }
     std::int32_t TextHeight() const override { return Answer("PopupForm.TextHeight", 13); }
@@ -40,6 +41,7 @@ public:
         mpEvents->Closed();
     }
 
+    std::string told; ///< last, for screen readers
     Rect rect;
     Rect workArea = MakeRect(0, 0, 1920, 1080);
 

@@ -1,7 +1,6 @@
 #include "tests/unit/app/WindowTour.h"
 
 #include "app/catalogue/CataloguePanel.h"
-#include "app/window/StatusLine.h"
 #include "zqbchwcx/reference/files/StationWriter.h"
 
 #include <QAbstractButton>
@@ -130,7 +129,6 @@ protected:
         ExpectLine(window.windowTitle(), name + ": title");
         EXPECT_LT(window.minimumSizeHint().height(), 700) << name;
         EXPECT_LT(window.minimumSizeHint().width(), 1200) << name;
-        if (const auto* status = window.findChild<StatusLine*>()) ExpectLine(status->currentMessage(), name + ": told");
         for (auto* widget : window.findChildren<QWidget*>()) {
             const std::string place = name + ": " + widget->metaObject()->className();
             ExpectToolTip(widget->toolTip(), place + " tooltip");

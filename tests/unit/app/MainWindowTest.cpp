@@ -2,8 +2,8 @@
 
 #include "app/document/JournalDirectory.h"
 #include "app/window/MainWindow.h"
+#include "app/window/Notice.h"
 #include "app/window/StationView.h"
-#include "app/window/StatusLine.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
@@ -49,6 +49,8 @@ protected:
         EXPECT_TRUE(action) << text;
         return action && action->isEnabled();
     }
+    /// What the status line tells in place of the focus.
+    QLabel& Told() const { return *window->statusBar()->findChild<Notice*>(); }
     QStringList StatusTexts() const
     {
         QStringList texts;
@@ -123,10 +125,10 @@ TEST_F(MainWindowTest, WhatIsGreyInAnOnlineStationIsRefusedByKeysToo)
     for (QWidget* shown : views) {
         for (const auto& [key, modifier] :
              {std::pair(Qt::Key_Delete, Qt::NoModifier), std::pair(Qt::Key_X, Qt::ControlModifier)}) {
-            window->statusBar()->clearMessage();
+            Told().clear();
             QKeyEvent press(QEvent::KeyPress, key, modifier);
             QCoreApplication::sendEvent(shown, &press);
-            EXPECT_TRUE(window->statusBar()->currentMessage() == reason || StatusTexts().contains(reason)) << key;
+            EXPECT_EQ(Told().text(), reason) << key;
         }
     }
     view->Manager().Delete();
@@ -146,7 +148,7 @@ TEST_F(MainWindowTest, PasteFollowsTheClipboardAndSaysWhyNot)
     Action("Copy")->trigger();
     QCoreApplication::processEvents();
     Action("Paste")->trigger();
-    EXPECT_THAT(window->statusBar()->currentMessage().toStdString(), ::testing::HasSubstr("place 4 of rack 0"));
+    EXPECT_THAT(Told().text().toStdString(), ::testing::HasSubstr("place 4 of rack 0"));
     EXPECT_FALSE(window->isWindowModified());
     Action("Delete")->trigger();
     view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 1));

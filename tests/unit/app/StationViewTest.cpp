@@ -4,7 +4,6 @@
 #include "app/window/CellMessage.h"
 #include "app/window/ModuleInserter.h"
 #include "app/window/ModuleList.h"
-#include "app/window/PositionText.h"
 #include "app/window/StationView.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
@@ -14,6 +13,7 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/platform/Input.h"
 #include "zqbchwcx/qt/MimeDataObject.h"
+#include "zqbchwcx/qt/PositionText.h"
 #include "zqbchwcx/qt/RackTableWidget.h"
 
 #include <QLabel>
@@ -173,13 +173,14 @@ TEST_F(ModuleListTest, HasItsMenuOnTheKeyboard)
 TEST_F(StationViewTest, PositionsAreToldForPeople)
 {
     const auto text = [&](std::int32_t lPosition) {
-        return PositionText(*document->Station(), lPosition).toStdString();
+        const auto what = G_DescribePosition(*document->Station(), lPosition);
+        return qt::PositionTexts(what).join(QStringLiteral(" · ")).toStdString();
     };
     EXPECT_THAT(text(Feedback), ::testing::MatchesRegex("Rack 0 · Place 4 · .*Q3-DI16-A · I .*"));
     EXPECT_EQ(text(Empty), "Rack 0 · Place 11 · empty");
-    EXPECT_EQ(text(G_GapPosition(0, 4)), "Rack 0 · between places 4 and 5");
-    EXPECT_EQ(text(G_GapPosition(0, 0)), "Rack 0 · before place 1");
-    EXPECT_EQ(text(G_GapPosition(0, 11)), "Rack 0 · behind place 11");
+    EXPECT_EQ(text(G_GapPosition(0, 4)), "Rack 0 · Gap before place 5");
+    EXPECT_EQ(text(G_GapPosition(0, 0)), "Rack 0 · Gap before place 1");
+    EXPECT_EQ(text(G_GapPosition(0, 11)), "Rack 0 · Gap behind place 11");
     EXPECT_EQ(text(vxNoPosition), "");
 }
 

@@ -44,6 +44,7 @@ VxHWRackOverview::VxHWRackOverview(UserControl& oControl) noexcept
       mMenu(mContext, mTexts,
             [this] { return mCanvas.InControl(mLayout.MenuPointOf(G_PositionInfo(mContext.FocusPosition()))); }),
       mDragPointer(mContext, G_CentralPlaceStyle, mCanvas, mModulePictures), mTooltips(mContext, mLayout, mTexts),
+      mItems(mContext, mLayout, mCanvas, mSelection, mTooltips),
       mKeyInput(mContext, mMenu, mGate, G_CentralCursorTarget),
       mInput(mContext, mLayout, mCanvas, mMenu, mDragPointer, mGate, "pic_Main", [this] { DrawFocusMark(); }),
       mArrow(mContext, G_CentralPlaceStyle, mLayout, mCanvas)

@@ -12,6 +12,7 @@
 #include "zqbchwcx/views/overview/InterfaceModuleLinks.h"
 #include "zqbchwcx/views/overview/KeyInput.h"
 #include "zqbchwcx/views/overview/ModulePictures.h"
+#include "zqbchwcx/views/overview/OverviewItems.h"
 #include "zqbchwcx/views/overview/PictureInput.h"
 #include "zqbchwcx/views/overview/PlacePainter.h"
 #include "zqbchwcx/views/overview/PlaceTooltips.h"
@@ -45,6 +46,9 @@ public:
     void CoordinatesByPosition(std::int32_t lPosition, std::int32_t& X, std::int32_t& Y) const noexcept;
     /// The position under the point, given in logical pixels of the control; -1 for none.
     void PositionByCoordinates(std::int32_t X, std::int32_t Y, std::int32_t& lPosition) const noexcept;
+
+    /// What the picture shows, for screen readers. The items last as long as the view.
+    const OverviewItems& Items() const noexcept { return mItems; }
 
     Event<> ContentChange;
     Event<> SelChange;
@@ -105,6 +109,7 @@ private:
     PlaceMenu mMenu;
     DragPointer mDragPointer;
     PlaceTooltips mTooltips;
+    OverviewItems mItems;
     KeyInput mKeyInput;
     PictureInput mInput;
     FocusArrow mArrow;

@@ -29,9 +29,10 @@ public:
     void Disconnect() noexcept { moConnection.reset(); }
 
     Tooltip GetTooltip(Point at) noexcept override;
+    /// What is told of the place; empty for nothing.
+    std::string TextOf(const VxHWRackPlacePtr& oPlace) const;
 
 private:
-    std::string TextOf(const VxHWRackPlacePtr& oPlace) const;
     std::string P_GetTooltipHWConfiguration(const VxHWRackPlacePtr& oPlace) const noexcept;
     std::string P_GetTooltipHWDiagnostics(const VxHWRackPlacePtr& oPlace) const noexcept;
     std::string P_GetTooltipHWCompare(const VxHWRackPlacePtr& oPlace) const noexcept;

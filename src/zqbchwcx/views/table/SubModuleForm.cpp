@@ -93,9 +93,8 @@ void frm_SubModules::P_SetPosition(const Rect& cell, const Grid& grid)
     const std::int32_t lLeft = std::min({name.left, first.left, second.left});
     const std::int32_t lWidth = std::max({name.right, first.right, second.right}) - lLeft;
     const auto columnOf = [&](const Rect& rect) { return Column{rect.left - lLeft, rect.right - lLeft - 1}; };
-    mName = columnOf(name);
-    mFirstAddress = columnOf(first);
-    mSecondAddress = columnOf(second);
+    mcolColumns = {columnOf(name), columnOf(first)};
+    if (!mbBasicAddress) mcolColumns.push_back(columnOf(second));
 
     mlLineHeight = std::max(form.TextHeight(), 1);
     const std::int32_t lHeight = LineCount() * mlLineHeight + 2 * FrameWidth;
@@ -113,7 +112,7 @@ void frm_SubModules::P_DrawContent() noexcept
         for (std::size_t k = 0; k < std::size(corners); ++k)
             moForm->DrawLine(corners[k], corners[(k + 1) % std::size(corners)], vxColorButtonText);
         for (std::int32_t lLine = 1; lLine <= LineCount(); ++lLine) P_DrawLine(lLine);
-        for (const Column& column : {mName, mFirstAddress})
+        for (const Column& column : mcolColumns)
             if (column.lRight < size.width - 1)
                 moForm->DrawLine({column.lRight, SeparatorTop}, {column.lRight, size.height - SeparatorBottom},
                                  vxColorButtonShadow);
@@ -128,16 +127,31 @@ void frm_SubModules::P_DrawLine(std::int32_t lLine) noexcept
         const OleColor textColor = bMarked ? vxColorHighlightText : vxColorWindowText;
         moForm->FillBox(MakeRect(FrameWidth, lTop, moForm->ScaleSize().width - 2 * FrameWidth, mlLineHeight),
                         bMarked ? vxColorHighlight : vxColorWindowBackground);
-        const auto oSubModule = moPlace->Module()->SubModules()->Item(lLine - 1);
-        const auto draw = [&](const std::string& text, const Column& column) {
+        const auto texts = TextsOf(lLine);
+        for (std::size_t k = 0; k < mcolColumns.size(); ++k) {
+            const Column& column = mcolColumns[k];
             const Rect box{column.lLeft + TextInset, lTop, column.lRight - TextInset, lTop + mlLineHeight};
-            moForm->DrawLeftText(text, box, textColor);
-        };
-        draw(oSubModule->Name(), mName);
-        if (mbBasicAddress) return draw(oSubModule->BasicAddressText(), mFirstAddress);
-        draw(oSubModule->InputAddressText(), mFirstAddress);
-        draw(oSubModule->OutputAddressText(), mSecondAddress);
+            moForm->DrawLeftText(texts[k], box, textColor);
+        }
     });
+}
+
+std::vector<std::string> frm_SubModules::TextsOf(std::int32_t lLine) const
+{
+    const auto oSubModule = moPlace->Module()->SubModules()->Item(lLine - 1);
+    if (mbBasicAddress) return {oSubModule->Name(), oSubModule->BasicAddressText()};
+    return {oSubModule->Name(), oSubModule->InputAddressText(), oSubModule->OutputAddressText()};
+}
+
+void frm_SubModules::TellMarkedLine()
+{
+    std::string told;
+    for (const std::string& text : TextsOf(mlMarkedLine)) {
+        if (text.empty()) continue;
+        if (!told.empty()) told += ", ";
+        told += text;
+    }
+    moForm->Tell(told);
 }
 
 std::int32_t frm_SubModules::P_GetMousePosition(Point at) const noexcept
@@ -180,6 +194,7 @@ void frm_SubModules::Walk(std::int32_t lLines) noexcept
     G_Trap(ClassName, "P_DrawContent", [&] {
         mlMarkedLine = std::clamp(mlMarkedLine + lLines, 1, std::max(LineCount(), 1));
         P_DrawContent();
+        TellMarkedLine();
     });
 }
 

@@ -7,8 +7,10 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace zqbchwcx {
 
@@ -56,6 +58,9 @@ private:
     void P_SetPosition(const Rect& cell, const Grid& grid);
     void P_DrawContent() noexcept;
     void P_DrawLine(std::int32_t lLine) noexcept;
+    /// What the columns of a line show, from the name on.
+    std::vector<std::string> TextsOf(std::int32_t lLine) const;
+    void TellMarkedLine();
     std::int32_t P_GetMousePosition(Point at) const noexcept;
     void Open(std::int32_t lPosition) noexcept;
     void moSpy_WndProc(std::int32_t lMessage, std::intptr_t hOther) noexcept;
@@ -70,9 +75,7 @@ private:
     VxHWRackPlacePtr moPlace;
     IVxHWMouseInputControllerPtr moiMouseCtrl;
     bool mbBasicAddress = false;
-    Column mName;
-    Column mFirstAddress;
-    Column mSecondAddress;
+    std::vector<Column> mcolColumns; ///< name and addresses
     std::int32_t mlLineHeight = 1;
     std::optional<Point> moMouseDown;
     std::int32_t mlMarkedLine = 0;
