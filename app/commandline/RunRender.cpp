@@ -49,8 +49,7 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
             Complain(streams.err, file + ": " + reason->In(LanguageOf(line)));
             return ExitUsage;
         }
-        if (const auto part = PartShown(data, content))
-            Complain(streams.err, file + ": " + part->In(LanguageOf(line)));
+        if (const auto part = PartShown(data, content)) Complain(streams.err, file + ": " + part->In(LanguageOf(line)));
         const PageHeader header{PlainText(data.name), QDate::currentDate(),
                                 QLocale(LanguageOf(line) == Language::German ? QLocale::German : QLocale::English)};
         ExportViews(std::make_shared<Station>(services.Context(), std::move(data)), content, header, line.scale,

@@ -4,8 +4,8 @@
 
 namespace quillon_ed {
 
-/// A note at a cell: what was typed and why it was not taken. It goes after a while, or when another one comes, and lets
-/// presses of the mouse through to what it covers.
+/// A note at a cell: what was typed and why it was not taken. It goes after a while, or when another one comes, and
+/// lets presses of the mouse through to what it covers.
 class CellMessage : public Notice {
     Q_OBJECT
 
