@@ -111,13 +111,13 @@ Outcome<BlockLayout> InsertAt(StationDraft& draft, PlaceRef first, const ModuleB
 PlaceRef BeginBeforeGap(const StationDraft& draft, PlaceRef behindGap, const ModuleBlock& block)
 {
     for (PlaceRef first{behindGap.rack, behindGap.place - 1}; first.place >= 1; --first.place)
-        if (Spread(draft, first, block).last < behindGap.place) return first;
+        if (!IsHidden(draft.Data(), first) && Spread(draft, first, block).last < behindGap.place) return first;
     return {};
 }
 
 Outcome<BlockLayout> LayOutAtGap(StationDraft& draft, std::int32_t rack, std::int32_t gap, const ModuleBlock& block)
 {
-    const PlaceRef behind{rack, gap + 1};
+    const PlaceRef behind{rack, NextPlace(draft.Data(), {rack, gap})};
     const Occupancy& occupancy = draft.OccupancyOf(rack);
     if (gap >= 1 && !occupancy.IsFree(gap) && occupancy.FirstPlace(gap) == occupancy.FirstPlace(behind.place)) {
         const LocalizedText where = PlaceText({rack, gap});

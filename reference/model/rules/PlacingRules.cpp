@@ -81,6 +81,30 @@ bool FamilyFitsDistributed(ModuleFamily family, PlaceRef firstPlace)
     return IsInputOutput(family) || family == ModuleFamily::PowerSupply;
 }
 
+/// What a station of the kind is.
+LocalizedText KindText(std::int32_t stationKind)
+{
+    switch (stationKind) {
+    case vxStationKindCentral:
+        return {"central", "zentral"};
+    case vxStationKindDistributed1:
+        return {"distributed on a rail", "dezentral auf einer Schiene"};
+    default:
+        return {"distributed with self-contained modules", "dezentral aus eigenständigen Modulen"};
+    }
+}
+
+/// The stations that take the type; it does not fit all of them.
+LocalizedText StationsOf(const ModuleType& type)
+{
+    if (!type.fitsDistributed) return {"central stations", "zentrale Stationen"};
+    if (type.distributedKind == vxStationKindDistributed1)
+        return {"distributed stations on a rail", "dezentrale Stationen auf einer Schiene"};
+    if (type.distributedKind == vxStationKindDistributed2)
+        return {"distributed stations with self-contained modules", "dezentrale Stationen aus eigenständigen Modulen"};
+    return {"distributed stations", "dezentrale Stationen"};
+}
+
 /// The first place that does not take the family, or place 0.
 PlaceRef UnfitPlace(std::int32_t stationKind, const ModuleType& type, PlaceRef firstPlace)
 {
@@ -119,6 +143,12 @@ Objection AgainstRack(const StationData& data, std::int32_t rack)
     if (rack < 0 || static_cast<std::size_t>(rack) >= data.racks.size()) {
         return Refusal{Rule::NoSuchPlace, {rack, 0}, {"There is no rack " + number, "Es gibt keinen Träger " + number}};
     }
+    if (rack > 0 && !IsCentral(data.kind)) {
+        return Refusal{
+            Rule::StationKind,
+            {rack, 0},
+            {"A distributed station has no rack but rack 0", "Eine dezentrale Station hat nur den Träger 0"}};
+    }
     if (data.racks[static_cast<std::size_t>(rack)]->state != vxRackPresent) {
         return Refusal{Rule::RackNotPresent,
                        {rack, 0},
@@ -136,10 +166,12 @@ Objection AgainstType(const StationData& data, const ModuleType& type, PlaceRef 
                         type.orderNumber + " gibt es nur innerhalb einer anderen Baugruppe"}};
     }
     if (!type.FitsStation(data.kind)) {
+        const LocalizedText made = StationsOf(type);
+        const LocalizedText here = KindText(data.kind);
         return Refusal{Rule::StationKind,
                        firstPlace,
-                       {type.orderNumber + " is not made for this kind of station",
-                        type.orderNumber + " ist nicht für diese Art von Station bestimmt"}};
+                       {type.orderNumber + " is made for " + made.en + ", and this one is " + here.en,
+                        type.orderNumber + " ist für " + made.de + " bestimmt, und diese ist " + here.de}};
     }
     if (const PlaceRef unfit = UnfitPlace(data.kind, type, firstPlace); unfit.place != 0) {
         const LocalizedText where = PlaceText(unfit);
@@ -221,12 +253,16 @@ Objection AgainstMissingLeader(const StationData& data, const Catalogue& catalog
     return {};
 }
 
+bool IsHidden(const StationData& data, PlaceRef place)
+{
+    const PlaceData* found = IsCentral(data.kind) ? nullptr : FindPlace(data, place);
+    return found && found->usability == vxPlaceNotUsable;
+}
+
 std::int32_t NextPlace(const StationData& data, PlaceRef place)
 {
     std::int32_t next = place.place + 1;
-    if (IsCentral(data.kind)) return next;
-    const PlaceData* found = FindPlace(data, {place.rack, next});
-    while (found && found->usability == vxPlaceNotUsable) found = FindPlace(data, {place.rack, ++next});
+    while (IsHidden(data, {place.rack, next})) ++next;
     return next;
 }
 

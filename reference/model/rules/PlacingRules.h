@@ -16,7 +16,8 @@ namespace zqbchwcx::reference {
 /// dummies. In every rack but rack 0 these need an interface module in place 3.
 ///
 /// Distributed station: the head, an interface module, begins at place 1; the places behind it take digital, analog,
-/// counter and communication modules, dummies and power supplies (potential feeds), all of which need the head.
+/// counter and communication modules, dummies and power supplies (potential feeds), all of which need the head. It has
+/// one rack, rack 0. A module does not reach over a hidden place.
 ///
 /// Everywhere: a module stands wholly on active places of one present rack.
 
@@ -43,7 +44,9 @@ bool HasLeader(std::int32_t stationKind, const RackData& rack, const Catalogue& 
 /// Against a rack that holds modules that need its leader and lacks it; names the first such module's place.
 Objection AgainstMissingLeader(const StationData& data, const Catalogue& catalogue, std::int32_t rack);
 
-/// The place behind, skipping what a distributed station does not show (its places that are not usable).
+/// Whether a distributed station does not show the place, because it is not usable: its neighbours close up.
+bool IsHidden(const StationData& data, PlaceRef place);
+/// The place behind, skipping hidden ones.
 std::int32_t NextPlace(const StationData& data, PlaceRef place);
 
 } // namespace zqbchwcx::reference

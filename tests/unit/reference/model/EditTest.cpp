@@ -9,6 +9,22 @@ using namespace reference;
 
 constexpr std::optional<Rule> Done = std::nullopt;
 
+struct PlacingCase {
+    std::string before;
+    std::int32_t position;
+    std::string block;
+    std::string result; ///< what then stands in rack 0, or the rule against it
+};
+
+void ExpectResult(PlainStation station, const PlacingCase& placing)
+{
+    const std::string unchanged = station.Row(0);
+    const std::optional<Rule> against = station.Place(placing.position, Block(placing.block));
+    EXPECT_EQ(against ? RuleId(*against) : station.Row(0), placing.result)
+        << placing.block << " at " << placing.position;
+    EXPECT_TRUE(!against || station.Row(0) == unchanged);
+}
+
 /// Rack 0 as it is written; rack 1 is empty.
 PlainStation CentralStation(const std::string& row)
 {
@@ -19,15 +35,9 @@ PlainStation CentralStation(const std::string& row)
 
 TEST(PlaceBlock, LandsInOnePieceOrNotAtAll)
 {
-    struct Case {
-        std::string before;
-        std::int32_t position;
-        std::string block;
-        std::string result; ///< what then stands in rack 0, or the rule against it
-    };
     const std::string some = "PS CPU IM DI";
     const std::string many = "PS CPU IM DM DI AI2 + DM DM DO CP";
-    const Case cases[] = {
+    const PlacingCase cases[] = {
         {some, G_PlacePosition(0, 6), "DI - AI2 + - -", "PS CPU IM DI - DI - AI2 + - -"},
         {some, G_PlacePosition(0, 4), "- DO", "PS CPU IM DI DO - - - - - -"},
         {some, G_PlacePosition(0, 4), "DO", "place-occupied"},
@@ -35,6 +45,7 @@ TEST(PlaceBlock, LandsInOnePieceOrNotAtAll)
         {some, G_PlacePosition(0, 11), "DO DO", "no-such-place"},
         {some, G_PlacePosition(0, 5), "DO CPU", "wrong-place"},
         {some, G_PlacePosition(0, 5), "DO NEW", "unknown-type"},
+        {some, G_PlacePosition(0, 5), "HEAD2 +", "station-kind"},
         {some, G_PlacePosition(0, 5), "SUB", "sub-module-alone"},
         {some, G_PlacePosition(0, 5), "- -", "nothing-to-place"},
         {some, G_PlacePosition(1, 4), "DI", "leader-missing"},
@@ -46,12 +57,32 @@ TEST(PlaceBlock, LandsInOnePieceOrNotAtAll)
         {many, G_GapPosition(0, 8), "CP", "no-room-to-shift"},
         {many, G_GapPosition(0, 0), "PS", "no-room-to-shift"},
     };
-    for (const auto& [before, position, block, result] : cases) {
-        PlainStation station = CentralStation(before);
-        const std::string unchanged = station.Row(0);
-        const std::optional<Rule> against = station.Place(position, Block(block));
-        EXPECT_EQ(against ? RuleId(*against) : station.Row(0), result) << block << " at " << position;
-        EXPECT_TRUE(!against || station.Row(0) == unchanged);
+    for (const PlacingCase& placing : cases) ExpectResult(CentralStation(placing.before), placing);
+}
+
+TEST(PlaceBlock, KeepsOutOfTheHiddenPlacesOfADistributedStation)
+{
+    const std::string head = "HEAD2 + DI";
+    const std::string full = "HEAD2 + - DO DI DI DI DI";
+    const PlacingCase cases[] = {
+        {head, G_GapPosition(0, 3), "DO", "HEAD2 + DI - DO - - - - -"},
+        {head, G_GapPosition(0, 4), "DO", "HEAD2 + DI - DO - - - - -"},
+        {head, G_GapPosition(0, 2), "DM AI2 +", "HEAD2 + DM - AI2 + DI - - -"},
+        {full, G_GapPosition(0, 9), "DM", "HEAD2 + DO - DI DI DI DI DM -"},
+        {full, G_GapPosition(0, 5), "AI2 +", "no-room-to-shift"},
+        {head, G_PlacePosition(0, 4), "DO", "place-not-usable"},
+        {"HEAD2 +", G_PlacePosition(0, 3), "AI2 +", "place-not-usable"},
+        {head, G_PlacePosition(0, 9), "DI DI", "no-such-place"},
+        {head, G_GapPosition(0, 0), "DI", "wrong-place"},
+        {head, G_PlacePosition(0, 5), "HEAD2 +", "wrong-place"},
+        {head, G_PlacePosition(0, 5), "CENTRAL", "station-kind"},
+        {head, G_PlacePosition(1, 1), "HEAD2 +", "station-kind"},
+    };
+    for (const PlacingCase& placing : cases) {
+        PlainStation station(EmptyStation(1, 2, 10));
+        for (const std::int32_t place : {4, 10}) station.Usability({0, place}, -1);
+        station.Place(G_PlacePosition(0, 1), Block(placing.before));
+        ExpectResult(station, placing);
     }
 }
 

@@ -69,13 +69,13 @@ ModelContextPtr SampleContext()
     return std::make_shared<ModelContext>(ModelContext{SampleCatalogue(), {}});
 }
 
-StationData EmptyStation(std::int32_t kind, std::size_t racks)
+StationData EmptyStation(std::int32_t kind, std::size_t racks, std::size_t placeCount)
 {
     StationData data;
     data.kind = kind;
     for (std::size_t rack = 0; rack < racks; ++rack) {
         auto places = std::make_shared<RackData>();
-        places->places.resize(kind == 0 ? 11 : 24);
+        places->places.resize(placeCount > 0 ? placeCount : kind == 0 ? 11 : 24);
         data.racks.push_back(std::move(places));
     }
     return data;

@@ -37,8 +37,8 @@ namespace zqbchwcx::testing {
 /// 4 bytes in and out), "CP", "DM" (dummy), "HEAD2" (head, 2 places), "CENTRAL" (central stations only).
 std::shared_ptr<const reference::Catalogue> SampleCatalogue();
 
-/// A station with all places active and empty; kind 0 with 11 places per rack, else 24.
-reference::StationData EmptyStation(std::int32_t kind, std::size_t racks);
+/// A station with all places active and empty; without a place count, kind 0 with 11 places per rack, else 24.
+reference::StationData EmptyStation(std::int32_t kind, std::size_t racks, std::size_t placeCount = 0);
 
 reference::ModuleDataPtr NewModuleData(const std::string& orderNumber);
 /// A block of order numbers, "-" for an empty place, "+" where a module goes on: "DI - AI2 + DO".
