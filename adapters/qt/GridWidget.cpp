@@ -203,6 +203,7 @@ bool GridWidget::StartEditing(GridCell cell, std::optional<QString> text)
     scrollTo(mModel.IndexOf(cell));
 
     mEditor = new GridEditor(*viewport(), cell, mDelegate.Font());
+    mEditor->setAccessibleName(mModel.Content().Column(cell.lColumn).caption);
     if (text) mEditor->setText(*text);
     else mEditor->Show(mModel.Content().Cell(cell).text);
     // Only what the user types counts as a change.
