@@ -1,55 +1,14 @@
 """What a screen reader sees of the real program, and hears while it is used."""
-from desk.program import OnDisplay
-from desk.screen_reader import ScreenReader
+from desk.screen_reader import FOCUSED, NAMED, SELECTED, WithScreenReader, flat, middle
 from desk.stations import EMPTY, EXAMPLE, FEEDBACK
 from desk.waiting import until
 
-FOCUSED, SELECTED = "object:state-changed:focused", "object:state-changed:selected"
-SHOWING = "object:state-changed:showing"
-
-
-def flat(item):
-    """An object and everything in it."""
-    yield item
-    for child in item["children"]:
-        yield from flat(child)
-
-
-def middle(item):
-    left, top, width, height = item["rect"]
-    return left + width // 2, top + height // 2
-
-
-class Accessibility(OnDisplay):
-    @classmethod
-    def setUpClass(cls):
-        super().setUpClass()
-        cls.reader = ScreenReader(cls.display)
-        cls.addClassCleanup(cls.reader.close)
-
-    def environment(self, display=None):
-        return {**super().environment(display), **self.reader.environment}
-
+class Accessibility(WithScreenReader):
     def setUp(self):
         super().setUp()
         self.path = self.station(EXAMPLE)
         self.rows = {(row["rack"], row["place"]): row for row in self.modules(self.path) if "subModule" not in row}
         self.program, self.overview = self.open(self.path)
-
-    def see(self, role, name=None):
-        """The first such object of the program; it is there when the program has told of it."""
-        return until(lambda: self.reader.ask("tree", pid=self.program.process.pid, role=role, name=name),
-                     f"a screen reader sees a {role} '{name or ''}'")
-
-    def forget(self):
-        self.reader.ask("events", forget=True)
-
-    def heard(self, kind, name, on=1):
-        return [event for event in self.reader.ask("events")
-                if event["kind"] == kind and event["on"] == on and event["name"].startswith(name)]
-
-    def hear(self, kind, name, on=1):
-        return until(lambda: self.heard(kind, name, on), f"a screen reader hears {kind} {on} of '{name}'")[0]
 
     def place_name(self, at):
         row = self.rows[at]
@@ -57,7 +16,7 @@ class Accessibility(OnDisplay):
         return ", ".join([f"Place {at[1]}", row["module"], *addresses])
 
     def test_the_overview_is_racks_with_gaps_and_places(self):
-        overview = self.see("panel", "Rack overview")
+        overview = self.see(self.program, "panel", "Rack overview")
         self.assertEqual([(rack["role"], rack["name"]) for rack in overview["children"]], [("list", "Rack 0")])
         items = {item["name"]: item for item in overview["children"][0]["children"]}
         expected = [self.place_name(at) for at in sorted(self.rows)]
@@ -82,7 +41,7 @@ class Accessibility(OnDisplay):
             self.forget()
             self.display.keys(key)
             self.hear(FOCUSED, name)
-            self.assertFalse([event for event in self.heard(FOCUSED, "") if event["role"] != "list item"])
+            self.assertFalse([event for event in self.heard(FOCUSED) if event["role"] != "list item"])
         self.forget()
         self.display.keys("Right")
         self.hear(SELECTED, self.place_name(FEEDBACK))
@@ -95,10 +54,10 @@ class Accessibility(OnDisplay):
         self.forget()
         self.display.keys("Down")
         self.assertEqual(self.hear(FOCUSED, "5")["role"], "table cell")
-        self.assertFalse([event for event in self.heard(FOCUSED, "") if event["role"] == "list item"])
+        self.assertFalse([event for event in self.heard(FOCUSED) if event["role"] == "list item"])
 
     def test_the_table_has_its_rows_and_cells(self):
-        table = self.see("table", "Rack table")
+        table = self.see(self.program, "table", "Rack table")
         cells = [item for item in table["children"] if item["role"] == "table cell"]
         headers = [item["name"] for item in table["children"] if item["role"] == "table column header"]
         self.assertEqual(headers, ["Place", "Module", "Order number", "I address", "O address", "Comment"])
@@ -113,23 +72,21 @@ class Accessibility(OnDisplay):
     def test_the_status_line_and_a_refusal_are_read_out(self):
         self.overview.click(FEEDBACK)
         number = self.rows[FEEDBACK]["orderNumber"]
-        status = until(lambda: next((item for item in flat(self.see("status bar")) if number in item["name"]), None),
+        status = until(lambda: next((item for item in flat(self.see(self.program, "status bar")) if number in item["name"]), None),
                        "the status line tells the focus")
         self.assertIn("Rack 0", status["name"])
         self.display.keys("ctrl+c")
         until(lambda: number in self.clipboard_modules(), "the module is on the clipboard")
         self.forget()
         self.display.keys("ctrl+v")
-        told = until(lambda: [event["name"] for event in self.heard(SHOWING, "") if event["role"] == "notification"],
-                     "the refusal is told")
-        self.assertIn("place 4 of rack 0", told[0])
+        self.assertIn("place 4 of rack 0", self.hear_refusal()["name"])
 
     def test_a_change_is_told_by_its_new_name(self):
         self.overview.click(FEEDBACK)
         self.hear(FOCUSED, self.place_name(FEEDBACK))
         self.forget()
         self.display.keys("Delete")
-        self.hear("object:property-change:accessible-name", "Place 4, empty", on=0)
-        names = [item["name"] for item in flat(self.see("list", "Rack 0"))]
+        self.hear(NAMED, "Place 4, empty", on=0)
+        names = [item["name"] for item in flat(self.see(self.program, "list", "Rack 0"))]
         self.assertIn("Place 4, empty", names)
         self.assertIn(f"Place {EMPTY[1]}, empty", names)

@@ -87,6 +87,9 @@ class Display:
         return self._run("xdotool", *[str(argument) for argument in arguments])
 
     def move(self, x, y):
+        # Where the pointer is already, the tool would wait long for it to move.
+        if self.xdotool("getmouselocation").startswith(f"x:{x} y:{y} "):
+            return
         self.xdotool("mousemove", "--sync", x, y)
 
     def press(self):
@@ -131,6 +134,10 @@ class Display:
         """The visible top windows of a process, by number."""
         return self.xdotool("search", "--onlyvisible", "--all", "--pid", process_id, "--name", ".").split()
 
+    def windows_of_class(self, name):
+        """The visible windows of all programs of a name, those without a title, too."""
+        return self.xdotool("search", "--onlyvisible", "--class", name).split()
+
     def title_of(self, window):
         return self.xdotool("getwindowname", window).rstrip("\n")
 
@@ -146,7 +153,10 @@ class Display:
     def activate(self, window, instead=lambda: ()):
         """Gives a window the keys; done also when one of the windows that may come before it has them."""
         self.xdotool("windowactivate", window)
-        until(lambda: self.xdotool("getactivewindow").strip() in (window, *instead()), "the window is active")
+        until(lambda: self.active_window() in (window, *instead()), "the window is active")
+
+    def active_window(self):
+        return self.xdotool("getactivewindow").strip()
 
     def geometry(self, window):
         """Left, top, width and height on the screen."""

@@ -5,7 +5,11 @@ import subprocess
 import tempfile
 from pathlib import Path
 
+from .program import OnDisplay
 from .waiting import until
+
+FOCUSED, SELECTED = "object:state-changed:focused", "object:state-changed:selected"
+SHOWING, NAMED = "object:state-changed:showing", "object:property-change:accessible-name"
 
 # The bindings of the accessibility bus are packages of this interpreter, whichever one runs the tests.
 INTERPRETER = "/usr/bin/python3"
@@ -47,3 +51,48 @@ class ScreenReader:
         self._process.stdin.write(json.dumps({"ask": what, **more}) + os.linesep)
         self._process.stdin.flush()
         return self._answer()
+
+
+def flat(item):
+    """An object and everything in it."""
+    yield item
+    for child in item["children"]:
+        yield from flat(child)
+
+
+def middle(item):
+    left, top, width, height = item["rect"]
+    return left + width // 2, top + height // 2
+
+
+class WithScreenReader(OnDisplay):
+    """A test whose programs are used together with a screen reader."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.reader = ScreenReader(cls.display)
+        cls.addClassCleanup(cls.reader.close)
+
+    def environment(self, display=None):
+        return {**super().environment(display), **self.reader.environment}
+
+    def see(self, program, role, name=None):
+        """The first such object of a program; it is there when the program has told of it."""
+        return until(lambda: self.reader.ask("tree", pid=program.process.pid, role=role, name=name),
+                     f"a screen reader sees a {role} '{name or ''}'")
+
+    def forget(self):
+        self.reader.ask("events", forget=True)
+
+    def heard(self, kind, name="", on=1):
+        return [event for event in self.reader.ask("events")
+                if event["kind"] == kind and event["on"] == on and event["name"].startswith(name)]
+
+    def hear(self, kind, name, on=1):
+        return until(lambda: self.heard(kind, name, on), f"a screen reader hears {kind} {on} of '{name}'")[0]
+
+    def hear_refusal(self, beginning=""):
+        """What a program tells in a notice that appears."""
+        return until(lambda: [event for event in self.heard(SHOWING, beginning) if event["role"] == "notification"],
+                     "a refusal is told")[0]

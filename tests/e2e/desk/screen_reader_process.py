@@ -30,6 +30,7 @@ def children(item):
 class Reader:
     def __init__(self):
         self.heard = []
+        self.found = {}
         self.listener = Atspi.EventListener.new(self.hear)
         for kind in HEARD:
             self.listener.register(kind)
@@ -51,13 +52,28 @@ class Reader:
     def tree(self, pid, role, name=None, depth=9):
         """The first object with the role, and the name unless it is left open, with all that is in it; None when there
         is none."""
-        waiting = [app for app in children(Atspi.get_desktop(0)) if app.get_process_id() == pid]
+        def wanted(item):
+            return item.get_role_name() == role and name in (None, item.get_name())
+
+        def showing(item):
+            return item.get_state_set().contains(Atspi.StateType.SHOWING)
+
+        known = self.found.pop((pid, role, name), None)
+        try:
+            waiting = [known] if known and wanted(known) and showing(known) else self.programs(pid)
+        except GLib.Error:
+            waiting = self.programs(pid)  # it has gone since
         while waiting:
             item = waiting.pop(0)
-            if item.get_role_name() == role and name in (None, item.get_name()):
+            if wanted(item):
+                self.found[pid, role, name] = item
                 return self.with_children(item, depth)
             waiting.extend(children(item))
         return None
+
+    @staticmethod
+    def programs(pid):
+        return [app for app in children(Atspi.get_desktop(0)) if app.get_process_id() == pid]
 
     def with_children(self, item, depth):
         within = [self.with_children(child, depth - 1) for child in children(item)] if depth else []
