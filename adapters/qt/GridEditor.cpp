@@ -2,6 +2,7 @@
 
 #include "zqbchwcx/qt/GridDelegate.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -60,7 +61,7 @@ void GridEditor::Show(const QString& text)
 
 void GridEditor::Grow()
 {
-    const int wanted = fontMetrics().horizontalAdvance(text()) + 2 * GridDelegate::Padding + 2;
+    const int wanted = fontMetrics().horizontalAdvance(text() + msComposed) + 2 * GridDelegate::Padding + 2;
     const int width = std::clamp(wanted, mCellRect.width(), mRoom.width());
     const int left = std::min(mCellRect.left(), mRoom.right() + 1 - width);
     setGeometry(left, mCellRect.top(), width, mCellRect.height());
@@ -124,6 +125,13 @@ void GridEditor::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason) emit closed(true);
+}
+
+void GridEditor::inputMethodEvent(QInputMethodEvent* event)
+{
+    msComposed = event->preeditString();
+    QLineEdit::inputMethodEvent(event);
+    Grow();
 }
 
 void GridEditor::paintEvent(QPaintEvent* event)

@@ -29,6 +29,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -37,6 +38,7 @@ private:
     GridCell mCell;
     QRect mCellRect;
     QRect mRoom;
+    QString msComposed;  ///< not text yet, but seen
     bool mbTold = false; ///< of the key that comes next
 };
 

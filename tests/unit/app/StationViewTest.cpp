@@ -16,6 +16,7 @@
 #include "zqbchwcx/qt/PositionText.h"
 #include "zqbchwcx/qt/RackTableWidget.h"
 
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
@@ -133,6 +134,40 @@ TEST_F(StationViewTest, ARefusedEditSaysWhyAtItsCell)
     EXPECT_TRUE(message->isVisible());
     EXPECT_THAT(message->text().toStdString(), ::testing::MatchesRegex("\"0\" was not taken: .*place 4.*"));
     EXPECT_EQ(document->Station()->PlaceAt({0, 5})->Module()->InputAddressText(), before);
+}
+
+TEST_F(StationViewTest, WhatIsComposedIsSeenInTheCellAndCanBeGivenUp)
+{
+    view->show();
+    auto& grid = *view->findChild<qt::RackTableWidget*>()->findChild<QTableView*>();
+    Select({Field});
+    const std::string before = document->Station()->PlaceAt({0, 5})->Module()->InputAddressText();
+    const auto compose = [](QWidget& widget, const QString& text, const QString& commit = {}) {
+        QInputMethodEvent event(text, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(&widget, &event);
+    };
+    const auto shownEditor = [&]() -> QLineEdit* {
+        for (auto* editor : grid.findChildren<QLineEdit*>())
+            if (editor->isVisible()) return editor;
+        return nullptr;
+    };
+    compose(grid, QStringLiteral("4"));
+    QLineEdit* editor = shownEditor();
+    ASSERT_TRUE(editor != nullptr);
+    const QImage composing = editor->grab().toImage();
+    compose(*editor, {});
+    EXPECT_NE(composing, editor->grab().toImage());
+    QTest::keyClick(editor, Qt::Key_Escape);
+    EXPECT_EQ(document->Station()->PlaceAt({0, 5})->Module()->InputAddressText(), before);
+    EXPECT_FALSE(document->IsModified());
+
+    compose(grid, QStringLiteral("4"));
+    editor = shownEditor();
+    ASSERT_TRUE(editor != nullptr);
+    compose(*editor, {}, QStringLiteral("40"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_EQ(document->Station()->PlaceAt({0, 5})->Module()->InputAddressText(), "40");
 }
 
 /// A station that is larger than the table has the list of its modules instead.

@@ -135,8 +135,9 @@ bool TableInput::OnCharacters(std::string_view text) noexcept
 {
     bool bConsumed = false;
     Trap("OnCharacters", [&] {
-        if (mEditing.IsActive() || text.empty()) return;
-        mEditing.Start(text);
+        if (mEditing.IsActive()) return;
+        // What is being composed takes the place of the text that the editor opens with.
+        mEditing.Start(text.empty() ? std::nullopt : std::optional(text));
         bConsumed = mEditing.IsActive();
     });
     return bConsumed;
