@@ -79,7 +79,8 @@ void frm_SubModules::ShowCombo(const Rect& cell, const Grid& grid, const VxHWRac
 
 std::int32_t frm_SubModules::LineCount() const
 {
-    return moPlace->Module()->SubModuleCount();
+    const auto oPlace = moPlace; // the form may be closed in the middle of the call
+    return oPlace->Module()->SubModuleCount();
 }
 
 void frm_SubModules::P_SetPosition(const Rect& cell, const Grid& grid)
@@ -138,7 +139,8 @@ void frm_SubModules::P_DrawLine(std::int32_t lLine) noexcept
 
 std::vector<std::string> frm_SubModules::TextsOf(std::int32_t lLine) const
 {
-    const auto oSubModule = moPlace->Module()->SubModules()->Item(lLine - 1);
+    const auto oPlace = moPlace; // the form may be closed in the middle of the call
+    const auto oSubModule = oPlace->Module()->SubModules()->Item(lLine - 1);
     if (mbBasicAddress) return {oSubModule->Name(), oSubModule->BasicAddressText()};
     return {oSubModule->Name(), oSubModule->InputAddressText(), oSubModule->OutputAddressText()};
 }
@@ -160,8 +162,14 @@ std::int32_t frm_SubModules::P_GetMousePosition(Point at) const noexcept
         const Size size = moForm->ScaleSize();
         if (at.y < 1 || at.y > size.height - 2 || at.x < 1 || at.x > size.width - 2) return vxNoPosition;
         const std::int32_t lLine = (at.y - 1) / mlLineHeight + 1;
-        return G_SubModulePosition(lLine, moPlace->Rack()->Number(), moPlace->Number());
+        return PositionOfLine(lLine);
     });
+}
+
+std::int32_t frm_SubModules::PositionOfLine(std::int32_t lLine) const
+{
+    const auto oPlace = moPlace;
+    return G_SubModulePosition(lLine, oPlace->Rack()->Number(), oPlace->Number());
 }
 
 void frm_SubModules::MouseDown(std::int16_t /*nButton*/, std::int16_t /*nShift*/, Point at) noexcept
@@ -200,8 +208,7 @@ void frm_SubModules::Walk(std::int32_t lLines) noexcept
 
 void frm_SubModules::OpenMarkedLine() noexcept
 {
-    G_Trap(ClassName, "Form_DblClick",
-           [&] { Open(G_SubModulePosition(mlMarkedLine, moPlace->Rack()->Number(), moPlace->Number())); });
+    G_Trap(ClassName, "Form_DblClick", [&] { Open(PositionOfLine(mlMarkedLine)); });
 }
 
 void frm_SubModules::moSpy_WndProc(std::int32_t lMessage, std::intptr_t hOther) noexcept

@@ -62,6 +62,7 @@ private:
     std::vector<std::string> TextsOf(std::int32_t lLine) const;
     void TellMarkedLine();
     std::int32_t P_GetMousePosition(Point at) const noexcept;
+    std::int32_t PositionOfLine(std::int32_t lLine) const;
     void Open(std::int32_t lPosition) noexcept;
     void moSpy_WndProc(std::int32_t lMessage, std::intptr_t hOther) noexcept;
     void moMouseHook_MouseAction(std::int32_t lMessage, std::intptr_t hWnd) noexcept;
