@@ -3,6 +3,8 @@
 #include "zqbchwcx/foundation/Nothing.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 
+#include <utility>
+
 namespace zqbchwcx {
 
 PictureBox& Canvas::Box() const
@@ -22,6 +24,9 @@ Point Canvas::InPicture(Point inControl) const
 
 void Canvas::Overlay(const std::optional<Rect>& rect)
 {
+    // Taken away first: whatever fails, the old one is not drawn again.
+    if (const auto old = std::exchange(mOverlay, std::nullopt); old && std::exchange(mbOverlayShown, false))
+        Box().DrawFocusRect(*old);
     const DrawingBracket drawing(*this);
     mOverlay = rect;
 }

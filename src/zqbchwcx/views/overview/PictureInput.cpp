@@ -32,9 +32,9 @@ PictureInput::PictureInput(const ViewContext& context, const PlaceLayout& layout
 }
 
 template <class Body>
-void PictureInput::Trap(std::string_view event, Body&& body) noexcept
+bool PictureInput::Trap(std::string_view event, Body&& body) noexcept
 {
-    G_Trap(mContext.className, msProcedurePrefix + std::string(event), std::forward<Body>(body));
+    return G_Trap(mContext.className, msProcedurePrefix + std::string(event), std::forward<Body>(body));
 }
 
 void PictureInput::MouseDown(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept
@@ -68,18 +68,18 @@ void PictureInput::MouseMove(std::int16_t nButton, std::int16_t /*nShift*/, floa
 
 void PictureInput::MouseUp(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept
 {
-    Trap("MouseUp", [&] {
-        const Point at = WholePixels(x, y);
-        // The press is over, whatever its release leads to.
-        if (HasLeftOrRight(nButton)) moDragStart.reset();
+    const Point at = WholePixels(x, y);
+    // The press is over, whatever its release leads to.
+    if (HasLeftOrRight(nButton)) moDragStart.reset();
+    const bool bTold = Trap("MouseUp", [&] {
         mContext.MouseCtrl()->MouseUp(mLayout.PositionAt(at), nButton, nShift);
         mGate.CatchUp();
-        if (!HasLeftOrRight(nButton)) return;
-        if (mRubberBand.IsActive()) mRubberBand.Finish(at);
-        if (nButton != vxButtonRight) return;
-        mMenu.Open(false);
-        mGate.CatchUp();
     });
+    if (!HasLeftOrRight(nButton)) return;
+    mRubberBand.Finish(at);
+    if (nButton != vxButtonRight || !bTold) return;
+    mMenu.Open(false);
+    mGate.CatchUp();
 }
 
 void PictureInput::DblClick() noexcept

@@ -40,7 +40,7 @@ public:
 
 private:
     template <class Body>
-    void Trap(std::string_view event, Body&& body) noexcept;
+    bool Trap(std::string_view event, Body&& body) noexcept;
     bool IsBeyondThreshold(Point at) const;
 
     const ViewContext& mContext;
