@@ -1,7 +1,7 @@
 #include "zqbchwcx/contract/ModelContract.h"
 
 #include "tests/support/MemoryClipboard.h"
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 #include "zqbchwcx/reference/model/contract/ModelFactory.h"
 #include "zqbchwcx/reference/model/contract/TypeExchange.h"
 

@@ -1,59 +1,54 @@
 #pragma once
 
-#include "tests/property/EditorHost.h"
-#include "tests/property/FaultyStation.h"
-#include "tests/support/Samples.h"
+#include "tests/property/ViewVariant.h"
+#include "tests/support/model/FakeModelServices.h"
+#include "tests/support/model/WatchedStation.h"
 #include "tests/support/services/TestServices.h"
 #include "zqbchwcx/managers/VxHWConfigManager.h"
 #include "zqbchwcx/reference/files/StationWriter.h"
 #include "zqbchwcx/reference/history/History.h"
 #include "zqbchwcx/reference/model/rules/CheckStation.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
-#include "zqbchwcx/views/config/VxHWRackOverview.h"
-#include "zqbchwcx/views/config/VxHWRackTable.h"
 
 #include <optional>
 
 namespace zqbchwcx::testing {
 
-/// A whole editor without a screen: the reference station with its history, and the overview and the table of it that
+/// A whole editor without a screen: the reference station with its history, and an overview and a table of it that
 /// `VxHWConfigManager` has connected. The test is the user.
 class Editor {
 public:
-    explicit Editor(reference::StationData data)
+    explicit Editor(reference::StationData data, const ViewVariant& variant = CentralViews) : mVariant(variant)
     {
-        const auto context =
-            std::make_shared<reference::ModelContext>(reference::ModelContext{reference::SharedCatalogue(), nullptr});
-        host = std::make_shared<EditorHost>(log, context);
         for (const auto* name : {"IDB_CRX_RACKNR_ACTIVE", "IDB_CRX_RACKNR_INACTIVE"})
             host->pictures[name] = std::make_shared<FakeImage>(name);
-        G_ServiceRoot() = {toolkit, host, host, host, host, host, host, {}};
-
         reference::StationServices asked;
-        asked.clipboard = host->modelClipboard;
+        asked.clipboard = host->clipboard;
         asked.parameterDialog = [this](const reference::ModuleData& module, reference::PlaceRef) {
             log->Call("ParameterDialog");
             return parameters ? parameters(module) : std::nullopt;
         };
-        station = std::make_shared<FaultyStation>(log, context, std::move(data), std::move(asked));
+        station = std::make_shared<reference::Station>(host->context, std::move(data), std::move(asked));
+        watched = std::make_shared<WatchedStation>(log, station);
         mRefused = station->Refused.Connect([this](const reference::Refusal&) { ++refusals; });
         history = std::make_shared<reference::History>(station);
         host->actions = history;
 
         moSite = std::make_unique<RecordingControl>(log);
-        view = std::make_shared<VxHWRackOverview>(*moSite);
+        view = mVariant.makeOverview(*moSite);
         mcolShapes = toolkit->shapes;
+        mcolSysColorsChanged.push_back(toolkit->sysColorsChanged);
         for (const auto* name : {"pic_Main", "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
         moPicture = toolkit->pictureBoxes.at("pic_Main");
         moMenu = toolkit->menus.at("pmnu_Main");
         moTableSite = std::make_unique<RecordingControl>(log);
-        table = std::make_shared<VxHWRackTable>(*moTableSite);
+        table = mVariant.makeTable(*moTableSite);
         moGrid = toolkit->grids.at("vxgrd_Main");
         moTabs = toolkit->tabStrips.at("vxtab_Main");
         moForm = toolkit->popupForms.at("frm_SubModules");
         moTableMenu = toolkit->menus.at("pmnu_Main");
-        moManager = std::make_unique<VxHWConfigManager>();
-        moManager->Initialize(vxStationTypeCentral, view, table, station);
+        mcolSysColorsChanged.push_back(toolkit->sysColorsChanged);
+        Initialize();
         view->Refresh();
         table->Refresh();
         moPicture->Focus(true);
@@ -69,17 +64,38 @@ public:
     Editor(const Editor&) = delete;
     Editor& operator=(const Editor&) = delete;
 
+    void Initialize() { moManager->Initialize(mVariant.eStationType, view, table, watched); }
+
     RecordingPictureBox& Picture() const { return *moPicture; }
     PictureBoxEvents& Mouse() const { return moPicture->User(); }
+    RecordingControl& Site() const { return *moSite; }
+    RecordingControl& TableSite() const { return *moTableSite; }
     UserControlEvents& Keys() const { return moSite->User(); }
+    /// The position's point in the picture.
+    Point PointOf(std::int32_t lPosition) const
+    {
+        const Point at = mVariant.pointOf(*view, lPosition);
+        return {at.x - moPicture->Left(), at.y - moPicture->Top()};
+    }
     RecordingPopupMenu& Menu() const { return *moMenu; }
     RecordingGrid& Grid() const { return *moGrid; }
     RecordingTabStrip& Tabs() const { return *moTabs; }
     RecordingPopupForm& Form() const { return *moForm; }
     RecordingPopupMenu& TableMenu() const { return *moTableMenu; }
     VxHWConfigManager& Manager() const { return *moManager; }
+    void ChangeSysColors() const
+    {
+        for (const auto& changed : mcolSysColorsChanged) changed();
+    }
     /// The data object of a drag that begins in this editor.
-    std::shared_ptr<FakeDataObject> NewDrag() const { return std::make_shared<DragData>(log, Mouse()); }
+    std::shared_ptr<FakeDataObject> NewDrag() const
+    {
+        auto data = std::make_shared<FakeDataObject>(log);
+        data->onWanted = [this, weak = std::weak_ptr(data)](std::int16_t nFormat) {
+            Mouse().OLESetData(weak.lock(), nFormat);
+        };
+        return data;
+    }
 
     /// The file that saving would write.
     std::string Text() const { return reference::WriteStation(station->Data()); }
@@ -102,7 +118,8 @@ public:
     {
         RecordingControl site(log);
         toolkit->shapes.clear();
-        const auto fresh = MakeView(site);
+        const auto fresh = mVariant.makeOverview(site);
+        CopyBinding(*view, *fresh);
         RecordingPictureBox& picture = *toolkit->pictureBoxes.at("pic_Main");
         picture.Focus(moPicture->HasFocus());
         fresh->Refresh();
@@ -114,9 +131,9 @@ public:
     std::string DifferenceFromAFreshTable() const
     {
         RecordingControl site(log);
-        VxHWRackTable fresh(site);
-        CopyBinding(*table, fresh);
-        fresh.Refresh();
+        const auto fresh = mVariant.makeTable(site);
+        CopyBinding(*table, *fresh);
+        fresh->Refresh();
         const std::string expected = LookOf(*toolkit->grids.at("vxgrd_Main"), *toolkit->tabStrips.at("vxtab_Main"));
         const std::string actual = LookOf(*moGrid, *moTabs);
         return actual == expected ? std::string() : "the table shows\n" + actual + "a fresh one\n" + expected;
@@ -133,16 +150,37 @@ public:
         toolkit->imageLists.files->asked.clear();
     }
 
-    TestServices services;
+    /// Gives a view what another one has from the manager.
+    static void CopyBinding(const IVxHWControl& from, IVxHWControl& to)
+    {
+        to.Style(from.Style());
+        to.Locked(from.Locked());
+        to.VxHWDiagService(from.VxHWDiagService());
+        to.VxHWCompareService(from.VxHWCompareService());
+        to.VxHWStation(from.VxHWStation());
+        to.VxHWSelectionHandler(from.VxHWSelectionHandler());
+        to.VxHWMouseInputController(from.VxHWMouseInputController());
+        to.VxHWKeyInputController(from.VxHWKeyInputController());
+        to.VxHWDragDropController(from.VxHWDragDropController());
+    }
+
+    TestServices services{
+        std::make_shared<reference::ModelContext>(reference::ModelContext{reference::SharedCatalogue(), nullptr})};
     CallLogPtr log = services.log;
     std::shared_ptr<RecordingToolkit> toolkit = services.toolkit;
-    std::shared_ptr<EditorHost> host;
+    std::shared_ptr<FakeHost> host = services.host;
     /// What the parameter dialog answers.
     std::function<std::optional<reference::ModuleData>(const reference::ModuleData&)> parameters;
-    std::shared_ptr<FaultyStation> station;
+    reference::StationPtr station;
+    /// The station as the views and controllers see it.
+    WatchedStationPtr watched;
     std::shared_ptr<reference::History> history;
-    std::shared_ptr<VxHWRackOverview> view;
-    std::shared_ptr<VxHWRackTable> table;
+    std::shared_ptr<FakeDiagService> diag = std::make_shared<FakeDiagService>(log);
+    std::shared_ptr<FakeCompareService> compare = std::make_shared<FakeCompareService>(log);
+    /// What the drag that goes on carries; null without one.
+    std::shared_ptr<FakeDataObject> drag;
+    IVxHWControlPtr view;
+    IVxHWControlPtr table;
     /// Operations that the model refused, with its reason.
     std::int32_t refusals = 0;
 
@@ -158,22 +196,6 @@ private:
         return look;
     }
 
-    std::shared_ptr<VxHWRackOverview> MakeView(RecordingControl& site) const
-    {
-        auto made = std::make_shared<VxHWRackOverview>(site);
-        CopyBinding(*view, *made);
-        return made;
-    }
-    static void CopyBinding(const IVxHWControl& from, IVxHWControl& to)
-    {
-        to.Style(from.Style());
-        to.Locked(from.Locked());
-        to.VxHWStation(from.VxHWStation());
-        to.VxHWSelectionHandler(from.VxHWSelectionHandler());
-        to.VxHWMouseInputController(from.VxHWMouseInputController());
-        to.VxHWKeyInputController(from.VxHWKeyInputController());
-        to.VxHWDragDropController(from.VxHWDragDropController());
-    }
     static std::string LookOf(const RecordingGrid& grid, const RecordingTabStrip& tabs)
     {
         std::string look = "tab " + std::to_string(tabs.SelectedTab());
@@ -189,10 +211,12 @@ private:
         return look + "\n";
     }
 
+    const ViewVariant& mVariant;
     std::unique_ptr<RecordingControl> moSite;
     std::unique_ptr<RecordingControl> moTableSite;
-    std::unique_ptr<VxHWConfigManager> moManager;
+    std::unique_ptr<VxHWConfigManager> moManager = std::make_unique<VxHWConfigManager>();
     EventConnection mRefused;
+    std::vector<std::function<void()>> mcolSysColorsChanged;
     std::vector<RecordingPictureBox*> mcolPictures;
     RecordingToolkit::ShapesByName mcolShapes;
     RecordingPictureBox* moPicture = nullptr;

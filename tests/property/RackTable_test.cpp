@@ -25,7 +25,7 @@ protected:
         Handler().SelChangeComplete();
         Handler().FocusPosition(lTo);
     }
-    VxHWSelectionHandler& Handler() { return *editor.table->VxHWSelectionHandler(); }
+    VxHWSelectionHandler& Handler() { return *table.VxHWSelectionHandler(); }
     std::string Selection()
     {
         std::string places;
@@ -44,6 +44,7 @@ protected:
     }
 
     Editor editor{reference::ExampleStation("bottling-filler")};
+    VxHWRackTable& table = dynamic_cast<VxHWRackTable&>(*editor.table);
     RecordingGrid& grid = editor.Grid();
     RecordingTabStrip& tabs = editor.Tabs();
 };
@@ -74,7 +75,7 @@ TEST_F(RackTable, ShowsARowForEveryPlace)
     EXPECT_TRUE(tabs.Enabled(1));
     EXPECT_FALSE(tabs.Enabled(3));
 
-    editor.table->Locked(true);
+    table.Locked(true);
     EXPECT_EQ(background(1, "Module"), G_ColorDisabledBackground());
     Edit(grid.Cell(4, "Comment"), "not while locked");
     EXPECT_EQ(grid.Text(4, "Comment"), "");
@@ -110,9 +111,9 @@ TEST_F(RackTable, KeepsTheColumnsAsTheUserLeftThem)
     };
     EXPECT_THAT(widths(), ElementsAre(32, 78, 93, 59, 59, 100));
     const auto setAnew = [&] {
-        editor.table->VxHWStation(nullptr);
-        editor.table->VxHWStation(editor.station);
-        editor.table->Refresh();
+        table.VxHWStation(nullptr);
+        table.VxHWStation(editor.watched);
+        table.Refresh();
     };
     grid.UserWidth("Module", 140);
     grid.UserOrder({1, 3, 2, 4, 5, 6});
@@ -124,18 +125,18 @@ TEST_F(RackTable, KeepsTheColumnsAsTheUserLeftThem)
     grid.User().OnResetColumns();
     EXPECT_THAT(widths(), ElementsAre(32, 78, 93, 59, 59, 100));
 
-    editor.table->VxHWStation(nullptr);
+    table.VxHWStation(nullptr);
     EXPECT_EQ(grid.ColumnCount(), 0);
     for (const auto& [stored, first] : {std::pair{"40|", 40}, {"x|", 32}, {"0|", 32}, {"", 32}}) {
         editor.host->options = {{parameter, stored}};
-        editor.table->VxHWStation(editor.station);
+        table.VxHWStation(editor.watched);
         EXPECT_EQ(grid.ColumnWidth(1), first) << stored;
         EXPECT_EQ(grid.ColumnWidth(2), 78) << stored;
         editor.host->options.clear();
-        editor.table->Style(vxStyleHWCompare); // which keeps no columns
-        editor.table->VxHWStation(nullptr);
+        table.Style(vxStyleHWCompare); // which keeps no columns
+        table.VxHWStation(nullptr);
         EXPECT_TRUE(editor.host->options.empty());
-        editor.table->Style(vxStyleHWConfig);
+        table.Style(vxStyleHWConfig);
     }
 }
 
@@ -150,8 +151,7 @@ TEST_F(RackTable, WritesAnEditedCell)
         bool changes;
     };
     std::vector<RefusedEdit> refused;
-    const auto connection =
-        editor.table->EditRefused.Connect([&](const RefusedEdit& edit) { refused.push_back(edit); });
+    const auto connection = table.EditRefused.Connect([&](const RefusedEdit& edit) { refused.push_back(edit); });
     const std::string before = editor.Text();
     for (const Case& edit : {
              Case{"Comment", 4, "Light barriers", vxKeyReturn, "Light barriers", true},
@@ -228,7 +228,7 @@ TEST_F(RackTable, GivesTheEditorItsKeys)
     grid.MoveMouse({50, 70}, vxButtonLeft);
     EXPECT_EQ(grid.drags, 0);
     tabs.Hover(1);
-    EXPECT_EQ(editor.table->ActiveRack(), 0);
+    EXPECT_EQ(table.ActiveRack(), 0);
     grid.EndEditing(false);
 }
 
@@ -261,7 +261,7 @@ TEST_F(RackTable, MovesTheFocusByKeys)
         Focus(move.from);
         EXPECT_TRUE(grid.Key(move.key, move.shift));
         EXPECT_EQ(Handler().FocusPosition(), move.to) << move.from << " key " << move.key << " with " << move.shift;
-        EXPECT_EQ(editor.table->ActiveRack(), move.to / 1000);
+        EXPECT_EQ(table.ActiveRack(), move.to / 1000);
     }
     Select(4, 8);
     Focus(10);
@@ -302,7 +302,7 @@ TEST_F(RackTable, ChangesTheRackByItsTabs)
 {
     Select(4, 8);
     tabs.Hover(1);
-    EXPECT_EQ(editor.table->ActiveRack(), 1);
+    EXPECT_EQ(table.ActiveRack(), 1);
     EXPECT_EQ(tabs.SelectedTab(), 1);
     EXPECT_EQ(Selection(), "1004 1006 1008 ");
     EXPECT_EQ(Handler().FocusPosition(), 1008);
@@ -311,19 +311,19 @@ TEST_F(RackTable, ChangesTheRackByItsTabs)
     tabs.Click(1);
     EXPECT_EQ(editor.log->lines.size(), calls);
     tabs.Hover(3); // not present
-    EXPECT_EQ(editor.table->ActiveRack(), 1);
+    EXPECT_EQ(table.ActiveRack(), 1);
 
     // A drag that rests on a tab shows its rack and touches neither selection nor focus.
     tabs.DragHover(0);
-    EXPECT_EQ(editor.table->ActiveRack(), 0);
+    EXPECT_EQ(table.ActiveRack(), 0);
     EXPECT_EQ(Selection(), "1004 1006 1008 ");
     Focus(1010);
     EXPECT_EQ(tabs.SelectedTab(), 1);
-    editor.table->ActiveRack(0);
+    table.ActiveRack(0);
     EXPECT_EQ(Selection(), "4 6 8 ");
-    editor.table->ActiveRack(7);
+    table.ActiveRack(7);
     EXPECT_EQ(editor.host->TakeReports(), std::vector<std::string>{"zqbchwcx.VxHWRackTable.P_ChangeRack"});
-    EXPECT_EQ(editor.table->ActiveRack(), 0);
+    EXPECT_EQ(table.ActiveRack(), 0);
 }
 
 TEST_F(RackTable, DragsFromTheUsersThreshold)
@@ -414,13 +414,13 @@ TEST_F(SubModules, CloseByEveryRule)
              {"space", [&] { grid.Key(vxKeySpace); }, true},
              {"escape", [&] { grid.Key(vxKeyEscape); }, true},
              {"the windowing system", [&] { form.Close(); }, true},
-             {"other rack", [&] { editor.table->ActiveRack(1); }, true},
-             {"no station", [&] { editor.table->VxHWStation(nullptr); }, true},
+             {"other rack", [&] { table.ActiveRack(1); }, true},
+             {"no station", [&] { table.VxHWStation(nullptr); }, true},
          }) {
         SCOPED_TRACE(rule.what);
-        editor.table->VxHWStation(editor.station);
+        table.VxHWStation(editor.watched);
         Focus(10);
-        editor.table->Refresh();
+        table.Refresh();
         grid.Click(button);
         ASSERT_TRUE(form.Visible());
         rule.happens();
@@ -452,11 +452,10 @@ TEST_F(SubModules, OpenTheirParameters)
 TEST_F(RackTable, TellsTheDiagnosticState)
 {
     const auto diag = std::make_shared<FakeDiagService>(editor.log);
-    auto& table = *editor.table;
     table.VxHWStation(nullptr);
     table.Style(vxStyleHWDiag);
     table.VxHWDiagService(diag);
-    table.VxHWStation(editor.station);
+    table.VxHWStation(editor.watched);
     table.Refresh();
     EXPECT_EQ(grid.RowText(0), "T1001|T1007|T1002|T1003|T1017");
     const auto oPlace = editor.station->PlaceAt({0, 4});

@@ -20,7 +20,7 @@ TEST(OverviewPicture, looksAsStoredAtRatios1And2InLightAndDark)
     EXPECT_TRUE(LooksLikeReference(stage.widget->RenderToImage(2), "configuration-2x"));
     const PaletteChange dark(DarkPalette());
     EXPECT_TRUE(LooksLikeReference(stage.widget->RenderToImage(2), "configuration-dark-2x"));
-    stage.station->displayMode = 1;
+    stage.station->Change([](auto& data) { data.displayMode = vxDisplayModeOnline1; });
     stage.View().VxHWStation(stage.station);
     stage.View().Refresh();
     EXPECT_TRUE(LooksLikeReference(stage.widget->RenderToImage(2), "online-dark-2x"));
@@ -69,7 +69,6 @@ public:
         const std::int32_t lRack = Number(0, 3);
         const std::int32_t lPlace = Number(1, 11);
         auto& station = *mStage.station;
-        const auto place = station.Place(lRack, lPlace);
         switch (Number(0, 5)) {
         case 0:
             return mStage.Selection().FocusPosition(G_PlacePosition(lRack, lPlace));
@@ -78,17 +77,14 @@ public:
         case 2:
             return mStage.SelectPlace(lRack, lPlace);
         case 3:
-            station.Rack(lRack)->state = Number(0, 1);
-            return station.RackChange.Raise(station.Rack(lRack));
+            return station.State(lRack, Number(0, 1));
         case 4:
-            place->usability = Number(-1, 1);
-            return station.RackPlaceChange.Raise(place);
+            return station.Usability(lRack, lPlace, Number(-1, 1));
         default:
             // Members of modules that span places stay together.
-            if (place->module->indexInParent != 0) return;
-            if (Number(0, 1) == 0) place->Empty();
-            else station.Put(lRack, lPlace, "new")->pictureName = "IDB_CRX_MODULE_IO_ANALOG";
-            station.RackPlaceChange.Raise(place);
+            if (station.Module(lRack, lPlace)->IndexInParent() != 0) return;
+            if (Number(0, 1) == 0) return station.Empty(lRack, lPlace);
+            return station.Put(lRack, lPlace, "IO_ANALOG");
         }
     }
 
@@ -118,7 +114,7 @@ TEST_P(OverviewAtRatio, showsAfterAnyChangesWhatItShowsDrawnAfresh)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(ratios, OverviewAtRatio, ::testing::Values(1.0, 1.25, 1.5, 1.75, 2.0, 3.0));
+INSTANTIATE_TEST_SUITE_P(ratios, OverviewAtRatio, ::testing::Values(1.0, 2.0));
 
 TEST(OverviewWidget, isInvitingAndKeepsItsSmallestSize)
 {

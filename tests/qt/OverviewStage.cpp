@@ -7,40 +7,33 @@
 namespace zqbchwcx::testing {
 namespace {
 
-void PutPictured(FakeStation& station, std::int32_t lRack, std::int32_t lPlace, std::string_view picture,
-                 std::int32_t lPlaceCount = 0)
-{
-    station.Put(lRack, lPlace, std::string(picture), lPlaceCount);
-    for (std::int32_t i = 0; i < std::max(lPlaceCount, 1); ++i)
-        station.Module(lRack, lPlace + i)->pictureName = "IDB_CRX_MODULE_" + std::string(picture);
-}
-
 /// Four racks with something of everything.
-FakeStationPtr FullStation(const CallLogPtr& log)
+WatchedStationPtr FullStation(const CallLogPtr& log)
 {
-    auto station = std::make_shared<FakeStation>(log, 4, 11);
-    for (std::int32_t lRack = 0; lRack < 3; ++lRack) PutPictured(*station, lRack, 3, "IM");
-    for (std::int32_t lRack = 0; lRack < 3; ++lRack) PutPictured(*station, lRack, 1, "PS");
-    PutPictured(*station, 0, 2, "CPU");
-    constexpr std::array<std::string_view, 12> Kinds{"IO_DIGITAL",      "IO_ANALOG",  "CPUC",      "CPUM",
-                                                     "DEFAULT",         "DUMMY",      "MERID_CPU", "MERID_IM",
-                                                     "MERID_IO_ANALOG", "IO_DIGITAL", "IO_ANALOG", "MERID_IO_DIGITAL"};
+    auto station = std::make_shared<WatchedStation>(
+        log, std::make_shared<reference::Station>(SampleContext(), EmptyStation(vxStationKindCentral, 4)));
+    for (std::int32_t lRack = 0; lRack < 3; ++lRack) station->Put(lRack, 3, "IM");
+    for (std::int32_t lRack = 0; lRack < 3; ++lRack) station->Put(lRack, 1, "PS");
+    station->Put(0, 2, "CPU");
+    constexpr std::array Kinds{"IO_DIGITAL",      "IO_ANALOG",  "CPUC",      "CPUM",
+                               "DEFAULT",         "DUMMY",      "MERID_CPU", "MERID_IM",
+                               "MERID_IO_ANALOG", "IO_DIGITAL", "IO_ANALOG", "MERID_IO_DIGITAL"};
     for (std::size_t i = 0; i < Kinds.size(); ++i)
-        PutPictured(*station, static_cast<std::int32_t>(i / 7), 4 + static_cast<std::int32_t>(i % 7), Kinds[i]);
-    PutPictured(*station, 2, 4, "IO_DIGITAL", 3);
-    PutPictured(*station, 2, 9, "MERID_DUMMY");
-    station->Place(2, 8)->usability = 0;
-    station->Place(2, 10)->usability = -1;
-    station->Place(2, 11)->usability = 0;
-    station->Rack(3)->state = 0;
-    for (std::int32_t lPlace = 1; lPlace <= 11; ++lPlace) station->Place(3, lPlace)->usability = 0;
+        station->Put(static_cast<std::int32_t>(i / 7), 4 + static_cast<std::int32_t>(i % 7), Kinds[i]);
+    station->Put(2, 4, "IO_DIGITAL3");
+    station->Put(2, 9, "MERID_DUMMY");
+    station->Usability(2, 8, vxPlaceInactive);
+    station->Usability(2, 10, vxPlaceNotUsable);
+    station->Usability(2, 11, vxPlaceInactive);
+    station->State(3, vxRackNotPresent);
+    for (std::int32_t lPlace = 1; lPlace <= 11; ++lPlace) station->Usability(3, lPlace, vxPlaceInactive);
     return station;
 }
 
 } // namespace
 
 OverviewStage::OverviewStage()
-    : toolkit(std::make_shared<qt::QtToolkit>()), services(toolkit), station(FullStation(services.log))
+    : toolkit(std::make_shared<qt::QtToolkit>()), services(SampleContext(), toolkit), station(FullStation(services.log))
 {
     for (const auto& name : qt::PictureCatalog::Names())
         services.host->pictures[name] = toolkit->Pictures().Picture(name);

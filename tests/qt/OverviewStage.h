@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/model/FakeStation.h"
+#include "tests/support/model/WatchedStation.h"
 #include "tests/support/services/TestServices.h"
 #include "zqbchwcx/managers/VxHWConfigManager.h"
 #include "zqbchwcx/qt/PictureBoxWidget.h"
@@ -28,7 +28,7 @@ public:
 
     std::shared_ptr<qt::QtToolkit> toolkit;
     TestServices services;
-    FakeStationPtr station;
+    WatchedStationPtr station;
     std::unique_ptr<qt::RackOverviewWidget> widget;
     std::unique_ptr<qt::RackOverviewWidget> other;
     VxHWConfigManager manager;

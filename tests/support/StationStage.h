@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/controls/RecordingView.h"
-#include "tests/support/model/FakeStation.h"
+#include "tests/support/model/WatchedStation.h"
 #include "tests/support/services/TestServices.h"
 #include "zqbchwcx/platform/Input.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
@@ -15,13 +15,19 @@ using Lines = std::vector<std::string>;
 /// A station with eleven places in each rack, a handler that keeps its selection, and what else takes part in a mode.
 class StationStage {
 public:
-    explicit StationStage(std::int32_t lRacks = 2) : station(std::make_shared<FakeStation>(services.log, lRacks, 11))
+    explicit StationStage(std::size_t racks = 2) : station(MakeStation(EmptyStation(vxStationKindCentral, racks)))
     {
-        station->clipboard = services.host->clipboard;
         handler->VxHWStation(station);
         TakeLines();
     }
 
+    WatchedStationPtr MakeStation(const reference::StationData& plain) const
+    {
+        reference::StationServices asked;
+        asked.clipboard = services.host->clipboard;
+        return std::make_shared<WatchedStation>(
+            services.log, std::make_shared<reference::Station>(SampleContext(), plain, std::move(asked)));
+    }
     Lines TakeLines() { return std::exchange(services.Lines(), {}); }
     Lines TakeReports() { return services.host->TakeReports(); }
 
@@ -35,16 +41,16 @@ public:
         return controller;
     }
 
-    FakeRackPlaces& SelPlaces() const { return AsFake(handler->SelPlaces()); }
-    std::string Selection() const { return SelPlaces().Keys(); }
+    std::string Selection() const { return KeysOf(services.log, handler->SelPlaces()); }
     /// Selects the places (rack, place) and tells it.
-    void Select(const std::vector<std::pair<std::int32_t, std::int32_t>>& places)
+    void Select(const std::vector<std::pair<std::int32_t, std::int32_t>>& places) const
     {
-        SelPlaces().members.clear();
-        for (const auto& [lRack, lPlace] : places) SelPlaces().members.push_back(station->Place(lRack, lPlace));
+        const auto oPlaces = handler->SelPlaces();
+        oPlaces->Clear();
+        for (const auto& [lRack, lPlace] : places) oPlaces->Add(station->Place(lRack, lPlace));
         handler->SelChangeComplete();
     }
-    void FocusAndAnchor(std::int32_t lFocus, std::int32_t lAnchor)
+    void FocusAndAnchor(std::int32_t lFocus, std::int32_t lAnchor) const
     {
         handler->FocusPosition(lFocus);
         handler->ShiftSelPosition(lAnchor);
@@ -57,7 +63,7 @@ public:
     }
 
     TestServices services;
-    FakeStationPtr station;
+    WatchedStationPtr station;
     VxHWSelectionHandlerPtr handler = std::make_shared<VxHWSelectionHandler>();
     std::shared_ptr<RecordingView> overview = std::make_shared<RecordingView>(services.log, "overview");
     std::shared_ptr<RecordingView> table = std::make_shared<RecordingView>(services.log, "table");

@@ -1,4 +1,6 @@
 #include "tests/views/OverviewFixture.h"
+#include "zqbchwcx/reference/model/contract/Module.h"
+#include "zqbchwcx/views/overview/GroupFrame.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -25,7 +27,7 @@ TEST_F(OverviewDrawingTest, StationSetupDrawsTheRailsOfAllBandsOnTheStationsBack
     const std::pair<std::int32_t, const char*> backgrounds[] = {
         {0, "window"}, {1, "16772578"}, {7, "16772578"}}; // an unknown mode keeps the colour
     for (const auto& [lDisplayMode, color] : backgrounds) {
-        station->displayMode = lDisplayMode;
+        station->Change([&](auto& plain) { plain.displayMode = lDisplayMode; });
         EXPECT_THAT(DrawnBy([&] { view->VxHWStation(station); }),
                     ElementsAre(std::string("BackColor ") + color, "Image IDB_CRX_RACK 11,305 style 1",
                                 "Image IDB_CRX_RACK 11,213 style 1", "Image IDB_CRX_RACK 11,121 style 1",
@@ -62,26 +64,26 @@ TEST_F(OverviewDrawingTest, PlacesShowTheirUsabilityAndTheDrag)
         {1, false, "Text 4 82,339 13x13 text", "ACTIVE"},    {1, true, "Text 4 82,339 13x13 text", "NODROP"},
     };
     for (const auto& c : cases) {
-        station->Place(0, 4)->usability = c.usability;
+        station->Usability(0, 4, c.usability);
         controller->state = c.drag ? vxDragDropStateActive : vxDragDropStateInactive;
         EXPECT_THAT(DrawingOf(0, 4), ElementsAre(c.number, "Image IDB_CRX_PLACE_" + c.picture + " 79,306 style 0"));
     }
-    controller->dropPlace = station->Place(0, 4);
+    controller->dropPlace = "0/4";
     EXPECT_THAT(DrawingOf(0, 4), Contains("Image IDB_CRX_PLACE_DROP 79,306 style 0"));
-    station->Place(0, 4)->usability = 5;
+    station->Usability(0, 4, 5);
     EXPECT_THAT(DrawingOf(0, 4), IsEmpty());
 
     // Only empty places of the end close the rail; the drag leaves modules alone.
     EXPECT_THAT(DrawingOf(3, 11),
                 ElementsAre("Text 11 208,63 13x13 text", "Image IDB_CRX_PLACE_NODROP_END 205,30 style 0"));
-    Put(3, 11, "IDB_CRX_MODULE_PS");
+    station->Put(3, 11, "PS");
     EXPECT_THAT(DrawingOf(3, 11), ElementsAre("Text 11 208,63 13x13 text", "Image IDB_CRX_MODULE_PS 205,30 style 0"));
 }
 
 TEST_F(OverviewDrawingTest, RackNumbersShowWhetherTheRackIsPresent)
 {
     const auto drawingOf = [&](std::int32_t lState) {
-        station->Rack(1)->state = lState;
+        station->State(1, lState);
         return DrawnBy([&] { station->RackChange.Raise(station->Rack(1)); });
     };
     EXPECT_THAT(drawingOf(1),
@@ -95,9 +97,9 @@ TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoaded
     services.host->settings[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
     auto& files = *toolkit->imageLists.files;
     files.existing = {"C:\\Data\\HWPics\\PUMP.bmp"};
-    Put(0, 5, "Pump");
-    Put(0, 6, "NoSuchFile");
-    Put(0, 7, "IDB_CRX_MODULE_CPU");
+    station->Put(0, 5, "Pump");
+    station->Put(0, 6, "NoSuchFile");
+    station->Put(0, 7, "CPU");
     for (int i = 0; i < 2; ++i) {
         EXPECT_THAT(DrawingOf(0, 5), Contains(HasSubstr("Image PUMP ")));
         EXPECT_THAT(DrawingOf(0, 6), Contains(HasSubstr("Image IDB_CRX_MODULE_DEFAULT ")));
@@ -105,7 +107,8 @@ TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoaded
     }
     EXPECT_THAT(files.asked, ElementsAre("C:\\Data\\HWPics\\PUMP.bmp", "C:\\Data\\HWPics\\NOSUCHFILE.bmp"));
 
-    Put(0, 8, "idb_of_another_list");
+    station->Put(0, 8, "idb_of_another_list");
+    TakeReports();
     EXPECT_THAT(DrawingOf(0, 8), Not(Contains(HasSubstr("Image "))));
     EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWRackOverview.moHWStation_RackPlaceChange"));
     EXPECT_EQ(files.asked.size(), 2U) << "a built-in picture was looked for among the files";
@@ -113,13 +116,11 @@ TEST_F(OverviewDrawingTest, ModulePicturesComeFromTheListOrFromAFileThatIsLoaded
 
 TEST_F(OverviewDrawingTest, GroupFramesFollowTheModulesAndTheirSelection)
 {
-    Put(0, 4, "IDB_CRX_MODULE_IO_DIGITAL", 3);
+    station->Put(0, 4, "IO_DIGITAL3");
     const auto frameOf = [&](std::int32_t lPlace) { return DrawingOf(0, lPlace).back(); };
     EXPECT_EQ(frameOf(4), "Image IDB_CRX_FRAME_LEFT 79,306 style 1");
     EXPECT_EQ(frameOf(5), "Image IDB_CRX_FRAME_MID 97,306 style 1");
     EXPECT_EQ(frameOf(6), "Image IDB_CRX_FRAME_RIGHT 115,306 style 1");
-    Put(0, 8, "IDB_CRX_MODULE_IO_DIGITAL", 1);
-    EXPECT_EQ(frameOf(8), "Image IDB_CRX_FRAME_TOTAL 151,306 style 1");
 
     EXPECT_THAT(DrawnBy([&] {
                     Select({{0, 5}});
@@ -130,6 +131,14 @@ TEST_F(OverviewDrawingTest, GroupFramesFollowTheModulesAndTheirSelection)
     EXPECT_THAT(DrawnBy([&] { Select({}); }),
                 ElementsAre(HasSubstr("Text 5"), EndsWith("style 0"), EndsWith("97,306 style 1"),
                             EndsWith("79,306 style 1"), EndsWith("97,306 style 1"), EndsWith("115,306 style 1")));
+
+    // A model's parent of one place, which the reference model does not have.
+    struct OnlyMember : reference::Module {
+        using Module::Module;
+        std::int32_t PlaceCount() const override { return 1; }
+    };
+    const auto oMember = std::make_shared<OnlyMember>(std::make_shared<reference::ModuleBody>(), 1);
+    EXPECT_EQ(G_GroupFrameKey(G_CentralPlaceStyle, *oMember, oMember), "IDB_CRX_FRAME_TOTAL");
 }
 
 TEST_F(OverviewDrawingTest, ASelectionChangeDrawsOnlyWhatChangedAndTellsIt)
@@ -153,26 +162,26 @@ TEST_F(OverviewDrawingTest, ASelectionChangeDrawsOnlyWhatChangedAndTellsIt)
 TEST_F(OverviewDrawingTest, WhatChangesWhileDrawingIsOffIsDrawnWhenItIsOnAgain)
 {
     view->Refresh();
-    station->IsDrawable(false);
+    station->drawable = false;
     Select({{0, 4}});
     EXPECT_THAT(DrawingOf(0, 9), IsEmpty());
-    station->IsDrawable(true);
+    station->drawable = true;
     EXPECT_THAT(DrawingOf(0, 9), Contains("Image IDB_CRX_PLACE_ACTIVE 79,306 style 4"));
     EXPECT_THAT(DrawingOf(0, 9), Not(Contains(HasSubstr("79,306"))));
     handler->FocusPosition(1009);
-    station->IsDrawable(false);
+    station->drawable = false;
     EXPECT_THAT(DrawnBy([&] { handler->FocusPosition(8); }), Not(Contains(HasSubstr("Image IDB_CRX_PLACE"))));
-    station->IsDrawable(true);
+    station->drawable = true;
     EXPECT_THAT(DrawingOf(0, 9), Contains("Image IDB_CRX_PLACE_ACTIVE 79,214 style 0"))
         << "it held the stem of the mark";
 
     // A drop ends the drag before drawing is on again.
     controller->state = vxDragDropStateActive;
     view->StateChange(vxDragDropStateInactive);
-    station->IsDrawable(false);
+    station->drawable = false;
     controller->state = vxDragDropStateInactive;
     EXPECT_THAT(DrawnBy([&] { view->StateChange(vxDragDropStateActive); }), IsEmpty());
-    station->IsDrawable(true);
+    station->drawable = true;
     std::int32_t lEffect = 0;
     EXPECT_THAT(DrawnBy([&] { Mouse().OLEDragDrop(data, lEffect, 0, 0, 30, 340); }),
                 Contains("Image IDB_CRX_PLACE_ACTIVE 25,306 style 0"));
@@ -234,7 +243,7 @@ TEST_F(OverviewDrawingTest, TheArrowPointsFromTheFocusedPlaceToItsRow)
 
 TEST_F(OverviewDrawingTest, DiagnosticsDrawSymbolsOnModulesOnRefreshOnly)
 {
-    Put(0, 2, "IDB_CRX_MODULE_CPU");
+    station->Put(0, 2, "CPU");
     diag->failures = {{"0/2", 1}, {"0/5", 1}};
     view->Style(vxStyleHWDiag);
     EXPECT_THAT(DrawingOf(0, 2), IsEmpty());
@@ -273,25 +282,25 @@ TEST_F(OverviewDrawingTest, LinksJoinRacksThatBothHaveAnInterfaceModule)
 {
     EXPECT_FALSE(IsLinkVisible(0) || IsLinkVisible(1) || IsLinkVisible(2));
     EXPECT_EQ(toolkit->shapes.at("fra_IMLink").at(2)->Bounds(), MakeRect(78, 90, 3, 32));
-    Put(1, 3, "IDB_CRX_MODULE_IM");
-    Put(2, 3, "IDB_CRX_MODULE_IM");
+    station->Put(1, 3, "IM");
+    station->Put(2, 3, "IM");
     DrawingOf(2, 3);
     EXPECT_TRUE(IsLinkVisible(1) && !IsLinkVisible(0) && !IsLinkVisible(2));
-    station->Place(1, 3)->Empty();
+    station->Empty(1, 3);
     DrawingOf(1, 3);
     EXPECT_FALSE(IsLinkVisible(1));
-    Put(3, 3, "IDB_CRX_MODULE_IM");
+    station->Put(3, 3, "IM");
     DrawingOf(3, 3);
     EXPECT_TRUE(IsLinkVisible(2));
-    view->VxHWStation(std::make_shared<FakeStation>(log, 4, 2));
+    view->VxHWStation(MakeStation(EmptyStation(0, 4, 2)));
     view->Refresh();
     EXPECT_FALSE(IsLinkVisible(2)) << "it joined modules of another station";
 }
 
 TEST_F(OverviewDrawingTest, SmallAndHugeStationsDrawWhatFits)
 {
-    const auto refreshOf = [&](std::int32_t lRacks, std::int32_t lPlaces) {
-        station = std::make_shared<FakeStation>(log, lRacks, lPlaces);
+    const auto refreshOf = [&](std::size_t racks, std::size_t places) {
+        station = MakeStation(EmptyStation(0, racks, places));
         handler->VxHWStation(station);
         view->VxHWStation(station);
         const auto lines = DrawnBy([&] { view->Refresh(); });
@@ -314,8 +323,9 @@ TEST_F(OverviewDrawingTest, SmallAndHugeStationsDrawWhatFits)
 
 TEST_F(OverviewDrawingTest, APlaceThatCannotBeDrawnKeepsNoOtherFromIt)
 {
-    Put(0, 2, "IDB_NO_SUCH_PICTURE");
-    Put(0, 4, "IDB_CRX_MODULE_IO_DIGITAL", 3);
+    station->Put(0, 2, "NO_PICTURE");
+    TakeReports();
+    station->Put(0, 4, "IO_DIGITAL3");
     const Lines lines = DrawnBy([&] { Select({{0, 2}, {0, 5}, {1, 9}}); });
     EXPECT_THAT(
         lines, IsSupersetOf({"Image IDB_CRX_FRAME_LEFT 79,306 style 5", "Image IDB_CRX_PLACE_ACTIVE 169,214 style 4"}));

@@ -59,13 +59,6 @@ protected:
         site.User().KeyDown(nKeyCode, nShift);
         site.User().KeyUp(nKeyCode, nShift);
     }
-    FakeModulePtr Put(std::int32_t lRack, std::int32_t lPlace, const std::string& picture, std::int32_t lPlaceCount = 0)
-    {
-        auto module = station->Put(lRack, lPlace, picture, lPlaceCount);
-        for (std::int32_t i = 0; i < std::max(lPlaceCount, 1); ++i)
-            station->Module(lRack, lPlace + i)->pictureName = picture;
-        return module;
-    }
     /// What one place event draws.
     Lines DrawingOf(std::int32_t lRack, std::int32_t lPlace)
     {

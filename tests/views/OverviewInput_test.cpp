@@ -1,4 +1,5 @@
 #include "tests/views/OverviewFixture.h"
+#include "zqbchwcx/reference/model/contract/Modules.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -113,10 +114,11 @@ TEST_F(OverviewInputTest, ARubberBandSelectsWhatItCovers)
     EXPECT_EQ(Pic().TakeLines().front(), "Invert 60,250 174x125");
     EXPECT_EQ(Selection(), "0/3 0/4 0/5 0/6 0/7 0/8 0/9 0/10 0/11 1/3 1/4 1/5 1/6 1/7 1/8 1/9 1/10 1/11");
 
-    station->Rack(1)->state = 0;
+    station->State(1, vxRackNotPresent);
     Press(234, 375);
     Release(60, 250);
     EXPECT_EQ(Selection(), "0/3 0/4 0/5 0/6 0/7 0/8 0/9 0/10 0/11") << "a rack that is not present";
+    station->State(1, vxRackPresent);
     Press(5, 375);
     Move(20, 380);
     Release(20, 380);
@@ -183,9 +185,10 @@ TEST_F(OverviewInputTest, DragEventsReachTheControllerWithTheirPosition)
 
 TEST_F(OverviewInputTest, TheDragPointerShowsTheModulesUnderTheMouse)
 {
-    Put(1, 4, "IDB_CRX_MODULE_IO_DIGITAL", 2);
-    auto modules = std::make_shared<FakeModules>(log);
-    modules->members = {station->Module(1, 4), station->Module(1, 5), station->Module(0, 1)};
+    station->Put(1, 4, "IO_DIGITAL2");
+    auto modules = std::make_shared<reference::Modules>(SampleContext());
+    for (const auto& oModule : {station->Module(1, 4), station->Module(1, 5), station->Module(0, 1)})
+        modules->Add(oModule, true);
     controller->dragModules = modules;
     std::int32_t lEffect = 3;
     /// Whether the pointer is there afterwards.
@@ -211,7 +214,7 @@ TEST_F(OverviewInputTest, TheDragPointerShowsTheModulesUnderTheMouse)
     EXPECT_TRUE(over(60, vxDragEnter));
     Mouse().OLECompleteDrag(lEffect);
     EXPECT_FALSE(DragPic().Visible());
-    modules->members.clear();
+    modules->Clear();
     EXPECT_FALSE(over(60, vxDragEnter));
 }
 
@@ -244,7 +247,7 @@ TEST_F(OverviewInputTest, CursorKeysChangeTheRackOrGoToItsEnds)
 {
     EXPECT_EQ(CursorFrom({7, 3008}, vxKeyUp), (Positions{1007, -1}));
     EXPECT_EQ(CursorFrom({2008, 8}, vxKeyDown), (Positions{1008, -1}));
-    station->Rack(1)->state = 0;
+    station->State(1, vxRackNotPresent);
     EXPECT_EQ(CursorFrom({8}, vxKeyUp), Positions{-1});
     EXPECT_EQ(CursorFrom({2008}, vxKeyDown), Positions{-1});
     for (const int nShift : {vxShiftMask, vxCtrlMask}) {
@@ -265,37 +268,39 @@ TEST_F(OverviewInputTest, TheMenuEnablesWhatTheSelectionAndTheStationAllow)
     };
     EXPECT_EQ(shown(), "");
     EXPECT_THAT(controller->Take(), ElementsAre("MouseUp 2 2 0"));
-    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    station->Put(0, 4, "DO");
     Select({{0, 3}, {0, 4}});
     EXPECT_EQ(shown(), "at mouse Cut Copy Delete");
-    station->Module(0, 4)->hasParamDialog = true;
+    station->Put(0, 4, "DI");
     EXPECT_EQ(shown(), "at mouse EditModuleParams* Cut Copy Delete");
-    station->readOnly = true;
+    const auto set = [&](bool bReadOnly, std::int32_t lDisplayMode) {
+        station->Change([&](auto& plain) { plain.readOnly = bReadOnly, plain.displayMode = lDisplayMode; });
+    };
+    set(true, vxDisplayModeOffline);
     EXPECT_EQ(shown(), "at mouse EditModuleParams* Copy");
-    station->displayMode = 1;
+    set(true, vxDisplayModeOnline1);
     EXPECT_EQ(shown(), "at mouse EditModuleParams*");
-    station->displayMode = 0;
-    station->readOnly = false;
+    set(false, vxDisplayModeOffline);
 
     handler->SetSelectionToClipboard();
-    handler->FocusPosition(8);
+    handler->FocusPosition(6);
     Select({});
-    EXPECT_EQ(shown(), "") << "the focused place is taken";
+    EXPECT_EQ(shown(), "") << "a place is taken";
     handler->FocusPosition(12);
     EXPECT_EQ(shown(), "at mouse Paste");
     Menu().shown.clear();
     Mouse().MouseUp(Left, 0, 33, 330);
     EXPECT_THAT(Menu().shown, IsEmpty());
-    station->readOnly = true;
+    set(true, vxDisplayModeOffline);
     EXPECT_EQ(shown(), "");
-    station->readOnly = false;
+    set(false, vxDisplayModeOffline);
     view->Style(vxStyleHWDiag);
     EXPECT_EQ(shown(), "");
 }
 
 TEST_F(OverviewInputTest, TheKeyboardOpensTheMenuAtTheFocus)
 {
-    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    station->Put(0, 4, "CPU");
     Select({{0, 4}});
     const auto openedBy = [&](std::int32_t lFocus, std::int16_t nKeyCode, std::int16_t nDown, std::int16_t nUp) {
         handler->FocusPosition(lFocus);
@@ -315,7 +320,7 @@ TEST_F(OverviewInputTest, TheKeyboardOpensTheMenuAtTheFocus)
 
 TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)
 {
-    Put(0, 4, "IDB_CRX_MODULE_CPU")->hasParamDialog = true;
+    station->Put(0, 4, "DI");
     handler->FocusPosition(12);
     Select({{0, 4}});
     handler->SetSelectionToClipboard();
@@ -329,7 +334,7 @@ TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)
     EXPECT_THAT(controller->Take(), ElementsAre("KeyReturn", "Cut", "Copy", "Paste", "Delete"));
     // What a command selects while the model lets nothing be drawn comes as soon as it does.
     controller->onPaste = [&] {
-        station->IsDrawable(false);
+        station->drawable = false;
         Select({{0, 9}});
         station->drawable = true;
     };
@@ -342,13 +347,15 @@ TEST_F(OverviewInputTest, MenuCommandsCallTheKeyController)
 
 TEST_F(OverviewInputTest, ConfigurationTooltips)
 {
-    Put(0, 4, "CPU");
-    station->Place(0, 6)->usability = 0;
+    station->Put(0, 4, "CPU");
+    station->Usability(0, 6, vxPlaceInactive);
+    const std::string cpu = station->Model().ModuleTooltip(station->Module(0, 4));
+    const std::string inactive = station->Model().EmptyPlaceTooltip(station->Place(0, 6));
     EXPECT_EQ(toolkit->tooltips.Hover(Pic().hWnd(), CenterOf(8)).area, MakeRect(79, 306, 18, 60));
     const auto texts = [&] { return Lines{TooltipAt(8), TooltipAt(10), TooltipAt(12), TooltipAt(9), TooltipAt(0)}; };
-    EXPECT_EQ(texts(), (Lines{"module CPU", "T6100", "empty 0/6", "", ""}));
+    EXPECT_EQ(texts(), (Lines{cpu, "T6100", inactive, "", ""}));
     view->Locked(true);
-    EXPECT_EQ(texts(), (Lines{"module CPU", "", "", "", ""}));
+    EXPECT_EQ(texts(), (Lines{cpu, "", "", "", ""}));
     controller->state = vxDragDropStateActive;
     EXPECT_EQ(TooltipAt(8), "");
     view->VxHWStation(nullptr);
@@ -358,7 +365,7 @@ TEST_F(OverviewInputTest, ConfigurationTooltips)
 TEST_F(OverviewInputTest, DiagnosticsTooltips)
 {
     view->Style(vxStyleHWDiag);
-    Put(0, 4, "IDB_CRX_MODULE_CPU");
+    station->Put(0, 4, "CPU");
     diag->diagStates = {{"0/4", 1}, {"0/4", 2}, {"0/4", 4}};
     EXPECT_EQ(TooltipAt(8), "") << "no failure, no state";
     diag->cpuStates = {{"0/4", 11}, {"0/5", 10}};

@@ -3,6 +3,7 @@
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWKeyInputController.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWMouseInputController.h"
+#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 
 #include <functional>
 #include <string>
@@ -68,7 +69,7 @@ public:
         lEffect = 2;
     }
     void OLECompleteDrag(std::int32_t& lEffect) noexcept override { Line("OLECompleteDrag", lEffect); }
-    bool IsDropPlace(const VxHWRackPlacePtr& oPlace) const noexcept override { return oPlace == dropPlace; }
+    bool IsDropPlace(const VxHWRackPlacePtr& oPlace) const noexcept override { return oPlace->Key() == dropPlace; }
     bool IsValidDragPosition(std::int32_t lPosition) const noexcept override { return lPosition == dragPosition; }
 
     std::vector<std::string> Take() { return std::exchange(mcolLines, {}); }
@@ -76,7 +77,7 @@ public:
     bool canSelectByRubberBand = true;
     VxEnumDragDropStates state = vxDragDropStateInactive;
     VxHWModulesPtr dragModules;
-    VxHWRackPlacePtr dropPlace;
+    std::string dropPlace; ///< its key
     std::int32_t dragPosition = -2;
     std::function<void()> onPaste;
 

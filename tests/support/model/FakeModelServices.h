@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/model/FakeModelObjects.h"
+#include "tests/support/model/WatchedModel.h"
 #include "zqbchwcx/foundation/model/Enumerations.h"
 #include "zqbchwcx/foundation/model/VxHWCompareService.h"
 #include "zqbchwcx/foundation/model/VxHWDiagService.h"
@@ -14,9 +14,9 @@ namespace zqbchwcx::testing {
 class ResultsByPlace : public std::map<std::string, std::int32_t> {
 public:
     using map::map;
-    std::int32_t For(const VxHWRackPlacePtr& oPlace) const
+    std::int32_t For(const std::string& key) const
     {
-        const auto found = find(KeyOfPlace(oPlace));
+        const auto found = find(key);
         return found == end() ? 0 : found->second;
     }
 };
@@ -28,11 +28,11 @@ public:
     std::int32_t CompareType() const override { return Answer("Compare.CompareType", compareType); }
     std::int32_t PlaceResult(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("Compare.PlaceResult", results.For(oPlace));
+        return Answer("Compare.PlaceResult", results.For(KeyOf(moLog, oPlace)));
     }
     std::string PlaceText(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("Compare.PlaceText", "place text " + KeyOfPlace(oPlace));
+        return Answer("Compare.PlaceText", "place text " + KeyOf(moLog, oPlace));
     }
     void Compare() override {}
     ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& /*oPlace*/) const override { return {}; }
@@ -51,15 +51,15 @@ public:
 
     std::int32_t CpuState(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("Diag.CpuState", cpuStates.For(oPlace));
+        return Answer("Diag.CpuState", cpuStates.For(KeyOf(moLog, oPlace)));
     }
     std::int32_t HasFailure(const VxHWRackPlacePtr& oPlace) const override
     {
-        return Answer("Diag.HasFailure", failures.For(oPlace));
+        return Answer("Diag.HasFailure", failures.For(KeyOf(moLog, oPlace)));
     }
     bool HasDiagState(const VxHWRackPlacePtr& oPlace, std::int32_t lCategory) const override
     {
-        return Answer("Diag.HasDiagState", diagStates.contains({KeyOfPlace(oPlace), lCategory}));
+        return Answer("Diag.HasDiagState", diagStates.contains({KeyOf(moLog, oPlace), lCategory}));
     }
     void Station(const VxHWStationPtr& /*oStation*/) override {}
     bool HasDiagnosticInfo(const VxHWRackPlacePtr& /*oPlace*/, const VxHWModulePtr& /*oSubModule*/) const override

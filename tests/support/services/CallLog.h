@@ -48,9 +48,8 @@ protected:
     Value Answer(std::string_view call, Value value) const
     {
         moLog->Call(call);
-        const bool bNothing = moLog->faults.TakeNothing();
         if constexpr (std::is_convertible_v<std::nullptr_t, Value> && !std::is_convertible_v<Value, std::string_view>)
-            if (bNothing) return nullptr;
+            if (moLog->faults.TakeNothing()) return nullptr;
         return value;
     }
 

@@ -1,13 +1,17 @@
 #pragma once
 
-#include "tests/support/model/FakeModelObjects.h"
+#include "tests/support/MemoryClipboard.h"
+#include "tests/support/model/WatchedModel.h"
 #include "tests/support/services/FakeDataObject.h"
 #include "zqbchwcx/foundation/model/VxHWModelFactory.h"
 #include "zqbchwcx/platform/HostServices.h"
+#include "zqbchwcx/reference/model/contract/ModelFactory.h"
+#include "zqbchwcx/reference/services/UserActions.h"
 
 namespace zqbchwcx::testing {
 
-/// All services of a host in one object: what the library asks of them is recorded, what they answer is set.
+/// All services of a host of the reference model in one object: what the library asks of them is recorded, what they
+/// answer is set.
 class FakeHost : public SettingsReader,
                  public TextManager,
                  public TextModule,
@@ -21,7 +25,10 @@ class FakeHost : public SettingsReader,
                  public Logged,
                  public std::enable_shared_from_this<FakeHost> {
 public:
-    using Logged::Logged;
+    FakeHost(CallLogPtr log, reference::ModelContextPtr oContext)
+        : Logged(std::move(log)), context(std::move(oContext)), mFactory(context)
+    {
+    }
 
     std::string Read(std::string_view keyPath, std::string_view name, std::string_view defaultValue) override
     {
@@ -59,9 +66,11 @@ public:
     {
         Note("BeginUserAction " + std::string(displayText));
         ++openActions;
+        if (const auto listening = actions.lock()) listening->BeginUserAction(displayText);
     }
     void EndUserAction() override
     {
+        if (const auto listening = actions.lock()) listening->EndUserAction();
         --openActions;
         moLog->NoteEnd("EndUserAction");
     }
@@ -104,7 +113,7 @@ public:
     ObjectLookupPtr CreateObjectLookup() override { return Answer("ObjectLookup.Create", shared_from_this()); }
     ExchangeDataPtr CreateExchangeData() override
     {
-        return Answer("ExchangeData.Create", std::make_shared<FakeExchangeData>(moLog, clipboard));
+        return Answer("ExchangeData.Create", std::make_shared<WatchedExchange>(moLog, clipboard));
     }
     OptionServicePtr CreateOptionService() override { return Answer("OptionService.Create", shared_from_this()); }
     std::string Read(std::string_view parameter) override
@@ -121,10 +130,10 @@ public:
 
     VxHWRackPlacesPtr CreateRackPlaces() override
     {
-        return Answer("CreateRackPlaces", std::make_shared<FakeRackPlaces>(moLog));
+        return Answer("CreateRackPlaces", Watch(moLog, mFactory.CreateRackPlaces()));
     }
-    VxHWModulesPtr CreateModules() override { return Answer("CreateModules", std::make_shared<FakeModules>(moLog)); }
-    VxHWModulePtr CreateModule() override { return Answer("CreateModule", std::make_shared<FakeModule>(moLog)); }
+    VxHWModulesPtr CreateModules() override { return Answer("CreateModules", Watch(moLog, mFactory.CreateModules())); }
+    VxHWModulePtr CreateModule() override { return Answer("CreateModule", Watch(moLog, mFactory.CreateModule())); }
 
     /// The sources of the errors reported since it was last asked.
     std::vector<std::string> TakeReports()
@@ -134,6 +143,7 @@ public:
         return sources;
     }
 
+    reference::ModelContextPtr context;
     std::map<std::pair<std::string, std::string>, std::string> settings; ///< by key path and name
     std::map<std::string, std::string, std::less<>> options;
     std::map<std::int32_t, std::string> texts; ///< a number without a text gives "T" and the number
@@ -145,10 +155,11 @@ public:
     std::map<std::int32_t, std::pair<std::int32_t, std::string>> live;
     bool isRunning = true; ///< the host application
     std::int32_t waitBalance = 0;
-    /// What the exchange data objects put on the clipboard.
-    std::shared_ptr<ByteArray> clipboard = std::make_shared<ByteArray>();
+    std::weak_ptr<reference::UserActions> actions; ///< what listens to the actions
+    std::shared_ptr<MemoryClipboard> clipboard = std::make_shared<MemoryClipboard>(moLog);
 
 private:
+    reference::ModelFactory mFactory;
     std::int32_t mlLastId = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/model/SampleModel.h"
 #include "tests/support/services/FakeHost.h"
 #include "tests/support/toolkit/RecordingToolkit.h"
 #include "zqbchwcx/foundation/ServiceRoot.h"
@@ -11,7 +12,9 @@ namespace zqbchwcx::testing {
 class TestServices {
 public:
     /// With a toolkit of the caller, that one is installed instead of the recording one.
-    explicit TestServices(const std::shared_ptr<Toolkit>& oToolkit = nullptr)
+    explicit TestServices(const reference::ModelContextPtr& context = SampleContext(),
+                          const std::shared_ptr<Toolkit>& oToolkit = nullptr)
+        : host(std::make_shared<FakeHost>(log, context))
     {
         ServiceRoot services{oToolkit ? oToolkit : toolkit, host, host, host, host, host, host, "C:\\Library"};
         G_InstallServiceRoot([services] { return services; });
@@ -25,7 +28,7 @@ public:
 
     CallLogPtr log = std::make_shared<CallLog>();
     std::shared_ptr<RecordingToolkit> toolkit = std::make_shared<RecordingToolkit>(log);
-    std::shared_ptr<FakeHost> host = std::make_shared<FakeHost>(log);
+    std::shared_ptr<FakeHost> host;
 };
 
 } // namespace zqbchwcx::testing

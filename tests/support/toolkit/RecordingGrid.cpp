@@ -18,7 +18,7 @@ void Merge(CellFormat& into, const CellFormat& format)
 void RecordingGrid::Reset()
 {
     Call("Grid.Reset");
-    EndEditing(false);
+    Finish(false);
     mcolColumns.clear();
     mcolRows.clear();
     mcolOrder.clear();
@@ -101,6 +101,11 @@ std::string RecordingGrid::CellText(GridCell cell) const
 void RecordingGrid::CellText(GridCell cell, std::string_view text)
 {
     Call("Grid.CellText");
+    Write(cell, text);
+}
+
+void RecordingGrid::Write(GridCell cell, std::string_view text)
+{
     if (cell.lRow == 0) Column(cell.lColumn).caption = text;
     else Content(cell).text = text;
     if (cell == mEdited && !mbTyped) msEditor = text, caret = static_cast<std::int32_t>(text.size());
@@ -147,11 +152,17 @@ void RecordingGrid::CurrentCell(GridCell cell, bool bEditable)
 bool RecordingGrid::StartEditing(GridCell cell, std::optional<std::string_view> text)
 {
     Call("Grid.StartEditing");
+    return Open(cell, text);
+}
+
+bool RecordingGrid::Open(GridCell cell, std::optional<std::string_view> text)
+{
     if (mEdited == cell) return true;
-    EndEditing(true);
+    Finish(true);
     if (mpEvents == nullptr || !mpEvents->OnStartEditing(cell)) return false;
+    msEditor = CellText(cell); // throws where the grid has no such cell
+    if (text) msEditor = *text;
     mEdited = cell;
-    msEditor = text ? std::string(*text) : CellText(cell);
     caret = static_cast<std::int32_t>(msEditor.size());
     editorTextSelected = !text;
     mbTyped = text.has_value();
@@ -160,22 +171,39 @@ bool RecordingGrid::StartEditing(GridCell cell, std::optional<std::string_view> 
 
 void RecordingGrid::EndEditing(bool bTakeOver)
 {
+    Call("Grid.EndEditing");
+    Finish(bTakeOver);
+}
+
+void RecordingGrid::Finish(bool bTakeOver)
+{
     if (!mEdited) return;
-    if (bTakeOver) CommitEditor();
+    if (bTakeOver) Commit();
     const GridCell cell = *std::exchange(mEdited, std::nullopt);
     if (mpEvents != nullptr) mpEvents->OnEndEditing(cell);
 }
 
 void RecordingGrid::CommitEditor()
 {
+    Call("Grid.CommitEditor");
+    Commit();
+}
+
+void RecordingGrid::Commit()
+{
     if (!mEdited) return;
     mbTyped = false;
-    CellText(*mEdited, std::string(msEditor));
+    Write(*mEdited, std::string(msEditor));
 }
 
 void RecordingGrid::MoveCaret(std::int32_t lCharacters)
 {
     Call("Grid.MoveCaret");
+    Step(lCharacters);
+}
+
+void RecordingGrid::Step(std::int32_t lCharacters)
+{
     editorTextSelected = false;
     caret = std::clamp(caret + lCharacters, 0, static_cast<std::int32_t>(msEditor.size()));
 }
@@ -191,7 +219,7 @@ GridCell RecordingGrid::CellAt(Point at) const
     const bool bHeader = at.y >= 0 && at.y < mlHeaderHeight;
     const std::int32_t lRow = bHeader ? 0 : mlTopRow + (at.y - mlHeaderHeight) / mlRowHeight;
     for (const std::int32_t lColumn : mcolOrder) {
-        const Rect rect = lRow >= 0 && lRow <= RowCount() ? CellRect({lRow, lColumn}) : Rect{};
+        const Rect rect = lRow >= 0 && lRow <= RowCount() ? RectOf({lRow, lColumn}) : Rect{};
         if (at.y >= 0 && at.x >= rect.left && at.x < rect.right) return {lRow, lColumn};
     }
     return {-1, 0};
@@ -200,6 +228,12 @@ GridCell RecordingGrid::CellAt(Point at) const
 Rect RecordingGrid::CellRect(GridCell cell) const
 {
     Call("Grid.CellRect");
+    return RectOf(cell);
+}
+
+Rect RecordingGrid::RectOf(GridCell cell) const
+{
+    if (cell.lColumn > ColumnCount()) return {}; // the user's hand is quicker than a grid that is emptied
     std::int32_t lLeft = 0;
     for (const std::int32_t lColumn : mcolOrder) {
         if (lColumn == cell.lColumn) break;
@@ -235,7 +269,7 @@ void RecordingGrid::OLEDrag()
 
 Point RecordingGrid::Middle(GridCell cell) const
 {
-    const Rect rect = CellRect(cell);
+    const Rect rect = RectOf(cell);
     return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
 }
 
@@ -243,7 +277,7 @@ void RecordingGrid::Press(GridCell cell, std::int16_t nButton, std::int16_t nShi
 {
     const bool bOnceMore = mbFocus && mbEditable && cell == mCurrent && nButton == vxButtonLeft && nShift == 0;
     Focus(true);
-    EndEditing(true);
+    Finish(true);
     mbEditorPending = bOnceMore;
     mpEvents->OnMouseDown({nButton, nShift, Middle(cell)});
 }
@@ -251,7 +285,7 @@ void RecordingGrid::Press(GridCell cell, std::int16_t nButton, std::int16_t nShi
 void RecordingGrid::Release(GridCell cell, std::int16_t nButton, std::int16_t nShift)
 {
     mpEvents->OnMouseUp({nButton, nShift, Middle(cell)});
-    const bool bIsButton = cell.lRow > 0 && Look(cell).kind == CellKind::PushButton;
+    const bool bIsButton = cell.lRow > 0 && cell.lRow <= RowCount() && Look(cell).kind == CellKind::PushButton;
     if (bIsButton && nButton == vxButtonLeft) mpEvents->OnClickedButton(cell);
 }
 
@@ -271,7 +305,7 @@ void RecordingGrid::DoubleClick(GridCell cell)
 
 void RecordingGrid::LetDoubleClickPass()
 {
-    if (std::exchange(mbEditorPending, false)) StartEditing(mCurrent, std::nullopt);
+    if (std::exchange(mbEditorPending, false)) Open(mCurrent, std::nullopt);
 }
 
 void RecordingGrid::MoveMouse(Point at, std::int16_t nButton)
@@ -284,10 +318,10 @@ bool RecordingGrid::Key(std::int16_t nKeyCode, std::int16_t nShift)
     mbEditorPending = false;
     const bool bConsumed = mpEvents->OnKeyDown(nKeyCode, nShift);
     if (!bConsumed && mEdited) {
-        if (nKeyCode == vxKeyEscape) EndEditing(false);
-        else if (nKeyCode == vxKeyReturn || nKeyCode == vxKeyTab) EndEditing(true);
-        else if (nKeyCode == vxKeyLeft) MoveCaret(-1);
-        else if (nKeyCode == vxKeyRight) MoveCaret(1);
+        if (nKeyCode == vxKeyEscape) Finish(false);
+        else if (nKeyCode == vxKeyReturn || nKeyCode == vxKeyTab) Finish(true);
+        else if (nKeyCode == vxKeyLeft) Step(-1);
+        else if (nKeyCode == vxKeyRight) Step(1);
     }
     mpEvents->OnKeyUp(nKeyCode, nShift);
     return bConsumed;
@@ -323,7 +357,7 @@ void RecordingGrid::UserOrder(const std::vector<std::int32_t>& order)
 void RecordingGrid::Focus(bool bFocus)
 {
     mbFocus = bFocus;
-    if (!bFocus) EndEditing(true);
+    if (!bFocus) Finish(true);
 }
 
 std::string RecordingGrid::RowText(std::int32_t lRow) const

@@ -136,6 +136,13 @@ private:
     }
     RowContent& Row(std::int32_t lRow) { return mcolRows.at(static_cast<std::size_t>(lRow - 1)); }
     const RowContent& Row(std::int32_t lRow) const { return mcolRows.at(static_cast<std::size_t>(lRow - 1)); }
+    // What both the library and the user do; only the library's calls can fail.
+    void Write(GridCell cell, std::string_view text);
+    bool Open(GridCell cell, std::optional<std::string_view> text);
+    void Finish(bool bTakeOver);
+    void Commit();
+    void Step(std::int32_t lCharacters);
+    Rect RectOf(GridCell cell) const;
     CellContent& Content(GridCell cell);
     const CellContent* FindContent(GridCell cell) const;
 

@@ -85,34 +85,34 @@ TEST_F(ConfigKey, SpaceSelectsAtTheFocus)
 
 TEST_F(ConfigKey, DeleteCutCopyAndPasteRunAsActions)
 {
-    station->Put(0, 2, "A");
-    station->Put(0, 3, "B");
-    Select({{0, 2}});
+    station->Put(0, 4, "DI");
+    station->Put(0, 5, "DO");
+    station->Put(1, 3, "IM");
+    Select({{0, 4}});
     EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"), IsEmpty()) << "nothing on the clipboard";
-    EXPECT_THAT(ActionOf(&Controller::Copy, "T4004"), ElementsAre("WriteModulesToExchange [A]", "PutOnClipboard"));
-    handler->FocusPosition(4);
-    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"), ElementsAre("CanBePlaced 4 [A] copy nothing")) << "no room";
-    Select({{0, 2}, {0, 3}});
+    EXPECT_THAT(ActionOf(&Controller::Copy, "T4004"), ElementsAre("WriteModulesToExchange [DI]", "PutOnClipboard"));
+    handler->FocusPosition(8);
+    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"), ElementsAre("CanBePlaced 8 [DI] copy")) << "no room";
+    Select({{0, 4}, {0, 5}});
     EXPECT_THAT(ActionOf(&Controller::Cut, "T4003"),
-                ElementsAre("WriteModulesToExchange [A B]", "PutOnClipboard", "IsDrawable False",
-                            "DeleteModules [0/2 0/3]", "IsDrawable True"));
-    FocusAndAnchor(1008, 4);
-    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"),
-                ElementsAre("CanBePlaced 1008 [A B] copy nothing", "IsDrawable False", "PlaceModules 1008 [A B]",
-                            "IsDrawable True"));
-    EXPECT_EQ(station->Content(), "1/4=A 1/5=B");
-    EXPECT_EQ(Marks(), "1/4 1/5 | 1008 | 4");
-    Select({{1, 3}, {1, 4}});
+                ElementsAre("WriteModulesToExchange [DI DO]", "PutOnClipboard", "IsDrawable False",
+                            "DeleteModules [0/4 0/5]", "IsDrawable True"));
+    FocusAndAnchor(1010, 8);
+    EXPECT_THAT(ActionOf(&Controller::Paste, "T4005"), ElementsAre("CanBePlaced 1010 [DI DO] copy", "IsDrawable False",
+                                                                   "PlaceModules 1010 [DI DO]", "IsDrawable True"));
+    EXPECT_EQ(station->Content(), "1/3=IM 1/5=DI 1/6=DO");
+    EXPECT_EQ(Marks(), "1/5 1/6 | 1010 | 8");
+    Select({{1, 4}, {1, 5}});
     EXPECT_THAT(ActionOf(&Controller::Delete, "T4002"),
-                ElementsAre("IsDrawable False", "DeleteModules [1/3 1/4]", "IsDrawable True"));
+                ElementsAre("IsDrawable False", "DeleteModules [1/4 1/5]", "IsDrawable True"));
     EXPECT_THAT(ActionOf(&Controller::Delete, "T4002"), IsEmpty()) << "a selection of empty places";
 }
 
 TEST_F(ConfigKey, ReturnOpensTheFirstParameterDialogOfTheSelection)
 {
-    station->Put(0, 2, "A");
-    station->Put(0, 3, "B")->hasParamDialog = true;
-    station->Put(0, 4, "C")->hasParamDialog = true;
+    station->Put(0, 2, "DO");
+    station->Put(0, 3, "DI");
+    station->Put(0, 4, "DI");
     Select({{0, 1}, {0, 2}, {0, 4}, {0, 3}});
     TakeLines();
     for (Controller* each : std::initializer_list<Controller*>{key.get(), offline.get(), online.get()}) {
@@ -123,7 +123,7 @@ TEST_F(ConfigKey, ReturnOpensTheFirstParameterDialogOfTheSelection)
 
 TEST_F(ConfigKey, TheReadOnlyOnesChangeNothingInTheStation)
 {
-    station->Put(0, 2, "A");
+    station->Put(0, 2, "DO");
     Select({{0, 2}});
     TakeLines();
     for (Controller* each : std::initializer_list<Controller*>{offline.get(), online.get()}) {
@@ -140,7 +140,7 @@ TEST_F(ConfigKey, TheReadOnlyOnesChangeNothingInTheStation)
 TEST_F(ConfigKey, AnErrorIsReportedBeforeTheActionIsClosed)
 {
     key->VxHWStation(nullptr);
-    station->Put(0, 2, "A")->hasParamDialog = true;
+    station->Put(0, 2, "DI");
     Select({{0, 2}});
     EXPECT_THAT(ActionOf(&Controller::Delete, "T4002"),
                 ElementsAre("LogError zqbchwcx.VxHWConfigCtrlKey.IVxHWKeyInputController_Delete"));

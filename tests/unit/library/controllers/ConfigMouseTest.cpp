@@ -74,7 +74,7 @@ TEST_F(ConfigMouse, ShiftSelectsFromTheAnchor)
         services.Faults().ThrowAt(++lCall);
         Press(8, vxShiftMask);
         ASSERT_FALSE(services.Faults().Thrown().empty());
-    } while (services.Faults().Thrown() != "Collection.Clear");
+    } while (services.Faults().Thrown() != "Places.Clear");
     EXPECT_EQ(handler->ShiftSelPosition(), 1004) << "the selection goes first";
     TakeReports();
 }
@@ -102,10 +102,10 @@ TEST_F(ConfigMouse, AClickOutsideOrInAnAbsentRackLeavesTheFocus)
     EXPECT_EQ(Press(-1, vxCtrlMask), "0/4 | 8 | 8");
     EXPECT_EQ(Press(-1, Plain), " | 8 | 8");
     EXPECT_EQ(Release(Plain), " | 8 | 8");
-    station->Rack(1)->state = vxRackNotPresent;
+    station->State(1, vxRackNotPresent);
     Select({{0, 4}, {0, 5}});
     EXPECT_EQ(Press(1004, Plain), "0/4 0/5 | 8 | 8");
-    station->Rack(1)->state = vxRackPresent;
+    station->State(1, vxRackPresent);
     EXPECT_EQ(Release(vxCtrlMask), "1/2 | 1004 | 1004") << "the press was remembered all the same";
 }
 
@@ -126,10 +126,9 @@ TEST_F(ConfigMouse, EveryClickIsAnnouncedAtMostOnce)
 
 TEST_F(ConfigMouse, ADoubleClickOpensTheParameterDialogOfAModuleThatHasOne)
 {
-    station->Put(0, 1, "A")->hasParamDialog = true;
-    station->Put(0, 2, "B");
-    station->Put(0, 3, "C")->hasParamDialog = true;
-    station->Module(0, 4)->hasParamDialog = true;
+    station->Put(0, 1, "DI");
+    station->Put(0, 2, "DO");
+    station->Put(0, 3, "DI");
     for (const std::int32_t lPosition : {1, 2, 4, 5, 7, 8, 9, 0, -1}) mouse->DblClick(lPosition);
     EXPECT_THAT(TakeLines(),
                 ElementsAre("OpenModuleParamDialog 0/1", "OpenModuleParamDialog 0/1", "OpenModuleParamDialog 0/3"));
@@ -138,7 +137,7 @@ TEST_F(ConfigMouse, ADoubleClickOpensTheParameterDialogOfAModuleThatHasOne)
 
 TEST_F(ConfigMouse, TheReadOnlyOneBehavesAlikeUnderItsOwnName)
 {
-    station->Put(0, 1, "A")->hasParamDialog = true;
+    station->Put(0, 1, "DI");
     mouse = MakeController<VxHWConfigROCtrlMouse>();
     TakeLines();
     EXPECT_TRUE(mouse->CanSelectByRubberBand());

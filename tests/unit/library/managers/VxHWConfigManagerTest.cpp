@@ -25,7 +25,10 @@ protected:
         operation();
         return TakeLines();
     }
-    bool Insert(const FakeModulePtr& module) { return manager->SetSingleModuleToCurPos(module); }
+    bool Insert(const char* orderNumber)
+    {
+        return manager->SetSingleModuleToCurPos(station->Model().CreateModule(orderNumber));
+    }
 
     std::shared_ptr<VxHWConfigManager> manager = std::make_shared<VxHWConfigManager>();
 };
@@ -48,12 +51,12 @@ TEST_F(ConfigManager, ConnectsViewsThenStartsConfiguration)
 
 TEST_F(ConfigManager, FocusesAndSelectsTheFirstUsablePlaceOfRackZero)
 {
-    station->Place(0, 1)->usability = vxPlaceNotUsable;
-    station->Place(0, 2)->usability = vxPlaceInactive;
+    station->Usability(0, 1, vxPlaceNotUsable);
+    station->Usability(0, 2, vxPlaceInactive);
     Initialize();
     EXPECT_EQ(Marks(), "0/2 | 4 | 4");
     EXPECT_TRUE(handler->SelPlacesArray().Get(0, 2));
-    for (const auto& place : station->Rack(0)->places->members) place->usability = vxPlaceNotUsable;
+    for (std::int32_t lPlace = 1; lPlace <= 11; ++lPlace) station->Usability(0, lPlace, vxPlaceNotUsable);
     Initialize();
     EXPECT_EQ(Marks(), " | 0 | 0");
     EXPECT_THAT(TakeReports(), ElementsAre("zqbchwcx.VxHWConfigManager.P_InitSelection"));
@@ -68,12 +71,11 @@ TEST_F(ConfigManager, ChoosesTheControllersByTheState)
         const char* sKey;
         const char* sDragDrop;
     };
-    for (const Case& c : {Case{false, 2, "VxHWConfigCtrlMouse", "VxHWConfigCtrlKey", "VxHWConfigCtrlDD"},
+    for (const Case& c : {Case{false, 0, "VxHWConfigCtrlMouse", "VxHWConfigCtrlKey", "VxHWConfigCtrlDD"},
                           Case{true, 0, "VxHWConfigROCtrlMouse", "VxHWConfigROOfflineCtrlKey", "VxHWConfigROCtrlDD"},
                           Case{true, 1, "VxHWConfigROCtrlMouse", "VxHWConfigROCtrlKey", "VxHWConfigROCtrlDD"},
                           Case{true, 2, "VxHWConfigROCtrlMouse", "VxHWConfigROCtrlKey", "VxHWConfigROCtrlDD"}}) {
-        station->readOnly = c.bReadOnly;
-        station->displayMode = c.lDisplayMode;
+        station->Change([&](auto& plain) { plain.readOnly = c.bReadOnly, plain.displayMode = c.lDisplayMode; });
         const auto registered = [](const char* name) { return std::string("Register ") + name; };
         EXPECT_THAT(LinesOf([&] { Initialize(); }),
                     IsSupersetOf({registered(c.sMouse), registered(c.sKey), registered(c.sDragDrop)}));
@@ -100,7 +102,7 @@ TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
 TEST_F(ConfigManager, BothViewsAreToldOfADragUntilTheModeTerminates)
 {
     Initialize();
-    station->Put(0, 1, "A");
+    station->Put(0, 1, "DI");
     std::int32_t lEffect = 0;
     const auto oDragDrop = overview->VxHWDragDropController();
     oDragDrop->OLEStartDrag(data, lEffect);
@@ -115,7 +117,7 @@ TEST_F(ConfigManager, BothViewsAreToldOfADragUntilTheModeTerminates)
 TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
 {
     Initialize();
-    station->Put(0, 1, "A")->hasParamDialog = true;
+    station->Put(0, 1, "DI");
     const std::pair<void (VxHWConfigManager::*)() noexcept, const char*> commands[] = {
         {&VxHWConfigManager::EditModuleParams, "BeginUserAction T4006"},
         {&VxHWConfigManager::Copy, "BeginUserAction T4004"},
@@ -128,19 +130,20 @@ TEST_F(ConfigManager, ForwardsTheCommandsToTheKeyController)
 
 TEST_F(ConfigManager, PlacesASingleModuleOnEverySelectedPlaceThatTakesIt)
 {
+    station->Put(1, 3, "IM");
     Initialize();
-    station->Put(0, 3, "B");
-    Select({{0, 2}, {0, 3}, {1, 4}, {1, 11}});
-    station->Put(1, 11, "B");
+    station->Put(0, 5, "DO");
+    Select({{0, 4}, {0, 5}, {1, 4}, {1, 11}});
+    station->Put(1, 11, "DO");
     handler->FocusPosition(9);
-    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert(station->MakeModule("M"))); }),
-                ElementsAre("PrepareModule M", "IsDrawable False", "CanBePlaced 4 [M] copy nothing",
-                            "PlaceModules 4 [M]", "CanBePlaced 6 [M] copy nothing", "CanBePlaced 1008 [M] copy nothing",
-                            "PlaceModules 1008 [M]", "CanBePlaced 1022 [M] copy nothing", "IsDrawable True"));
-    EXPECT_EQ(station->Content(), "0/2=M 0/3=B 1/4=M 1/11=B");
-    EXPECT_EQ(Marks(), "0/2 0/3 1/4 1/11 | 9 | 2") << "selection and focus stay";
-    Select({{0, 3}});
-    EXPECT_FALSE(Insert(station->MakeModule("M")));
+    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert("DI")); }),
+                ElementsAre("PrepareModule", "IsDrawable False", "CanBePlaced 8 [DI] copy", "PlaceModules 8 [DI]",
+                            "CanBePlaced 10 [DI] copy", "CanBePlaced 1008 [DI] copy", "PlaceModules 1008 [DI]",
+                            "CanBePlaced 1022 [DI] copy", "IsDrawable True"));
+    EXPECT_EQ(station->Content(), "0/4=DI 0/5=DO 1/3=IM 1/4=DI 1/11=DO");
+    EXPECT_EQ(Marks(), "0/4 0/5 1/4 1/11 | 9 | 2") << "selection and focus stay";
+    Select({{0, 5}});
+    EXPECT_FALSE(Insert("DI"));
 }
 
 TEST_F(ConfigManager, PlacesAtTheFocusWhenNothingIsSelected)
@@ -148,44 +151,36 @@ TEST_F(ConfigManager, PlacesAtTheFocusWhenNothingIsSelected)
     Initialize();
     Select({});
     handler->FocusPosition(7);
-    auto module = station->MakeModule("M");
-    module->subModuleCount = 2;
-    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert(module)); }),
-                IsSupersetOf({"CreateSubModules M", "PlaceModules 7 [M]"}));
-    handler->FocusPosition(12);
-    EXPECT_TRUE(Insert(module));
-    EXPECT_EQ(module->subModules->members.size(), 2U) << "created once";
+    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert("DI")); }), ::testing::Contains("PlaceModules 7 [DI]"));
 }
 
-TEST_F(ConfigManager, PlacesAModuleOfSeveralPlacesWithItsMembers)
+TEST_F(ConfigManager, PlacesAModuleOfSeveralPlacesWithItsMembersAndItsSubModulesOnce)
 {
     Initialize();
-    auto module = station->MakeModule("W");
-    module->placeCount = 2;
-    module->subModuleCount = 1;
-    Select({{1, 4}});
-    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(Insert(module)); }),
-                ElementsAre("PrepareModule W", "ExpandModule W", "CreateSubModules W", "IsDrawable False",
-                            "CanBePlaced 1008 [W W] copy nothing", "PlaceModules 1008 [W W]", "IsDrawable True"));
-    EXPECT_EQ(station->Content(), "1/4=W 1/5=W");
+    const auto oModule = station->Model().CreateModule("CNT3");
+    Select({{0, 4}, {0, 8}});
+    EXPECT_THAT(LinesOf([&] { EXPECT_TRUE(manager->SetSingleModuleToCurPos(oModule)); }),
+                ElementsAre("PrepareModule", "ExpandModule", "CreateSubModules", "IsDrawable False",
+                            "CanBePlaced 8 [CNT3 CNT3 CNT3] copy", "PlaceModules 8 [CNT3 CNT3 CNT3]",
+                            "CanBePlaced 16 [CNT3 CNT3 CNT3] copy", "PlaceModules 16 [CNT3 CNT3 CNT3]",
+                            "IsDrawable True"));
+    EXPECT_EQ(station->Content(), "0/4=CNT3 0/5=CNT3 0/6=CNT3 0/8=CNT3 0/9=CNT3 0/10=CNT3");
+    EXPECT_EQ(station->Module(0, 8)->SubModules()->Count(), 2);
+    EXPECT_THAT(LinesOf([&] { manager->SetSingleModuleToCurPos(oModule); }),
+                ::testing::Not(::testing::Contains("CreateSubModules")));
 }
 
 TEST_F(ConfigManager, ReportsCommandsOutsideOfItsConnection)
 {
     manager->EditModuleParams();
-    EXPECT_FALSE(Insert(station->MakeModule("M")));
+    EXPECT_FALSE(Insert("DI"));
     manager->Terminate();
     manager->Initialize(vxStationTypeCentral, nullptr, table, station);
     manager->Initialize(vxStationTypeCentral, overview, table, nullptr);
-    Initialize();
-    const auto module = station->MakeModule("M");
-    module->subModuleCount = 2;
-    module->subModules = nullptr;
-    EXPECT_FALSE(Insert(module));
     Lines procedures;
     for (const std::string& source : TakeReports()) procedures.push_back(source.substr(source.rfind('.') + 1));
-    EXPECT_THAT(procedures, ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize",
-                                        "Initialize", "SetSingleModuleToCurPos"));
+    EXPECT_THAT(procedures,
+                ElementsAre("EditModuleParams", "SetSingleModuleToCurPos", "Terminate", "Initialize", "Initialize"));
 }
 
 } // namespace

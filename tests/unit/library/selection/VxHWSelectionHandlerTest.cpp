@@ -41,7 +41,7 @@ TEST_F(SelectionHandler, SelChangeCompleteFillsTheArrayThatIsGivenAsACopy)
               (std::vector{0, 1, 1, 11}));
     EXPECT_TRUE(array.Get(0, 1) && array.Get(1, 11) && !array.Get(1, 1));
     array.Set(0, 2, true);
-    SelPlaces().Add(station->Place(0, 3));
+    handler->SelPlaces()->Add(station->Place(0, 3));
     EXPECT_FALSE(handler->SelPlacesArray().Get(0, 2)) << "a copy";
     EXPECT_FALSE(handler->SelPlacesArray().Get(0, 3)) << "not completed yet";
     Select({{0, 3}});
@@ -83,23 +83,24 @@ TEST_F(SelectionHandler, SelectRangeAddsPlacesInWalkingOrderWithinOneRack)
 
 TEST_F(SelectionHandler, UnusablePlacesAreSkippedInDistributedStationsOnly)
 {
-    station->Place(0, 2)->usability = vxPlaceNotUsable;
-    station->Place(0, 3)->usability = vxPlaceInactive;
+    station->Usability(0, 2, vxPlaceNotUsable);
+    station->Usability(0, 3, vxPlaceInactive);
     for (const std::int32_t lKind : {vxStationKindCentral, vxStationKindDistributed1, vxStationKindDistributed2}) {
-        station->stationKind = lKind;
+        station->Change([&](auto& plain) { plain.kind = lKind; });
         const bool bCentral = lKind == vxStationKindCentral;
         Select({});
         handler->SelectRange(2, 6);
         EXPECT_EQ(Selection(), bCentral ? "0/1 0/2 0/3" : "0/1 0/3");
         handler->SelectRack(station->Rack(0));
-        EXPECT_EQ(SelPlaces().members.size(), bCentral ? 11U : 10U);
+        EXPECT_EQ(handler->SelPlaces()->Count(), bCentral ? 11 : 10);
     }
 }
 
 TEST_F(SelectionHandler, TellsWhetherModulesAreSelectedOrFocused)
 {
-    station->Put(0, 2, "A");
-    const auto wide = station->Put(1, 3, "W", 3);
+    station->Put(0, 2, "DI");
+    station->Put(1, 3, "CNT3");
+    const auto wide = station->Module(1, 3)->ParentModule();
     Select({{0, 1}});
     EXPECT_FALSE(handler->IsModuleInSelection());
     Select({{0, 1}, {0, 2}});
@@ -115,22 +116,25 @@ TEST_F(SelectionHandler, TellsWhetherModulesAreSelectedOrFocused)
 
 TEST_F(SelectionHandler, SelectedModulesAreWidenedToWholeModules)
 {
-    station->Put(0, 2, "A");
-    station->Put(0, 4, "W", 3);
-    EXPECT_EQ(handler->GetSelectedModules()->ConfigText(), "");
+    station->Put(0, 2, "DI");
+    station->Put(0, 4, "CNT3");
+    EXPECT_EQ(NamesOf(services.log, handler->GetSelectedModules()), "");
     Select({{0, 5}, {0, 1}, {0, 2}, {0, 6}});
-    EXPECT_EQ(handler->GetSelectedModules()->ConfigText(), "W 2 3\n- 0 0\nA 0 0\nW 3 3\nW 1 3\n");
+    std::string members;
+    for (const auto& oModule : handler->GetSelectedModules())
+        members += oModule->OrderNumber() + std::to_string(oModule->IndexInParent()) + " ";
+    EXPECT_EQ(members, "CNT32 0 DI0 CNT33 CNT31 ");
 }
 
 TEST_F(SelectionHandler, PutsModulesOnTheClipboardButNoEmptySelection)
 {
-    station->Put(0, 2, "A");
+    station->Put(0, 2, "DI");
     Select({{0, 1}});
     EXPECT_TRUE(handler->SetSelectionToClipboard());
     EXPECT_THAT(TakeLines(), IsEmpty());
     Select({{0, 1}, {0, 2}});
     EXPECT_TRUE(handler->SetSelectionToClipboard());
-    EXPECT_THAT(TakeLines(), ElementsAre("WriteModulesToExchange [- A]", "PutOnClipboard"));
+    EXPECT_THAT(TakeLines(), ElementsAre("WriteModulesToExchange [- DI]", "PutOnClipboard"));
 }
 
 TEST_F(SelectionHandler, ReportsUseWithoutAStationAndGoesOn)

@@ -1,4 +1,4 @@
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 #include "zqbchwcx/reference/model/editing/EditModule.h"
 #include "zqbchwcx/reference/model/rules/CheckStation.h"
 

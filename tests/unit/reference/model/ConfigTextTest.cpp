@@ -1,5 +1,5 @@
 #include "zqbchwcx/reference/model/configtext/ConfigText.h"
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 #include "zqbchwcx/foundation/VxError.h"
 
 #include <gmock/gmock.h>

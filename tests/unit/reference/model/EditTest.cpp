@@ -1,4 +1,4 @@
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 
 #include <gtest/gtest.h>
 

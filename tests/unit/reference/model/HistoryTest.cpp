@@ -1,6 +1,6 @@
 #include "zqbchwcx/reference/history/History.h"
 
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "zqbchwcx/reference/model/rules/PlacingRules.h"
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "tests/support/MemoryClipboard.h"
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 #include "zqbchwcx/foundation/ConfigTextCodec.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 #include "zqbchwcx/reference/model/configtext/ConfigText.h"

@@ -34,11 +34,13 @@ namespace zqbchwcx::testing {
 
 /// A small catalogue with one type of every sort that the rules know. Order numbers are short: "PS", "CPU", "IM",
 /// "DI" (2 bytes in), "DO" (2 bytes out), "AI2" (2 places, 8 bytes in), "CNT3" (3 places, two sub-modules "SUB" of
-/// 4 bytes in and out), "CP", "DM" (dummy), "HEAD2" (head, 2 places), "CENTRAL" (central stations only).
+/// 4 bytes in and out), "CP", "DM" (dummy), "HEAD2" (head, 2 places), "CENTRAL" (central stations only). Others stand
+/// for a picture of the overview: "IO_DIGITAL", "IO_DIGITAL2" and "IO_DIGITAL3" (places), "Pump" (a file). Only "DI"
+/// has parameters.
 std::shared_ptr<const reference::Catalogue> SampleCatalogue();
 
-/// A station with all places active and empty; without a place count, kind 0 with 11 places per rack, else 24.
-reference::StationData EmptyStation(std::int32_t kind, std::size_t racks, std::size_t placeCount = 0);
+/// A station with all places active and empty; without their number, kind 0 has 11 per rack, the others 24.
+reference::StationData EmptyStation(std::int32_t kind, std::size_t racks, std::size_t places = 0);
 
 reference::ModuleDataPtr NewModuleData(const std::string& orderNumber);
 /// A block of order numbers, "-" for an empty place, "+" where a module goes on: "DI - AI2 + DO".

@@ -1,8 +1,9 @@
-#include "tests/unit/reference/model/SampleModel.h"
+#include "tests/support/model/SampleModel.h"
 
 #include "zqbchwcx/reference/model/rules/CheckStation.h"
 #include "zqbchwcx/reference/model/rules/Occupancy.h"
 
+#include <algorithm>
 #include <sstream>
 #include <utility>
 
@@ -24,6 +25,15 @@ ModuleType Type(const std::string& orderNumber, ModuleFamily family, std::int32_
     type.inputBytes = inputs;
     type.outputBytes = outputs;
     return type;
+}
+
+/// Gives the type its picture, with its number of places behind the name; makes one that is not there.
+void Pictured(std::vector<ModuleType>& types, const std::string& orderNumber, std::string picture)
+{
+    auto found = std::find_if(types.begin(), types.end(), [&](auto& type) { return type.orderNumber == orderNumber; });
+    if (found == types.end()) found = types.insert(found, Type(orderNumber, ModuleFamily::Digital));
+    if (picture.ends_with('2') || picture.ends_with('3')) found->placeCount = picture.back() - '0', picture.pop_back();
+    found->picture = std::move(picture);
 }
 
 std::vector<ModuleType> SampleTypes()
@@ -52,6 +62,11 @@ std::vector<ModuleType> SampleTypes()
     types.push_back(Type("AI2", ModuleFamily::Analog, 2, 8));
     types.push_back(Type("CP", ModuleFamily::Communication));
     types.push_back(Type("DM", ModuleFamily::Dummy));
+    for (const char* kind :
+         {"PS", "CPU", "IM", "CPUC", "CPUM", "DEFAULT", "DUMMY", "IO_ANALOG", "IO_DIGITAL", "IO_DIGITAL2",
+          "IO_DIGITAL3", "MERID_CPU", "MERID_IM", "MERID_IO_ANALOG", "MERID_IO_DIGITAL", "MERID_DUMMY", "NO_PICTURE"})
+        Pictured(types, kind, "IDB_CRX_MODULE_" + std::string(kind));
+    for (const char* file : {"Pump", "NoSuchFile", "idb_of_another_list"}) Pictured(types, file, file);
     return types;
 }
 
@@ -69,14 +84,15 @@ ModelContextPtr SampleContext()
     return std::make_shared<ModelContext>(ModelContext{SampleCatalogue(), {}});
 }
 
-StationData EmptyStation(std::int32_t kind, std::size_t racks, std::size_t placeCount)
+StationData EmptyStation(std::int32_t kind, std::size_t racks, std::size_t places)
 {
+    if (places == 0) places = kind == 0 ? 11 : 24;
     StationData data;
     data.kind = kind;
     for (std::size_t rack = 0; rack < racks; ++rack) {
-        auto places = std::make_shared<RackData>();
-        places->places.resize(placeCount > 0 ? placeCount : kind == 0 ? 11 : 24);
-        data.racks.push_back(std::move(places));
+        auto empty = std::make_shared<RackData>();
+        empty->places.resize(places);
+        data.racks.push_back(std::move(empty));
     }
     return data;
 }
