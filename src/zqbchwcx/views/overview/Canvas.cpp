@@ -12,14 +12,27 @@ PictureBox& Canvas::Box() const
     return *G_Require(mpicBox, "The picture box");
 }
 
+void Canvas::UseViewport(ChildControlPtr viewport, const Rect& rect)
+{
+    moViewport = std::move(viewport);
+    mViewport = rect;
+}
+
+void Canvas::MoveViewport(const Rect& rect)
+{
+    if (!moViewport || rect == mViewport) return;
+    mViewport = rect;
+    moViewport->Move(rect);
+}
+
 Point Canvas::InControl(Point inPicture) const
 {
-    return {Box().Left() + inPicture.x, Box().Top() + inPicture.y};
+    return {Origin().x + Box().Left() + inPicture.x, Origin().y + Box().Top() + inPicture.y};
 }
 
 Point Canvas::InPicture(Point inControl) const
 {
-    return {inControl.x - Box().Left(), inControl.y - Box().Top()};
+    return {inControl.x - Origin().x - Box().Left(), inControl.y - Origin().y - Box().Top()};
 }
 
 void Canvas::Overlay(const std::optional<Rect>& rect)

@@ -53,6 +53,11 @@ bool CentralPlaceLayout::Shows(std::int32_t lRack, std::int32_t lPlace) const
     return ShowsRack(lRack) && lPlace >= 1 && lPlace <= PlaceCount;
 }
 
+bool CentralPlaceLayout::ShowsGap(std::int32_t lRack, std::int32_t lGap) const
+{
+    return ShowsRack(lRack) && lGap >= 0 && lGap <= PlaceCount;
+}
+
 Rect CentralPlaceLayout::PlaceRect(std::int32_t lRack, std::int32_t lPlace) const
 {
     return MakeRect(GapX(lPlace - 1), BandTop(lRack) + PlaceTop, PlaceWidth, PlaceHeight);
@@ -61,6 +66,11 @@ Rect CentralPlaceLayout::PlaceRect(std::int32_t lRack, std::int32_t lPlace) cons
 Rect CentralPlaceLayout::GapLine(std::int32_t lRack, std::int32_t lGap) const
 {
     return MakeRect(GapX(lGap), BandTop(lRack) + PlaceTop, 0, PlaceHeight);
+}
+
+GapNeighbours CentralPlaceLayout::PlacesBeside(std::int32_t lRack, std::int32_t lGap) const
+{
+    return {Shows(lRack, lGap) ? lGap : 0, Shows(lRack, lGap + 1) ? lGap + 1 : 0};
 }
 
 std::int32_t CentralPlaceLayout::PositionAt(Point at) const

@@ -17,8 +17,10 @@ public:
     static constexpr bool ShowsRack(std::int32_t lRack) { return lRack >= 0 && lRack < RackCount; }
 
     bool Shows(std::int32_t lRack, std::int32_t lPlace) const override;
+    bool ShowsGap(std::int32_t lRack, std::int32_t lGap) const override;
     Rect PlaceRect(std::int32_t lRack, std::int32_t lPlace) const override;
     Rect GapLine(std::int32_t lRack, std::int32_t lGap) const override;
+    GapNeighbours PlacesBeside(std::int32_t lRack, std::int32_t lGap) const override;
     std::int32_t PositionAt(Point at) const override;
     Point PointOf(const PositionInfo& position) const override;
     Point MenuPointOf(const PositionInfo& position) const override;

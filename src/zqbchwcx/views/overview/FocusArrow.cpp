@@ -9,24 +9,21 @@ namespace {
 
 constexpr std::int32_t RowHeight = 15;
 
-constexpr Rect Whole(std::int32_t lWidth, std::int32_t lHeight)
-{
-    return MakeRect(0, 0, lWidth / vxTwipsPerPixel, lHeight / vxTwipsPerPixel);
-}
-
 } // namespace
 
 void FocusArrow::Create(Toolkit& toolkit, UserControl& oControl, std::int32_t lIndentation)
 {
-    moArrowControl = toolkit.CreateChildControl(oControl, "arw_Arrow", Whole(oControl.Width(), oControl.Height()));
+    mCovered = MakeRect(0, 0, oControl.Width() / vxTwipsPerPixel, oControl.Height() / vxTwipsPerPixel);
+    moArrowControl = toolkit.CreateChildControl(oControl, "arw_Arrow", mCovered);
     marwArrow = std::make_unique<HWCArrow>(*moArrowControl);
     marwArrow->Indentation(lIndentation);
 }
 
-void FocusArrow::Cover(std::int32_t lWidth, std::int32_t lHeight)
+void FocusArrow::Cover(const Rect& rect)
 {
     if (!moArrowControl) return;
-    moArrowControl->Move(Whole(lWidth, lHeight));
+    mCovered = rect;
+    moArrowControl->Move(rect);
     Update();
 }
 
@@ -35,13 +32,17 @@ void FocusArrow::Update() noexcept
     G_Trap(mContext.className, "P_SetArrow", [&] {
         auto& arrow = *G_Require(marwArrow, "The arrow");
         const PositionInfo focus = G_PositionInfo(mContext.FocusPosition());
-        if (!mContext.oStation || focus.eType != vxPositionPlace || !mLayout.Shows(focus.lRack, focus.lNumber)) {
+        const bool bShown =
+            mContext.oStation && focus.eType == vxPositionPlace && mLayout.Shows(focus.lRack, focus.lNumber);
+        const auto lRow = bShown ? mTableRow(focus) : std::nullopt;
+        if (!lRow) {
             arrow.Hide();
             return;
         }
         const Rect place = mLayout.PlaceRect(focus.lRack, focus.lNumber);
         const Point start = mCanvas.InControl({place.left + mStyle.arrowStart.x, place.top + mStyle.arrowStart.y});
-        arrow.Show(start.x, start.y, RowHeight / 2 + (focus.lNumber - 1) * RowHeight + mlHeaderHeight);
+        const std::int32_t lRowY = RowHeight / 2 + *lRow * RowHeight + mlHeaderHeight;
+        arrow.Show(start.x - mCovered.left, start.y - mCovered.top, lRowY - mCovered.top);
     });
 }
 

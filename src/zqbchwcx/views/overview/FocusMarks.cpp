@@ -5,7 +5,6 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace zqbchwcx {
@@ -16,14 +15,12 @@ constexpr std::int32_t TriangleDistanceAbove = 6;
 constexpr std::int32_t TriangleDistanceBelow = 1;
 
 constexpr std::int32_t GapMarkDistance = 6;
-constexpr std::int32_t GapLineErasedHeight = 47;
 
 } // namespace
 
 FocusMarks::FocusMarks(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas,
-                       RackPainter& rackPainter, RedrawPlace redrawPlace)
-    : mContext(context), mLayout(layout), mCanvas(canvas), mRackPainter(rackPainter),
-      mRedrawPlace(std::move(redrawPlace))
+                       PictureGround& ground, RedrawPlace redrawPlace)
+    : mContext(context), mLayout(layout), mCanvas(canvas), mGround(ground), mRedrawPlace(std::move(redrawPlace))
 {
 }
 
@@ -35,8 +32,8 @@ void FocusMarks::Set(const PositionInfo& position) noexcept
 
 void FocusMarks::Reset(const PositionInfo& position) noexcept
 {
-    if (position.eType == vxPositionPlace) P_ResetPlaceFocus(position.lRack);
-    else if (position.eType == vxPositionGap) P_ResetGapFocus(position.lRack, position.lNumber);
+    if (position.eType == vxPositionPlace) P_ResetPlaceFocus(position);
+    else if (position.eType == vxPositionGap) P_ResetGapFocus(position);
 }
 
 void FocusMarks::P_SetPlaceFocus(std::int32_t lRack, std::int32_t lPlace) noexcept
@@ -59,19 +56,17 @@ void FocusMarks::P_SetPlaceFocus(std::int32_t lRack, std::int32_t lPlace) noexce
     });
 }
 
-void FocusMarks::P_ResetPlaceFocus(std::int32_t lRack) noexcept
+void FocusMarks::P_ResetPlaceFocus(const PositionInfo& place) noexcept
 {
     G_Trap(mContext.className, "P_ResetPlaceFocus", [&] {
-        if (!mLayout.Shows(lRack, 1)) return;
-        mRackPainter.ClearFocusStrips(lRack);
-        mRackPainter.DrawRail(lRack);
+        if (mLayout.Shows(place.lRack, place.lNumber)) mGround.EraseMarks(place);
     });
 }
 
 void FocusMarks::P_SetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept
 {
     G_Trap(mContext.className, "P_SetGapFocus", [&] {
-        if (!mLayout.Shows(lRack, std::max(lGap, 1))) return;
+        if (!mLayout.ShowsGap(lRack, lGap)) return;
         auto& surface = mCanvas.Box();
         const Rect line = mLayout.GapLine(lRack, lGap);
         const OleColor color = FocusColor();
@@ -91,19 +86,15 @@ void FocusMarks::P_SetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept
     });
 }
 
-void FocusMarks::P_ResetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept
+void FocusMarks::P_ResetGapFocus(const PositionInfo& gap) noexcept
 {
     G_Trap(mContext.className, "P_ResetGapFocus", [&] {
-        if (!mLayout.Shows(lRack, 1)) return;
-        mRackPainter.ClearFocusStrips(lRack);
-        const Rect line = mLayout.GapLine(lRack, lGap);
-        mCanvas.Box().FillBox(MakeRect(line.left - 1, line.top - 1, 1, GapLineErasedHeight), mContext.backColor);
-        mRackPainter.DrawRail(lRack);
-
-        const std::int32_t lPlaceCount = mContext.Station()->Racks()->Item(lRack)->Places()->Count();
-        for (const std::int32_t lPlace : {lGap, lGap + 1}) {
-            if (lPlace >= 1 && lPlace <= lPlaceCount) mRedrawPlace(lRack, lPlace);
-        }
+        if (!mLayout.ShowsGap(gap.lRack, gap.lNumber)) return;
+        mGround.EraseMarks(gap);
+        const std::int32_t lPlaceCount = mContext.Station()->Racks()->Item(gap.lRack)->Places()->Count();
+        const GapNeighbours beside = mLayout.PlacesBeside(gap.lRack, gap.lNumber);
+        for (const std::int32_t lPlace : {beside.lLeft, beside.lRight})
+            if (lPlace >= 1 && lPlace <= lPlaceCount) mRedrawPlace(gap.lRack, lPlace);
     });
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "zqbchwcx/views/overview/Canvas.h"
+#include "zqbchwcx/views/overview/PictureGround.h"
 #include "zqbchwcx/views/overview/PlaceLayout.h"
-#include "zqbchwcx/views/overview/RackPainter.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
 
 #include <functional>
@@ -15,7 +15,7 @@ public:
     /// Draws a place anew; not called for places that the rack does not have.
     using RedrawPlace = std::function<void(std::int32_t lRack, std::int32_t lPlace)>;
 
-    FocusMarks(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas, RackPainter& rackPainter,
+    FocusMarks(const ViewContext& context, const PlaceLayout& layout, const Canvas& canvas, PictureGround& ground,
                RedrawPlace redrawPlace);
 
     void Set(const PositionInfo& position) noexcept;
@@ -23,15 +23,15 @@ public:
 
 private:
     void P_SetPlaceFocus(std::int32_t lRack, std::int32_t lPlace) noexcept;
-    void P_ResetPlaceFocus(std::int32_t lRack) noexcept;
+    void P_ResetPlaceFocus(const PositionInfo& place) noexcept;
     void P_SetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept;
-    void P_ResetGapFocus(std::int32_t lRack, std::int32_t lGap) noexcept;
+    void P_ResetGapFocus(const PositionInfo& gap) noexcept;
     OleColor FocusColor() const;
 
     const ViewContext& mContext;
     const PlaceLayout& mLayout;
     const Canvas& mCanvas;
-    RackPainter& mRackPainter;
+    PictureGround& mGround;
     RedrawPlace mRedrawPlace;
 };
 

@@ -2,7 +2,6 @@
 
 #include "zqbchwcx/foundation/Nothing.h"
 #include "zqbchwcx/foundation/model/VxHWRack.h"
-#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 #include "zqbchwcx/views/shared/NumberText.h"
 
 #include <array>
@@ -22,6 +21,8 @@ constexpr std::int32_t StripWidth = 218;
 constexpr std::int32_t StripHeight = 6;
 constexpr std::int32_t UpperStripTop = 24;
 constexpr std::int32_t LowerStripTop = 90;
+// What is below it is covered by the places.
+constexpr std::int32_t GapLineErasedHeight = 47;
 
 } // namespace
 
@@ -30,7 +31,7 @@ void RackPainter::Load(TextModule& textModule)
     moImages = LoadStrip(textModule, {RailKey, RailWidth, RailKeys});
 }
 
-void RackPainter::DrawEmptyRails()
+void RackPainter::DrawEmpty()
 {
     mCanvas.Box().BackColor(mContext.backColor);
     for (std::int32_t lRack = 0; lRack < CentralPlaceLayout::RackCount; ++lRack) DrawRail(lRack);
@@ -42,8 +43,9 @@ void RackPainter::DrawRail(std::int32_t lRack)
                                 {RailLeft, CentralPlaceLayout::BandTop(lRack) + RailTop}, DrawStyle::Transparent);
 }
 
-void RackPainter::DrawNumber(const VxHWRack& oRack)
+void RackPainter::DrawRack(const VxHWRack& oRack)
 {
+    if (!CentralPlaceLayout::ShowsRack(oRack.Number())) return;
     const std::int32_t lState = oRack.State();
     if (lState != vxRackPresent && lState != vxRackNotPresent) return;
     const bool bPresent = lState == vxRackPresent;
@@ -54,12 +56,17 @@ void RackPainter::DrawNumber(const VxHWRack& oRack)
                  bPresent ? NumberMode::Bold : NumberMode::Grayed);
 }
 
-void RackPainter::ClearFocusStrips(std::int32_t lRack)
+void RackPainter::EraseMarks(const PositionInfo& position)
 {
-    const std::int32_t top = CentralPlaceLayout::BandTop(lRack);
+    const std::int32_t top = CentralPlaceLayout::BandTop(position.lRack);
     for (const std::int32_t stripTop : {top + UpperStripTop, top + LowerStripTop}) {
         mCanvas.Box().FillBox(MakeRect(RailLeft, stripTop, StripWidth, StripHeight), mContext.backColor);
     }
+    if (position.eType == vxPositionGap) {
+        const Rect line = mLayout.GapLine(position.lRack, position.lNumber);
+        mCanvas.Box().FillBox(MakeRect(line.left - 1, line.top - 1, 1, GapLineErasedHeight), mContext.backColor);
+    }
+    DrawRail(position.lRack);
 }
 
 } // namespace zqbchwcx

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "zqbchwcx/foundation/model/Fwd.h"
 #include "zqbchwcx/views/overview/Canvas.h"
+#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
+#include "zqbchwcx/views/overview/PictureGround.h"
 #include "zqbchwcx/views/overview/PictureStrip.h"
 #include "zqbchwcx/views/shared/SinglePictures.h"
 #include "zqbchwcx/views/shared/ViewContext.h"
@@ -9,27 +10,28 @@
 namespace zqbchwcx {
 
 /// Draws what a rack of a central station has besides its places: the rail and the rack number.
-class RackPainter {
+class RackPainter : public PictureGround {
 public:
     RackPainter(const ViewContext& context, const Canvas& canvas, const SinglePictures& singlePictures)
         : mContext(context), mCanvas(canvas), mSinglePictures(singlePictures)
     {
     }
 
-    void Load(TextModule& textModule);
-
-    /// Erases the picture and draws the rails of all bands, whether or not the station has the rack.
-    void DrawEmptyRails();
-    /// The rail picture; it is transparent where places and rack number lie.
-    void DrawRail(std::int32_t lRack);
-    void DrawNumber(const VxHWRack& oRack);
-    /// Erases all focus marks above and below the places of the rack.
-    void ClearFocusStrips(std::int32_t lRack);
+    void Load(TextModule& textModule) override;
+    /// Draws the rails of all bands, whether or not the station has the rack.
+    void DrawEmpty() override;
+    /// The rack number, which shows whether the rack is present.
+    void DrawRack(const VxHWRack& oRack) override;
+    void EraseMarks(const PositionInfo& position) override;
 
 private:
+    /// The rail picture; it is transparent where places and rack number lie.
+    void DrawRail(std::int32_t lRack);
+
     const ViewContext& mContext;
     const Canvas& mCanvas;
     const SinglePictures& mSinglePictures;
+    CentralPlaceLayout mLayout;
     ImageListPtr moImages;
 };
 
