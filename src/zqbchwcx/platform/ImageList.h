@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zqbchwcx/platform/Color.h"
+#include "zqbchwcx/platform/Geometry.h"
 
 #include <cstdint>
 #include <memory>
@@ -16,7 +17,7 @@ public:
 };
 using ImagePtr = std::shared_ptr<const Image>;
 
-/// Pictures of one width, each found by its cell index or by its key.
+/// Pictures of one size, each found by its cell index or by its key.
 class ImageList {
 public:
     virtual ~ImageList() = default;
@@ -39,6 +40,10 @@ public:
     /// Cuts the strip into cells of the given width (logical pixels). Throws when there is no such strip.
     virtual ImageListPtr Create(std::intptr_t hInstance, std::string_view stripName, std::int32_t lCellWidth,
                                 std::int32_t lReserved, OleColor maskColor, std::int32_t lFlags) = 0;
+    /// A list without pictures, for cells of that size.
+    virtual ImageListPtr CreateEmpty(Size cell, OleColor maskColor) = 0;
+    /// Appends the cells of a strip to a list that this factory made. Throws when there is no such strip.
+    virtual void AddStrip(ImageList& list, std::intptr_t hInstance, std::string_view stripName) = 0;
 };
 
 } // namespace zqbchwcx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zqbchwcx/platform/Color.h"
 #include "zqbchwcx/platform/Geometry.h"
 
 #include <memory>
@@ -22,8 +23,11 @@ public:
 };
 using ShapePtr = std::unique_ptr<Shape>;
 
-/// A thin frame control.
-class Frame : public Shape {};
+/// A frame control: a thin bar, or what shows around a button. It starts in the system button-shadow colour.
+class Frame : public Shape {
+public:
+    virtual void BackColor(OleColor color) = 0;
+};
 using FramePtr = std::unique_ptr<Frame>;
 
 } // namespace zqbchwcx

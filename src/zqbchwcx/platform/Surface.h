@@ -11,12 +11,15 @@ namespace zqbchwcx {
 class Image;
 class ImageList;
 
-/// How an image is put on a surface. Cyan pixels (or transparent ones of a vector picture) never draw.
+/// How an image is put on a surface. Cyan pixels (or transparent ones of a vector picture) do
+/// not draw, unless the style says so.
 enum class DrawStyle {
     Normal = 0,
     Transparent = 1,
     Blended = 4,            ///< mixed half and half with the system highlight colour: the selected look
     TransparentBlended = 5, ///< transparent and mixed
+    Opaque = 32,            ///< without its mask: what is transparent has the background colour of the surface
+    OpaqueBlended = 36,     ///< opaque and mixed
 };
 
 enum class FontWeight { Regular, Bold };

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "zqbchwcx/platform/Button.h"
 #include "zqbchwcx/platform/Grid.h"
 #include "zqbchwcx/platform/PictureBox.h"
 #include "zqbchwcx/platform/PopupForm.h"
 #include "zqbchwcx/platform/PopupMenu.h"
+#include "zqbchwcx/platform/ScrollBar.h"
 #include "zqbchwcx/platform/Shape.h"
 #include "zqbchwcx/platform/SysInfo.h"
 #include "zqbchwcx/platform/TabStrip.h"
@@ -28,6 +30,9 @@ public:
     virtual ChildControlPtr CreateChildControl(UserControl& parent, std::string_view name, const Rect& rect) = 0;
     virtual FramePtr CreateFrame(UserControl& parent, std::string_view name, const Rect& rect) = 0;
     virtual ShapePtr CreateShape(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual ScrollBarPtr CreateScrollBar(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual ButtonPtr CreateButton(UserControl& parent, std::string_view name, const Rect& rect,
+                                   ButtonArrow eArrow) = 0;
     virtual PopupMenuPtr CreatePopupMenu(UserControl& parent, std::string_view name) = 0;
     virtual GridPtr CreateGrid(UserControl& parent, std::string_view name, const Rect& rect) = 0;
     virtual TabStripPtr CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect,

@@ -17,6 +17,9 @@ public:
     virtual void KeyDown(std::int16_t nKeyCode, std::int16_t nShift) noexcept = 0;
     virtual void KeyUp(std::int16_t nKeyCode, std::int16_t nShift) noexcept = 0;
     virtual void Resize() noexcept = 0;
+    /// The mouse wheel was turned over the control, or fingers moved on a touchpad: by so many notches, upwards for
+    /// positive numbers; a part of a notch counts. False when the control has no use for it.
+    virtual bool MouseWheel(float /*notches*/) noexcept { return false; }
     /// A drag over the control, but outside its picture boxes.
     virtual void OLEDragOver(const DataObjectPtr& oData, std::int32_t& lEffect, std::int16_t nButton,
                              std::int16_t nShift, float x, float y, std::int16_t nState) noexcept = 0;
@@ -38,7 +41,7 @@ public:
     virtual void Font(std::string_view family, double points) = 0;
 };
 
-/// A control inside a control, placed in logical pixels of its parent.
+/// A control inside a control, placed in logical pixels of its parent. It shows only what of its children lies in it.
 class ChildControl : public UserControl {
 public:
     virtual void Move(const Rect& rect) = 0;

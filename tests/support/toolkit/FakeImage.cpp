@@ -16,8 +16,20 @@ std::vector<Rect> FrameLines(const std::string& key)
     return lines;
 }
 
+/// Of a distributed station, where a place is 22 x 72: what stands around the places, and places and modules that let
+/// what is behind them show around them.
+std::vector<Rect> DistributedParts(const std::string& key)
+{
+    const Size size = key.find("_PLACESTART_") != std::string::npos ? Size{1, 72}
+                      : key.find("_RACK_") != std::string::npos     ? Size{12, 72}
+                                                                    : Size{22, 72};
+    const bool bWhole = size.width < 22 || key.starts_with("IDB_RIOA_PLACEFRAME") || key.starts_with("IDB_RIOB_PLACE");
+    return {bWhole ? MakeRect(0, 0, size.width, size.height) : MakeRect(2, 2, size.width - 4, size.height - 4)};
+}
+
 std::vector<Rect> OpaqueParts(const std::string& key)
 {
+    if (key.starts_with("IDB_RIO")) return DistributedParts(key);
     if (key == "IDB_CRX_RACK")
         return {{0, 0, 218, 1}, {0, 61, 218, 62}, {0, 1, 1, 14}, {13, 1, 14, 14}, {0, 14, 14, 61}, {212, 1, 218, 61}};
     if (key.starts_with("IDB_CRX_RACKNR")) return {{0, 0, 12, 13}};

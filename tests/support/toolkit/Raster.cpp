@@ -52,7 +52,8 @@ void Raster::Text(std::string_view text, const Rect& box, FontWeight weight, Ole
 
 void Raster::Draw(const FakeImage& image, Point at, DrawStyle style)
 {
-    const bool bBlended = style == DrawStyle::Blended || style == DrawStyle::TransparentBlended;
+    const bool bBlended =
+        style == DrawStyle::Blended || style == DrawStyle::TransparentBlended || style == DrawStyle::OpaqueBlended;
     const Ink drawing = Mixed(std::hash<std::string>()(image.key), bBlended ? 1 : 0);
     for (const Rect& part : image.opaque) Paint(part, at, drawing);
 }

@@ -53,6 +53,18 @@ public:
         return std::make_shared<RecordingImageList>(moLog, files);
     }
 
+    ImageListPtr CreateEmpty(Size cell, OleColor /*maskColor*/) override
+    {
+        Call("ImageListFactory.CreateEmpty");
+        created.push_back("empty " + std::to_string(cell.width) + "x" + std::to_string(cell.height));
+        return std::make_shared<RecordingImageList>(moLog, files);
+    }
+    void AddStrip(ImageList& /*list*/, std::intptr_t /*hInstance*/, std::string_view stripName) override
+    {
+        Call("ImageListFactory.AddStrip");
+        created.emplace_back(stripName);
+    }
+
     std::vector<std::string> created;
     std::shared_ptr<FakePictureFiles> files = std::make_shared<FakePictureFiles>();
 };

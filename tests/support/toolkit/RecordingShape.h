@@ -19,7 +19,10 @@ public:
         ++visibleWrites;
     }
 
+    void BackColor(OleColor color) override { Call("Frame.BackColor"), backColor = color; }
+
     std::int32_t visibleWrites = 0;
+    OleColor backColor = 0;
 
 private:
     Rect mBounds;

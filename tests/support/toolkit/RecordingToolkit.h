@@ -2,12 +2,14 @@
 
 #include "tests/support/services/FakeClock.h"
 #include "tests/support/services/FakeDesktop.h"
+#include "tests/support/toolkit/RecordingButton.h"
 #include "tests/support/toolkit/RecordingControl.h"
 #include "tests/support/toolkit/RecordingGrid.h"
 #include "tests/support/toolkit/RecordingImageList.h"
 #include "tests/support/toolkit/RecordingPictureBox.h"
 #include "tests/support/toolkit/RecordingPopupForm.h"
 #include "tests/support/toolkit/RecordingPopupMenu.h"
+#include "tests/support/toolkit/RecordingScrollBar.h"
 #include "tests/support/toolkit/RecordingShape.h"
 #include "tests/support/toolkit/RecordingTabStrip.h"
 #include "tests/support/toolkit/RecordingTooltips.h"
@@ -39,6 +41,14 @@ public:
     {
         return Made<RecordingShape>(shapes[std::string(name)].emplace_back(), rect);
     }
+    ScrollBarPtr CreateScrollBar(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingScrollBar>(scrollBars[std::string(name)], rect);
+    }
+    ButtonPtr CreateButton(UserControl&, std::string_view name, const Rect& rect, ButtonArrow eArrow) override
+    {
+        return Made<RecordingButton>(buttons[std::string(name)], rect, eArrow);
+    }
     PopupMenuPtr CreatePopupMenu(UserControl&, std::string_view name) override
     {
         return Made<RecordingPopupMenu>(menus[std::string(name)]);
@@ -63,7 +73,7 @@ public:
     SysInfoPtr CreateSysInfo(UserControl&) override
     {
         Call("Toolkit.CreateSysInfo");
-        return std::make_unique<ForwardingSysInfo>(sysColorsChanged);
+        return std::make_unique<ForwardingSysInfo>(*this);
     }
     TimerPtr CreateTimer() override { return clock.CreateTimer(); }
     Desktop& GetDesktop() override { return desktop; }
@@ -81,17 +91,30 @@ public:
     std::map<std::string, RecordingTabStrip*> tabStrips;
     std::map<std::string, RecordingPopupForm*> popupForms;
     std::map<std::string, RecordingPopupMenu*> menus;
+    std::map<std::string, RecordingScrollBar*> scrollBars;
+    std::map<std::string, RecordingButton*> buttons;
     ShapesByName shapes;
-    std::function<void()> sysColorsChanged; ///< the test calls it
+    // The test calls these.
+    std::function<void()> sysColorsChanged;
+    std::function<void(std::int32_t)> settingChanged;
+    std::int32_t scrollBarSize = 13; ///< of the desktop
 
 private:
     class ForwardingSysInfo : public SysInfo {
     public:
-        explicit ForwardingSysInfo(std::function<void()>& handler) : mHandler(handler) {}
-        void OnSysColorsChanged(std::function<void()> handler) override { mHandler = std::move(handler); }
+        explicit ForwardingSysInfo(RecordingToolkit& toolkit) : mToolkit(toolkit) {}
+        void OnSysColorsChanged(std::function<void()> handler) override
+        {
+            mToolkit.sysColorsChanged = std::move(handler);
+        }
+        void OnSettingChanged(std::function<void(std::int32_t)> handler) override
+        {
+            mToolkit.settingChanged = std::move(handler);
+        }
+        std::int32_t ScrollBarSize() const override { return mToolkit.scrollBarSize; }
 
     private:
-        std::function<void()>& mHandler;
+        RecordingToolkit& mToolkit;
     };
 
     template <class Child, class... Args>

@@ -23,6 +23,7 @@ public:
 private:
     void Resize() noexcept override;
     void Arrange() override { mLinks.Hide(); }
+    const PictureStrip* PlacePictures() const override { return &G_CentralPictures; }
     void OnPlaceDrawn(std::int32_t lPlace) override;
 
     InterfaceModuleLinks mLinks;

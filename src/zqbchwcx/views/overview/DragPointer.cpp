@@ -45,8 +45,10 @@ void DragPointer::P_DrawModuleToDragPointer(const VxHWModule& oModule, std::int3
     G_Trap(mContext.className, "P_DrawModuleToDragPointer", [&] {
         const std::string key =
             oModule.IsEmpty() ? std::string(mStyle.active) : mModulePictures.KeyOf(oModule, mStyle.moduleDefault);
+        if (!mStyle.placeFrame.empty())
+            mpicDrag->DrawListImage(mModulePictures.List(), mStyle.placeFrame, {lLeft, 0}, DrawStyle::Normal);
         mpicDrag->DrawListImage(mModulePictures.List(), key, {lLeft, 0}, DrawStyle::Normal);
-        if (oModule.IndexInParent() < 1) return;
+        if (oModule.IndexInParent() < 1 || mStyle.frameMid.empty()) return;
         mpicDrag->DrawListImage(mModulePictures.List(), G_GroupFrameKey(mStyle, oModule, oModule.ParentModule()),
                                 {lLeft, 0}, DrawStyle::Transparent);
     });

@@ -17,6 +17,8 @@ public:
 
     /// Starts over with the pictures of the strip.
     void Load(TextModule& textModule, const PictureStrip& strip);
+    /// Has no pictures any more.
+    void Forget() { moImages.reset(); }
     /// Throws VxError before `Load`.
     const ImageList& List() const;
 

@@ -126,7 +126,9 @@ void OverviewControl::OnStation()
 void OverviewControl::P_LoadImageLists() noexcept
 {
     G_Trap(mContext.className, "P_LoadImageLists", [&] {
-        mModulePictures.Load(*mTexts, mKind.style.pictures);
+        const PictureStrip* pPictures = PlacePictures();
+        if (pPictures != nullptr) mModulePictures.Load(*mTexts, *pPictures);
+        else mModulePictures.Forget();
         moGround->Load(*mTexts);
     });
 }

@@ -81,6 +81,8 @@ protected:
     // What an overview may do besides.
     /// The station was set, or there is none any more; nothing of it is drawn yet.
     virtual void Arrange() = 0;
+    /// The pictures of places and modules of the station; null for none.
+    virtual const PictureStrip* PlacePictures() const = 0;
     /// Shows the place or gap wholly, where the picture can be scrolled.
     virtual void BringIntoView(const PositionInfo& /*position*/) {}
     virtual void OnPlaceDrawn(std::int32_t /*lPlace*/) {}

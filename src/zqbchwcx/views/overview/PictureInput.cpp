@@ -62,6 +62,7 @@ void PictureInput::MouseMove(std::int16_t nButton, std::int16_t /*nShift*/, floa
             mCanvas.Box().OLEDrag();
         } else if (mRubberBand.IsActive()) {
             mRubberBand.MoveTo(at);
+            mOnRubberBand(at);
         }
     });
 }
@@ -72,6 +73,7 @@ void PictureInput::MouseUp(std::int16_t nButton, std::int16_t nShift, float x, f
     // The press is over, whatever its release leads to.
     if (HasLeftOrRight(nButton)) moDragStart.reset();
     const bool bTold = Trap("MouseUp", [&] {
+        if (HasLeftOrRight(nButton)) mOnRubberBand(std::nullopt);
         mContext.MouseCtrl()->MouseUp(mLayout.PositionAt(at), nButton, nShift);
         mGate.CatchUp();
     });

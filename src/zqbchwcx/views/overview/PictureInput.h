@@ -12,6 +12,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace zqbchwcx {
 
@@ -23,6 +24,10 @@ public:
                  std::function<void()> onKeyboardFocus);
 
     void DragThreshold(Size threshold) { mDragThreshold = threshold; }
+    /// Told where the mouse holds the end of a rubber band; nothing when the band has ended.
+    void OnRubberBand(std::function<void(std::optional<Point>)> handler) { mOnRubberBand = std::move(handler); }
+    /// The picture was scrolled under the mouse, which is at the point now.
+    void ExtendRubberBand(Point at) noexcept { mRubberBand.MoveTo(at); }
 
     void MouseDown(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override;
     void MouseMove(std::int16_t nButton, std::int16_t nShift, float x, float y) noexcept override;
@@ -52,6 +57,7 @@ private:
     std::string msProcedurePrefix;
     RedrawGate& mGate;
     std::function<void()> mOnKeyboardFocus;
+    std::function<void(std::optional<Point>)> mOnRubberBand = [](std::optional<Point>) {};
     Size mDragThreshold{4, 4};
     std::optional<Point> moDragStart;
     std::int32_t mlLastMouseDownPosition = vxNoPosition;

@@ -9,6 +9,14 @@
 #include "zqbchwcx/views/shared/NumberText.h"
 
 namespace zqbchwcx {
+namespace {
+
+DrawStyle Selected(DrawStyle eStyle)
+{
+    return static_cast<DrawStyle>(static_cast<int>(eStyle) + static_cast<int>(DrawStyle::Blended));
+}
+
+} // namespace
 
 PlacePainter::PlacePainter(const ViewContext& context, const PlaceStyle& style, const PlaceLayout& layout,
                            const Canvas& canvas, ModulePictures& modulePictures, const SinglePictures& singlePictures)
@@ -23,12 +31,24 @@ void PlacePainter::Draw(const VxHWRackPlacePtr& oPlace, bool bSelected)
     const Point at = PlaceAt(*oPlace);
     const Look look = LookOf(oPlace);
     if (!look.key.empty()) {
-        // The number lies below the picture and shows through its transparent pixels.
-        DrawNumber(surface, look, oPlace->Number(), at);
-        surface.DrawListImage(mModulePictures.List(), look.key, at, bSelected ? DrawStyle::Blended : DrawStyle::Normal);
+        // It shows through the picture's transparent pixels.
+        if (mStyle.bNumberBelowPicture) DrawNumber(surface, look, oPlace->Number(), at);
+        DrawContent(surface, look, at, bSelected);
     }
-    if (mContext.Station()->HasGroupFrame(oPlace)) DrawGroupFrame(oPlace);
+    if (!mStyle.frameMid.empty() && mContext.Station()->HasGroupFrame(oPlace)) DrawGroupFrame(oPlace);
     mStatusSymbols.Draw(surface, oPlace, at);
+}
+
+void PlacePainter::DrawContent(Surface& surface, const Look& look, Point placeAt, bool bSelected)
+{
+    const auto& pictures = mModulePictures.List();
+    if (!mStyle.placeFrame.empty())
+        surface.DrawListImage(pictures, look.bDrop ? mStyle.placeFrameDrop : mStyle.placeFrame, placeAt,
+                              DrawStyle::Normal);
+    if (look.bModule && mStyle.bEraseBehindModule)
+        surface.FillBox(MakeRect(placeAt.x, placeAt.y, mStyle.place.width, mStyle.place.height), mContext.backColor);
+    const DrawStyle eStyle = look.bModule ? mStyle.module : mStyle.emptyPlace;
+    surface.DrawListImage(pictures, look.key, placeAt, bSelected ? Selected(eStyle) : eStyle);
 }
 
 std::string PlacePainter::PlaceKey(std::string_view key, std::int32_t lPlace) const
@@ -41,15 +61,23 @@ PlacePainter::Look PlacePainter::LookOf(const VxHWRackPlacePtr& oPlace)
     const std::int32_t lUsability = oPlace->Usability();
     const std::int32_t lPlace = oPlace->Number();
     const bool bDrag = mContext.IsDragActive();
-    if (lUsability == vxPlaceNotUsable || lUsability == vxPlaceInactive) {
-        return {PlaceKey(bDrag ? mStyle.inactiveNoDrop : mStyle.inactive, lPlace), lUsability == vxPlaceInactive, true};
+    Look look;
+    if (!mStyle.inactive.empty() && lUsability != vxPlaceActive) {
+        if (lUsability != vxPlaceNotUsable && lUsability != vxPlaceInactive) return look;
+        look.key = PlaceKey(bDrag ? mStyle.inactiveNoDrop : mStyle.inactive, lPlace);
+        look.bNumber = lUsability == vxPlaceInactive;
+        look.bGrayed = true;
+        return look;
     }
-    if (lUsability != vxPlaceActive) return {};
-
     const auto oModule = oPlace->Module();
-    if (!oModule->IsEmpty()) return {mModulePictures.KeyOf(*oModule, mStyle.moduleDefault)};
-    if (!bDrag) return {PlaceKey(mStyle.active, lPlace)};
-    return {PlaceKey(mContext.DragDropCtrl()->IsDropPlace(oPlace) ? mStyle.drop : mStyle.noDrop, lPlace)};
+    look.bModule = !oModule->IsEmpty();
+    // A drag leaves modules alone, but for the frame around their places.
+    const bool bAsk = bDrag && (!look.bModule || !mStyle.placeFrameDrop.empty());
+    look.bDrop = bAsk && mContext.DragDropCtrl()->IsDropPlace(oPlace);
+    if (look.bModule) look.key = mModulePictures.KeyOf(*oModule, mStyle.moduleDefault);
+    else if (!bDrag) look.key = PlaceKey(mStyle.active, lPlace);
+    else look.key = PlaceKey(look.bDrop ? mStyle.drop : mStyle.noDrop, lPlace);
+    return look;
 }
 
 void PlacePainter::DrawNumber(Surface& surface, const Look& look, std::int32_t lNumber, Point placeAt) const

@@ -27,11 +27,14 @@ private:
         std::string key;
         bool bNumber = true;
         bool bGrayed = false;
+        bool bModule = false;
+        bool bDrop = false;
     };
 
     /// The key of a place picture, which closes the rail at its end.
     std::string PlaceKey(std::string_view key, std::int32_t lPlace) const;
     Look LookOf(const VxHWRackPlacePtr& oPlace);
+    void DrawContent(Surface& surface, const Look& look, Point placeAt, bool bSelected);
     void DrawNumber(Surface& surface, const Look& look, std::int32_t lNumber, Point placeAt) const;
     Point PlaceAt(const VxHWRackPlace& oPlace) const;
 

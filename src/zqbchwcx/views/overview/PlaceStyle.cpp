@@ -40,9 +40,11 @@ constexpr std::array<std::string_view, 28> CentralKeys{
 
 } // namespace
 
+const PictureStrip G_CentralPictures{
+    "IDB_CRX_ALL", {CentralPlaceLayout::PlaceWidth, CentralPlaceLayout::PlaceHeight}, CentralKeys};
+
 const PlaceStyle G_CentralPlaceStyle{
     .place = {CentralPlaceLayout::PlaceWidth, CentralPlaceLayout::PlaceHeight},
-    .pictures = {"IDB_CRX_ALL", CentralPlaceLayout::PlaceWidth, CentralKeys},
     .active = "IDB_CRX_PLACE_ACTIVE",
     .inactive = "IDB_CRX_PLACE_INACTIVE",
     .drop = "IDB_CRX_PLACE_DROP",
@@ -50,6 +52,7 @@ const PlaceStyle G_CentralPlaceStyle{
     .inactiveNoDrop = "IDB_CRX_PLACE_INACTIVE_NODROP",
     .moduleDefault = "IDB_CRX_MODULE_DEFAULT",
     .lEndPlace = CentralPlaceLayout::PlaceCount,
+    .bNumberBelowPicture = true,
     .frameLeft = "IDB_CRX_FRAME_LEFT",
     .frameMid = "IDB_CRX_FRAME_MID",
     .frameRight = "IDB_CRX_FRAME_RIGHT",

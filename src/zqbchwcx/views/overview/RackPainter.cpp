@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view RailKey = "IDB_CRX_RACK";
 constexpr std::array<std::string_view, 1> RailKeys{RailKey};
-constexpr std::int32_t RailWidth = 218;
+constexpr Size RailSize{218, 62};
 constexpr std::int32_t RailLeft = 11;
 constexpr std::int32_t RailTop = 29;
 constexpr Point TileOffset{12, 30};
@@ -28,7 +28,7 @@ constexpr std::int32_t GapLineErasedHeight = 47;
 
 void RackPainter::Load(TextModule& textModule)
 {
-    moImages = LoadStrip(textModule, {RailKey, RailWidth, RailKeys});
+    moImages = LoadStrip(textModule, {RailKey, RailSize, RailKeys});
 }
 
 void RackPainter::DrawEmpty()

@@ -37,12 +37,19 @@ void TableContent::InitializeGrid() noexcept
         ResetColumns();
         mColumnStore.ReadSettings(P_GetParamName());
         mColumnStore.Apply(grid);
-        grid.RowCount(mRows.RowCount());
-        const std::int32_t lNumberColumn = grid.ColumnIndex(ColumnKey::RackPlace);
-        if (lNumberColumn == 0) return;
-        for (std::int32_t lRow = 1; lRow <= mRows.RowCount(); ++lRow)
-            grid.CellText({lRow, lNumberColumn}, std::to_string(mRows.PlaceOf(lRow)));
+        InitializeRows();
     });
+}
+
+void TableContent::InitializeRows()
+{
+    auto& grid = Grid();
+    grid.RowCount(0);
+    grid.RowCount(mRows.RowCount());
+    const std::int32_t lNumberColumn = grid.ColumnIndex(ColumnKey::RackPlace);
+    if (lNumberColumn == 0) return;
+    for (std::int32_t lRow = 1; lRow <= mRows.RowCount(); ++lRow)
+        grid.CellText({lRow, lNumberColumn}, std::to_string(mRows.PlaceOf(lRow)));
 }
 
 void TableContent::ResetColumns()
@@ -112,7 +119,11 @@ void TableContent::ShowFocus(const PositionInfo& previous)
     if (lRow == 0 || Grid().ColumnCount() == 0) return;
     const GridCell current = Grid().CurrentCell();
     if (current.lRow != lRow) Grid().CurrentCell({lRow, std::max(current.lColumn, 1)}, false);
-    Grid().MakeRowVisible(lRow);
+}
+
+void TableContent::P_EnsureVisibleFocus()
+{
+    if (const std::int32_t lRow = RowOf(G_PositionInfo(mContext.FocusPosition()))) Grid().MakeRowVisible(lRow);
 }
 
 VxHWRackPlacePtr TableContent::PlaceOfRow(std::int32_t lRow) const
@@ -131,7 +142,7 @@ std::int32_t TableContent::PositionOfRow(std::int32_t lRow) const
 std::int32_t TableContent::RowOf(const PositionInfo& position) const
 {
     const bool bHasRow = position.eType == vxPositionPlace || position.eType == vxPositionGap;
-    return bHasRow && position.lRack == mlRack ? mRows.RowOf(G_PlaceNumberAt(position)) : 0;
+    return bHasRow && position.lRack == mlRack ? mRows.RowFor(G_PlaceNumberAt(position)) : 0;
 }
 
 ColumnSet TableContent::Columns() const
@@ -165,10 +176,11 @@ bool TableContent::IsSelected(std::int32_t lPlace) const
 
 void TableContent::MarkGap(const PositionInfo& gap, bool bMarked)
 {
-    const std::int32_t lPlace = G_PlaceNumberAt(gap);
+    const std::int32_t lRow = RowOf(gap);
+    const std::int32_t lPlace = mRows.PlaceOf(lRow);
     if (!mabSelected.Contains(gap.lRack, lPlace)) return;
     mabSelected.Set(gap.lRack, lPlace, bMarked);
-    if (const std::int32_t lRow = RowOf(gap)) Grid().RowSelected(lRow, bMarked);
+    Grid().RowSelected(lRow, bMarked);
 }
 
 } // namespace zqbchwcx

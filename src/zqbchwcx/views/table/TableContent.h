@@ -35,6 +35,8 @@ public:
     /// The columns of the style, as the user left them, over empty rows.
     void InitializeGrid() noexcept;
     void ResetColumns();
+    /// As many empty rows as the row map has, with the numbers of their places.
+    void InitializeRows();
     /// The background by the lock and the display mode of the station.
     void SetBackColor() noexcept;
 
@@ -51,11 +53,13 @@ public:
     void ShowSelection();
     /// The current cell, and the mark of a gap that has the focus while nothing is selected.
     void ShowFocus(const PositionInfo& previous);
+    void P_EnsureVisibleFocus();
 
     VxHWRackPlacePtr PlaceOfRow(std::int32_t lRow) const;
     /// The position of the place that the row shows; no position for another row.
     std::int32_t PositionOfRow(std::int32_t lRow) const;
-    /// The row that stands for the position; 0 for none. A gap stands for the place that it follows.
+    /// The row that stands for the position; 0 for none. A gap stands for the place that it follows, and a place
+    /// without a row for the next one that has a row.
     std::int32_t RowOf(const PositionInfo& position) const;
 
 private:

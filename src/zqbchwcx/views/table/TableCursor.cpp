@@ -7,6 +7,19 @@
 #include "zqbchwcx/platform/Input.h"
 
 namespace zqbchwcx {
+namespace {
+
+/// The next code in steps of a place that stands for a place that is shown: the place itself, or the gap before it.
+std::optional<std::int32_t> P_GetAvailablePosIndex(const ShownPlaces& shown, std::int32_t lCode, std::int32_t lStep)
+{
+    for (std::int32_t lNext = lCode + lStep;; lNext += lStep) {
+        const std::int32_t lPlace = (lNext + 1) / 2;
+        if (lPlace < 1 || lPlace > shown.PlaceCount()) return {};
+        if (shown.IndexOf(lPlace) != 0) return lNext;
+    }
+}
+
+} // namespace
 
 std::optional<std::int32_t> G_CentralTableCursorTarget(const VxHWStation& oStation, std::int32_t lFocus,
                                                        std::int16_t nKeyCode, std::int16_t nShift)
@@ -34,6 +47,28 @@ std::optional<std::int32_t> G_CentralTableCursorTarget(const VxHWStation& oStati
         const bool bNextPresent = lRack + 1 < oRacks->Count() && oRacks->Item(lRack + 1)->State() == vxRackPresent;
         return target(bNextPresent, lRack + 1, lCode);
     }
+    default:
+        return {};
+    }
+}
+
+std::optional<std::int32_t> G_ShownTableCursorTarget(const ShownPlaces& shown, std::int32_t lFocus,
+                                                     std::int16_t nKeyCode, std::int16_t nShift)
+{
+    if (lFocus < 0 || lFocus >= vxRackFactor) return {};
+    const bool bToTheEnd = (nShift & (vxShiftMask | vxCtrlMask)) != 0;
+    if (!bToTheEnd && nShift != 0) return {};
+    const std::int32_t lFirst = G_PlacePosition(0, shown.NumberAt(1));
+    const std::int32_t lLast = G_PlacePosition(0, shown.LastNumber());
+    switch (nKeyCode) {
+    case vxKeyUp:
+        return P_GetAvailablePosIndex(shown, lFocus, -2);
+    case vxKeyDown:
+        return P_GetAvailablePosIndex(shown, lFocus, 2);
+    case vxKeyLeft:
+        return bToTheEnd && lFocus > lFirst && shown.Count() > 0 ? std::optional(lFirst) : std::nullopt;
+    case vxKeyRight:
+        return bToTheEnd && lFocus < lLast ? std::optional(lLast) : std::nullopt;
     default:
         return {};
     }
