@@ -58,6 +58,14 @@ private:
     Positions mPositions;
 };
 
+/// The window of the whole view; the picture may lie in another one within it.
+const QWidget& ControlOf(const PictureBoxWidget& box)
+{
+    const QWidget* control = box.parentWidget();
+    while (const auto* outer = qobject_cast<const ControlWidget*>(control->parentWidget())) control = outer;
+    return *control;
+}
+
 Positions RacksOf(const AccessibleOverview& overview)
 {
     const auto items = overview.Items();
@@ -102,7 +110,7 @@ public:
     QRect rect() const override
     {
         const Rect rect = Item().rect;
-        const QWidget& control = *mOverview.Box().parentWidget();
+        const QWidget& control = ControlOf(mOverview.Box());
         return {control.mapToGlobal(QPoint(rect.left, rect.top)), QSize(rect.width(), rect.height())};
     }
     QAccessible::State state() const override

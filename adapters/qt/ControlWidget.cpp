@@ -3,6 +3,7 @@
 #include "zqbchwcx/qt/GridWidget.h"
 #include "zqbchwcx/qt/InputTranslation.h"
 #include "zqbchwcx/qt/PictureBoxWidget.h"
+#include "zqbchwcx/qt/ScrollButtonWidget.h"
 #include "zqbchwcx/qt/ShapeWidget.h"
 #include "zqbchwcx/qt/SystemColors.h"
 #include "zqbchwcx/qt/TabStripWidget.h"
@@ -12,6 +13,8 @@
 #include <QPainter>
 #include <QPalette>
 #include <QResizeEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -45,6 +48,28 @@ bool IsOwnKey(const QKeyEvent& event)
     }
 }
 
+/// Windows that draw themselves on whatever they are shown.
+bool DrawsItself(const QWidget& widget)
+{
+    return qobject_cast<const GridWidget*>(&widget) != nullptr ||
+           qobject_cast<const TabStripWidget*>(&widget) != nullptr ||
+           qobject_cast<const ScrollButtonWidget*>(&widget) != nullptr ||
+           qobject_cast<const QScrollBar*>(&widget) != nullptr;
+}
+
+/// The picture box that lies lowest in the control or in a control in it.
+PictureBoxWidget* LowestPictureBox(const QWidget& control)
+{
+    const auto& children = control.children();
+    for (QObject* child : children) {
+        if (auto* box = qobject_cast<PictureBoxWidget*>(child)) return box;
+        const auto* inner = qobject_cast<const ControlWidget*>(child);
+        auto* box = inner != nullptr ? LowestPictureBox(*inner) : nullptr;
+        if (box != nullptr) return box;
+    }
+    return nullptr;
+}
+
 /// Draws the visible child windows, lowest first, with the origin at the control's corner. `offset` is the control's
 /// own corner in the picture, in logical pixels.
 void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& control, QPoint offset)
@@ -59,14 +84,18 @@ void PaintWindows(QPainter& painter, const PixelGrid& grid, const QWidget& contr
         } else if (const auto* shape = qobject_cast<const ShapeWidget*>(widget)) {
             shape->Paint(painter, grid.Device(MakeRect(corner.x(), corner.y(), shape->width(), shape->height())),
                          grid.Ratio());
-        } else if (qobject_cast<GridWidget*>(widget) != nullptr || qobject_cast<TabStripWidget*>(widget) != nullptr) {
-            // They draw themselves on whatever they are shown.
+        } else if (DrawsItself(*widget)) {
             painter.save();
             painter.scale(grid.Ratio(), grid.Ratio());
             widget->render(&painter, corner);
             painter.restore();
         } else if (!widget->isWindow()) {
+            // A control shows of its children what lies in it.
+            painter.save();
+            painter.setClipRect(grid.Device(MakeRect(corner.x(), corner.y(), widget->width(), widget->height())),
+                                Qt::IntersectClip);
             PaintWindows(painter, grid, *widget, corner);
+            painter.restore();
         }
     }
 }
@@ -108,7 +137,7 @@ void ControlWidget::ResizeNow(QSize size)
 
 QColor ControlWidget::BackgroundColor() const
 {
-    auto* box = findChild<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    auto* box = LowestPictureBox(*this);
     return box != nullptr ? box->Picture().Background() : ToQColor(vxColorWindowBackground).value_or(Qt::white);
 }
 
@@ -147,6 +176,10 @@ void ControlWidget::SetRatio(double ratio)
 {
     if (ratio == mRatio) return;
     mRatio = ratio;
+    for (auto* control : findChildren<ControlWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        control->mbRatioOverridden = mbRatioOverridden;
+        control->SetRatio(ratio);
+    }
     for (auto* box : findChildren<PictureBoxWidget*>(QString(), Qt::FindDirectChildrenOnly))
         box->Picture().Ratio(ratio);
     emit AppearanceChanged();
@@ -168,6 +201,7 @@ void ControlWidget::changeEvent(QEvent* event)
         emit AppearanceChanged();
         update();
     }
+    if (event->type() == QEvent::StyleChange) emit MetricsChanged();
 }
 
 void ControlWidget::paintEvent(QPaintEvent* /*event*/)
@@ -188,18 +222,26 @@ void ControlWidget::showEvent(QShowEvent* /*event*/)
     FollowRatio();
 }
 
+void ControlWidget::wheelEvent(QWheelEvent* event)
+{
+    constexpr float Notch = 120;
+    const auto notches = static_cast<float>(event->angleDelta().y()) / Notch;
+    event->setAccepted(mReceiver != nullptr && mReceiver->MouseWheel(notches));
+}
+
 void ControlWidget::keyPressEvent(QKeyEvent* event)
 {
+    if (mReceiver == nullptr) return event->ignore();
     const std::int16_t nKeyCode = ToKeyCode(event->key());
-    if (mReceiver != nullptr && nKeyCode != 0) mReceiver->KeyDown(nKeyCode, ToShift(event->modifiers()));
+    if (nKeyCode != 0) mReceiver->KeyDown(nKeyCode, ToShift(event->modifiers()));
     event->setAccepted(IsOwnKey(*event));
 }
 
 void ControlWidget::keyReleaseEvent(QKeyEvent* event)
 {
+    if (mReceiver == nullptr) return event->ignore();
     const std::int16_t nKeyCode = ToKeyCode(event->key());
-    if (mReceiver != nullptr && nKeyCode != 0 && !event->isAutoRepeat())
-        mReceiver->KeyUp(nKeyCode, ToShift(event->modifiers()));
+    if (nKeyCode != 0 && !event->isAutoRepeat()) mReceiver->KeyUp(nKeyCode, ToShift(event->modifiers()));
     event->setAccepted(IsOwnKey(*event));
 }
 
@@ -228,10 +270,8 @@ void ControlWidget::dragLeaveEvent(QDragLeaveEvent* /*event*/)
 
 void ControlWidget::dropEvent(QDropEvent* event)
 {
-    // Nothing is dropped between the picture boxes: for the views the drag leaves.
-    mDropTarget.Leave(DragOverHandler());
-    event->setDropAction(Qt::IgnoreAction);
-    event->ignore();
+    // Nothing is dropped between the picture boxes.
+    mDropTarget.Refuse(*event, DragOverHandler());
 }
 
 } // namespace zqbchwcx::qt

@@ -12,7 +12,7 @@ namespace zqbchwcx::qt {
 class PictureBoxWidget;
 
 /// The window that a view lives in: tells its receiver of keys, sizes and drags outside the picture boxes. Without a
-/// receiver it lets the mouse and drags through.
+/// receiver it lets the mouse, drags and keys through.
 class ControlWidget : public QWidget {
     Q_OBJECT
 public:
@@ -28,7 +28,7 @@ public:
     const QFont& TextFont() const { return mFont; }
     /// Resizes, and tells the receiver at once even while it is hidden.
     void ResizeNow(QSize size);
-    /// The colour between and around the child windows.
+    /// The colour between and around the child windows: that of the lowest picture box.
     QColor BackgroundColor() const;
     /// The control and its children as a picture, at the ratio that was asked for last.
     QImage ToImage() const;
@@ -41,6 +41,8 @@ public:
 signals:
     /// The system colours or the ratio of device pixels have changed.
     void AppearanceChanged();
+    /// The sizes of scroll bars and the like have changed.
+    void MetricsChanged();
 
 protected:
     bool event(QEvent* event) override;
@@ -48,6 +50,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;

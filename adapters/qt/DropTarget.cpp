@@ -54,6 +54,13 @@ void DropTarget::Drop(QDropEvent& event, const Handler& drop)
     if (event.dropAction() == Qt::IgnoreAction) event.ignore();
 }
 
+void DropTarget::Refuse(QDropEvent& event, const Handler& over)
+{
+    Leave(over);
+    event.setDropAction(Qt::IgnoreAction);
+    event.ignore();
+}
+
 DragOverEvent DropTarget::Translate(const QDropEvent& event, std::int16_t nState)
 {
     const QPointF at = ToPixel(event.position());

@@ -35,6 +35,8 @@ public:
     void Move(QDragMoveEvent& event, const Handler& over);
     void Leave(const Handler& over);
     void Drop(QDropEvent& event, const Handler& drop);
+    /// Nothing can be dropped there: for the views the drag leaves.
+    void Refuse(QDropEvent& event, const Handler& over);
 
 private:
     DragOverEvent Translate(const QDropEvent& event, std::int16_t nState);

@@ -209,6 +209,8 @@ void PersistentPicture::DrawImage(const Image& image, Point at, DrawStyle style)
     const QColor& highlight = Translate(vxColorHighlight);
     const QImage& pixels = dynamic_cast<const QtImage&>(image).At(at, mGrid, style, highlight);
     const QPoint corner(mGrid.Edge(at.x), mGrid.Edge(at.y));
+    if (style == DrawStyle::Opaque || style == DrawStyle::OpaqueBlended)
+        Painter().fillRect(QRect(corner, pixels.size()), mBackground);
     Painter().drawImage(corner, pixels);
     Changed(QRect(corner, pixels.size()));
 }

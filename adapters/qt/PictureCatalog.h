@@ -15,6 +15,8 @@ class PictureCatalog : public ImageListFactory {
 public:
     ImageListPtr Create(std::intptr_t hInstance, std::string_view stripName, std::int32_t lCellWidth,
                         std::int32_t lReserved, OleColor maskColor, std::int32_t lFlags) override;
+    ImageListPtr CreateEmpty(Size cell, OleColor maskColor) override;
+    void AddStrip(ImageList& list, std::intptr_t hInstance, std::string_view stripName) override;
 
     /// The picture of that name, a cell of a strip included. Throws VxError when there is none.
     QtImagePtr Picture(std::string_view name);

@@ -23,7 +23,7 @@ std::vector<int> WithBorders(std::vector<int> cuts, int extent)
 
 bool IsBlended(DrawStyle style)
 {
-    return style == DrawStyle::Blended || style == DrawStyle::TransparentBlended;
+    return style == DrawStyle::Blended || style == DrawStyle::TransparentBlended || style == DrawStyle::OpaqueBlended;
 }
 
 void HardenEdges(QImage& image)

@@ -3,13 +3,15 @@
 #include "zqbchwcx/foundation/VxError.h"
 #include "zqbchwcx/qt/ImageFile.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace zqbchwcx::qt {
 
-QtImageList::QtImageList(std::int32_t lCellWidth, std::vector<QtImagePtr> cells)
-    : mlCellWidth(lCellWidth), mcolCells(std::move(cells))
+void QtImageList::Append(std::vector<QtImagePtr> cells)
 {
+    std::move(cells.begin(), cells.end(), std::back_inserter(mcolCells));
 }
 
 std::int32_t QtImageList::Count() const

@@ -11,13 +11,15 @@ namespace zqbchwcx::qt {
 /// An image list whose images are vector pictures or picture files.
 class QtImageList : public ImageList {
 public:
-    QtImageList(std::int32_t lCellWidth, std::vector<QtImagePtr> cells);
+    explicit QtImageList(std::int32_t lCellWidth) : mlCellWidth(lCellWidth) {}
 
     std::int32_t Count() const override;
     void Key(std::int32_t lIndex, std::string_view key) override;
     bool Contains(std::string_view key) const override;
     bool AddFile(std::string_view path, std::string_view key) override;
 
+    void Append(std::vector<QtImagePtr> cells);
+    std::int32_t CellWidth() const { return mlCellWidth; }
     /// Throws VxError when the list has no image of that key.
     const QtImage& Image(std::string_view key) const;
 

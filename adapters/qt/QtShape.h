@@ -7,7 +7,8 @@
 
 namespace zqbchwcx::qt {
 
-/// A shape or a frame, as the views see it: `Interface` is Shape or Frame. Its window ends with it.
+/// A shape, or what a frame shares with one, as the views see it: `Interface` is Shape or Frame. Its window ends with
+/// it.
 template <class Interface>
 class QtShape : public Interface {
 public:
@@ -34,8 +35,18 @@ public:
         if (mWidget) mWidget->Slope(lRightHeight);
     }
 
-private:
+protected:
     QPointer<ShapeWidget> mWidget;
+};
+
+class QtFrame : public QtShape<Frame> {
+public:
+    using QtShape::QtShape;
+
+    void BackColor(OleColor color) override
+    {
+        if (mWidget) mWidget->Color(color);
+    }
 };
 
 } // namespace zqbchwcx::qt

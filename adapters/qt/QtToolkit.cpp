@@ -3,10 +3,12 @@
 #include "zqbchwcx/foundation/VxError.h"
 #include "zqbchwcx/qt/ControlWidget.h"
 #include "zqbchwcx/qt/PlainText.h"
+#include "zqbchwcx/qt/QtButton.h"
 #include "zqbchwcx/qt/QtGrid.h"
 #include "zqbchwcx/qt/QtPictureBox.h"
 #include "zqbchwcx/qt/QtPopupForm.h"
 #include "zqbchwcx/qt/QtPopupMenu.h"
+#include "zqbchwcx/qt/QtScrollBar.h"
 #include "zqbchwcx/qt/QtShape.h"
 #include "zqbchwcx/qt/QtSysInfo.h"
 #include "zqbchwcx/qt/QtTabStrip.h"
@@ -27,12 +29,23 @@ ControlWidget& WindowOf(UserControl& control)
     return *widget;
 }
 
-template <class Interface>
-std::unique_ptr<Interface> MakeShape(UserControl& parent, std::string_view name, const Rect& rect, OleColor color)
+template <class Made>
+std::unique_ptr<Made> MakeShape(UserControl& parent, std::string_view name, const Rect& rect, OleColor color)
 {
     auto* window = new ShapeWidget(WindowOf(parent), ToQString(name), rect, color);
     window->show();
-    return std::make_unique<QtShape<Interface>>(*window);
+    return std::make_unique<Made>(*window);
+}
+
+/// The keyboard goes to the first window of a view that takes it, in controls within the view's control, too.
+void OfferFocus(ControlWidget& window, QWidget& first)
+{
+    QWidget* proxy = &first;
+    for (ControlWidget* control = &window; control != nullptr && control->focusProxy() == nullptr;
+         control = qobject_cast<ControlWidget*>(control->parentWidget())) {
+        control->setFocusProxy(proxy);
+        proxy = control;
+    }
 }
 
 } // namespace
@@ -44,7 +57,7 @@ PictureBoxPtr QtToolkit::CreatePictureBox(UserControl& parent, std::string_view 
     box->Picture().Font(window.TextFont());
     box->Picture().Ratio(window.Ratio());
     box->show();
-    if (window.focusProxy() == nullptr) window.setFocusProxy(box);
+    OfferFocus(window, *box);
     return std::make_unique<QtPictureBox>(*box);
 }
 
@@ -60,12 +73,30 @@ ChildControlPtr QtToolkit::CreateChildControl(UserControl& parent, std::string_v
 
 FramePtr QtToolkit::CreateFrame(UserControl& parent, std::string_view name, const Rect& rect)
 {
-    return MakeShape<Frame>(parent, name, rect, vxColorButtonShadow);
+    return MakeShape<QtFrame>(parent, name, rect, vxColorButtonShadow);
 }
 
 ShapePtr QtToolkit::CreateShape(UserControl& parent, std::string_view name, const Rect& rect)
 {
-    return MakeShape<Shape>(parent, name, rect, vxColorButtonText);
+    return MakeShape<QtShape<Shape>>(parent, name, rect, vxColorButtonText);
+}
+
+ScrollBarPtr QtToolkit::CreateScrollBar(UserControl& parent, std::string_view name, const Rect& rect)
+{
+    auto* bar = new QScrollBar(Qt::Vertical, &WindowOf(parent));
+    bar->setObjectName(ToQString(name));
+    bar->setFocusPolicy(Qt::NoFocus);
+    auto scrollBar = std::make_unique<QtScrollBar>(*bar);
+    scrollBar->Move(rect);
+    bar->show();
+    return scrollBar;
+}
+
+ButtonPtr QtToolkit::CreateButton(UserControl& parent, std::string_view name, const Rect& rect, ButtonArrow eArrow)
+{
+    auto* button = new ScrollButtonWidget(WindowOf(parent), ToQString(name), rect, eArrow);
+    button->show();
+    return std::make_unique<QtButton>(*button);
 }
 
 PopupMenuPtr QtToolkit::CreatePopupMenu(UserControl& parent, std::string_view name)
@@ -79,7 +110,7 @@ GridPtr QtToolkit::CreateGrid(UserControl& parent, std::string_view name, const 
     auto* grid = new GridWidget(window, ToQString(name), rect);
     grid->TextFont(window.TextFont());
     grid->show();
-    if (window.focusProxy() == nullptr) window.setFocusProxy(grid);
+    OfferFocus(window, *grid);
     return std::make_unique<QtGrid>(*grid);
 }
 

@@ -15,6 +15,8 @@ public:
     ChildControlPtr CreateChildControl(UserControl& parent, std::string_view name, const Rect& rect) override;
     FramePtr CreateFrame(UserControl& parent, std::string_view name, const Rect& rect) override;
     ShapePtr CreateShape(UserControl& parent, std::string_view name, const Rect& rect) override;
+    ScrollBarPtr CreateScrollBar(UserControl& parent, std::string_view name, const Rect& rect) override;
+    ButtonPtr CreateButton(UserControl& parent, std::string_view name, const Rect& rect, ButtonArrow eArrow) override;
     PopupMenuPtr CreatePopupMenu(UserControl& parent, std::string_view name) override;
     GridPtr CreateGrid(UserControl& parent, std::string_view name, const Rect& rect) override;
     TabStripPtr CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect,

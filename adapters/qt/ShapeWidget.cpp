@@ -25,7 +25,15 @@ QColor ShapeWidget::FillColor() const
     while (control != nullptr && qobject_cast<const ControlWidget*>(control->parentWidget()) != nullptr)
         control = control->parentWidget();
     const auto* outermost = qobject_cast<const ControlWidget*>(control);
+    // Not a mark: what a button lies in.
+    if (mColor == vxColorButtonFace) return palette().color(QPalette::Button);
     return ReadableOn(mColor, outermost != nullptr ? outermost->BackgroundColor() : palette().color(QPalette::Base));
+}
+
+void ShapeWidget::Color(OleColor color)
+{
+    mColor = color;
+    update();
 }
 
 void ShapeWidget::Slope(int rightHeight)

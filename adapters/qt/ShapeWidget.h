@@ -17,6 +17,7 @@ class ShapeWidget : public QWidget {
 public:
     ShapeWidget(QWidget& parent, const QString& name, const Rect& rect, OleColor color);
 
+    void Color(OleColor color);
     /// Makes it a slope that is this high at its right end, in logical pixels.
     void Slope(int rightHeight);
     /// Fills the area, which stands for the window in device pixels: with the slope, or wholly where the ratio leaves

@@ -1,5 +1,6 @@
 #include "app/export/PaperShape.h"
 
+#include "app/export/PaperColors.h"
 #include "app/export/PaperSite.h"
 
 #include <QPainter>
@@ -9,6 +10,11 @@ namespace quillon_ed {
 PaperShape::PaperShape(PaperSite& site, const zqbchwcx::Rect& rect, const QColor& color)
     : PaperItem(&site), mRect(rect), mColor(color)
 {
+}
+
+void PaperShape::BackColor(zqbchwcx::OleColor color)
+{
+    mColor = PaperColor(color);
 }
 
 void PaperShape::Paint(QPainter& painter) const

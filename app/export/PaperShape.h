@@ -18,6 +18,7 @@ public:
     void Move(const zqbchwcx::Rect& rect) override { mRect = rect; }
     bool Visible() const override { return mbVisible; }
     void Visible(bool bVisible) override { mbVisible = bVisible; }
+    void BackColor(zqbchwcx::OleColor color) override;
 
 private:
     zqbchwcx::Rect mRect;

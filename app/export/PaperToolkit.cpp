@@ -39,6 +39,31 @@ private:
 class PaperSysInfo : public SysInfo {
 public:
     void OnSysColorsChanged(std::function<void()> /*handler*/) override {}
+    void OnSettingChanged(std::function<void(std::int32_t)> /*handler*/) override {}
+    std::int32_t ScrollBarSize() const override { return 0; }
+};
+
+/// Nothing scrolls on paper: bars and buttons are not seen.
+class PaperScrollBar : public ScrollBar {
+public:
+    void Events(ScrollBarEvents* /*receiver*/) override {}
+    void Range(std::int32_t /*lMaximum*/, std::int32_t /*lPage*/) override {}
+    std::int32_t Value() const override { return 0; }
+    void Value(std::int32_t /*lValue*/) override {}
+    void Move(const Rect& /*rect*/) override {}
+    bool Visible() const override { return false; }
+    void Visible(bool /*bVisible*/) override {}
+};
+
+class PaperButton : public Button {
+public:
+    void Events(ButtonEvents* /*receiver*/) override {}
+    bool Pressed() const override { return false; }
+    void Pressed(bool /*bPressed*/) override {}
+    void ArrowColor(OleColor /*color*/) override {}
+    void Move(const Rect& /*rect*/) override {}
+    bool Visible() const override { return false; }
+    void Visible(bool /*bVisible*/) override {}
 };
 
 class PaperTimer : public Timer {
@@ -87,6 +112,17 @@ FramePtr PaperToolkit::CreateFrame(UserControl& parent, std::string_view /*name*
 ShapePtr PaperToolkit::CreateShape(UserControl& parent, std::string_view /*name*/, const Rect& rect)
 {
     return std::make_unique<PaperShape>(SiteOf(parent), rect, PaperColor(vxColorButtonText));
+}
+
+ScrollBarPtr PaperToolkit::CreateScrollBar(UserControl& /*parent*/, std::string_view /*name*/, const Rect& /*rect*/)
+{
+    return std::make_unique<PaperScrollBar>();
+}
+
+ButtonPtr PaperToolkit::CreateButton(UserControl& /*parent*/, std::string_view /*name*/, const Rect& /*rect*/,
+                                     ButtonArrow /*eArrow*/)
+{
+    return std::make_unique<PaperButton>();
 }
 
 PopupMenuPtr PaperToolkit::CreatePopupMenu(UserControl& /*parent*/, std::string_view /*name*/)

@@ -22,6 +22,10 @@ public:
                                    const zqbchwcx::Rect& rect) override;
     zqbchwcx::ShapePtr CreateShape(zqbchwcx::UserControl& parent, std::string_view name,
                                    const zqbchwcx::Rect& rect) override;
+    zqbchwcx::ScrollBarPtr CreateScrollBar(zqbchwcx::UserControl& parent, std::string_view name,
+                                           const zqbchwcx::Rect& rect) override;
+    zqbchwcx::ButtonPtr CreateButton(zqbchwcx::UserControl& parent, std::string_view name, const zqbchwcx::Rect& rect,
+                                     zqbchwcx::ButtonArrow eArrow) override;
     zqbchwcx::PopupMenuPtr CreatePopupMenu(zqbchwcx::UserControl& parent, std::string_view name) override;
     zqbchwcx::GridPtr CreateGrid(zqbchwcx::UserControl& parent, std::string_view name,
                                  const zqbchwcx::Rect& rect) override;

@@ -102,7 +102,7 @@ protected:
     }
 
     QTemporaryDir mDirectory;
-    qt::QtImageList mList{18, {}};
+    qt::QtImageList mList{18};
 };
 
 TEST_F(PictureFiles, bitmapsLoadWithCyanTransparentAndStayCrisp)

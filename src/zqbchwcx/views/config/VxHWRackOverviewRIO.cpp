@@ -16,6 +16,7 @@ namespace {
 constexpr std::string_view ClassName = "VxHWRackOverviewRIO";
 
 constexpr std::int32_t UsualBarWidth = 13;
+constexpr std::int32_t UsualVisibleRows = 4;
 constexpr Rect ViewportRect = MakeRect(UsualBarWidth, 14, 289, 386);
 constexpr Rect PictureRect = MakeRect(0, 0, 217, 386);
 constexpr Size MinimumSize{230, 414};
@@ -86,10 +87,15 @@ void VxHWRackOverviewRIO::PositionByCoordinates(std::int32_t X, std::int32_t Y, 
     });
 }
 
-Size VxHWRackOverviewRIO::WholeSize() const noexcept
+void VxHWRackOverviewRIO::ShowAllRows(bool bShow) noexcept
 {
-    const std::int32_t lMoreRows = std::max(mLayout.RowCount() - RowScroller::VisibleRows, 0);
-    return {MinimumSize.width, MinimumSize.height + lMoreRows * RowsLayout::RowHeight};
+    mbShowAllRows = bShow;
+    G_Trap(ClassName, "ShowAllRows", [&] { P_InitView(false); });
+}
+
+std::int32_t VxHWRackOverviewRIO::VisibleRows() const
+{
+    return mbShowAllRows ? std::max(mLayout.RowCount(), UsualVisibleRows) : UsualVisibleRows;
 }
 
 void VxHWRackOverviewRIO::RackTableTopRow(std::int32_t lTopRow) noexcept
@@ -141,7 +147,8 @@ void VxHWRackOverviewRIO::P_InitPlacePositions()
 
 void VxHWRackOverviewRIO::P_InitView(bool bFromTop)
 {
-    mScroller.Rows(mLayout.RowCount(), bFromTop);
+    mScroller.Rows(mLayout.RowCount(), VisibleRows(), bFromTop);
+    Resize();
 }
 
 void VxHWRackOverviewRIO::Refresh() noexcept
@@ -194,7 +201,9 @@ void VxHWRackOverviewRIO::Resize() noexcept
     G_Trap(ClassName, "UserControl_Resize", [&] {
         // A wider bar takes nothing from the picture.
         const std::int32_t lWider = mlBarWidth - UsualBarWidth;
-        const Size size = KeepMinimumSize({MinimumSize.width + std::max(lWider, 0), MinimumSize.height});
+        const std::int32_t lMoreRows = VisibleRows() - UsualVisibleRows;
+        const Size size = KeepMinimumSize(
+            {MinimumSize.width + std::max(lWider, 0), MinimumSize.height + lMoreRows * RowsLayout::RowHeight});
         mScroller.Place(mlBarWidth, size.width);
         mArrow.Cover({lWider, 0, size.width, size.height});
     });

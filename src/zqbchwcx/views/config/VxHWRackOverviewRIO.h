@@ -26,8 +26,10 @@ public:
     void CoordinatesByPosition(std::int32_t lPosition, std::int32_t& X, std::int32_t& Y) const noexcept;
     /// The position under the point, given in logical pixels of the control; -1 for none.
     void PositionByCoordinates(std::int32_t X, std::int32_t Y, std::int32_t& lPosition) const noexcept;
-    /// How large the control would be if it showed all rows, in logical pixels.
-    Size WholeSize() const noexcept;
+    /// Whether all rows are shown, as for a picture of the station, and nothing scrolls. The control then is as high as
+    /// they need; otherwise as four rows.
+    bool ShowAllRows() const noexcept { return mbShowAllRows; }
+    void ShowAllRows(bool bShow) noexcept;
 
     // For the arrow: what the table beside the view shows.
     /// Its topmost row, from 1; 0 for a table that does not scroll.
@@ -55,11 +57,13 @@ private:
     OverviewKind DistributedKind();
     void P_InitPlacePositions();
     void P_InitView(bool bFromTop);
+    std::int32_t VisibleRows() const;
     std::optional<std::int32_t> TableRow(const PositionInfo& place) const;
     void sysinf_Main_SettingChanged(std::int32_t lSetting) noexcept;
 
     RowScroller mScroller;
     std::int32_t mlBarWidth;
+    bool mbShowAllRows = false;
     std::int32_t mlTableTopRow = 0;
     std::int32_t mlTableRowsInView = 0;
 };

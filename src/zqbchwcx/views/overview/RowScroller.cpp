@@ -48,7 +48,7 @@ ScrollButton::Actions RowScroller::ActionsOf(Direction eDirection)
 
 void RowScroller::Create(Toolkit& toolkit, UserControl& oControl)
 {
-    const std::int32_t lViewport = VisibleRows * mlRowHeight + Margin;
+    const std::int32_t lViewport = ViewportHeight();
     mlPictureWidth = mCanvas.Box().ScaleSize().width;
     mUp.Create(toolkit, oControl, MakeRect(BarWidth, 0, ButtonWidth, ButtonHeight));
     mscbMain = toolkit.CreateScrollBar(oControl, "scb_Main", MakeRect(0, ButtonHeight, BarWidth, lViewport));
@@ -69,33 +69,39 @@ Timer& RowScroller::Clock() const
     return *G_Require(mtmrScroll, "The timer of the scroll buttons");
 }
 
-void RowScroller::Rows(std::int32_t lRows, bool bFromTop)
+void RowScroller::Rows(std::int32_t lRows, std::int32_t lVisibleRows, bool bFromTop)
 {
     EndRepeating();
     mlRows = lRows;
+    mlVisibleRows = lVisibleRows;
     mNotches = 0;
-    const bool bScrolls = lRows > VisibleRows;
-    Bar().Range(std::max(lRows - VisibleRows, 0), VisibleRows);
+    const bool bScrolls = lRows > mlVisibleRows;
+    Bar().Range(std::max(lRows - mlVisibleRows, 0), mlVisibleRows);
     Bar().Visible(bScrolls);
     mUp.Visible(bScrolls);
     mDown.Visible(bScrolls);
-    mState.Maximum(lRows - VisibleRows);
+    mState.Maximum(lRows - mlVisibleRows);
     if (bFromTop) mState.Value(0);
     P_Scroll();
 }
 
 void RowScroller::Place(std::int32_t lBarWidth, std::int32_t lControlWidth)
 {
-    const std::int32_t lViewport = VisibleRows * mlRowHeight + Margin;
+    const std::int32_t lViewport = ViewportHeight();
     Bar().Move(MakeRect(0, ButtonHeight, lBarWidth, lViewport));
     mUp.Move(MakeRect(lBarWidth, 0, ButtonWidth, ButtonHeight));
     mDown.Move(MakeRect(lBarWidth, ButtonHeight + lViewport, ButtonWidth, ButtonHeight));
     mCanvas.MoveViewport({lBarWidth, ButtonHeight, std::max(lControlWidth, lBarWidth), ButtonHeight + lViewport});
 }
 
+std::int32_t RowScroller::ViewportHeight() const
+{
+    return mlVisibleRows * mlRowHeight + Margin;
+}
+
 Rect RowScroller::PictureRect() const
 {
-    const std::int32_t lRows = std::max(mlRows, VisibleRows);
+    const std::int32_t lRows = std::max(mlRows, mlVisibleRows);
     return MakeRect(0, -FirstRow() * mlRowHeight, mlPictureWidth, lRows * mlRowHeight + Margin);
 }
 
@@ -124,7 +130,7 @@ bool RowScroller::CanScroll(Direction eDirection) const
 void RowScroller::EnsureVisible(std::int32_t lRow)
 {
     if (lRow < FirstRow()) mState.Value(lRow);
-    else if (lRow >= FirstRow() + VisibleRows) mState.Value(lRow - VisibleRows + 1);
+    else if (lRow >= FirstRow() + mlVisibleRows) mState.Value(lRow - mlVisibleRows + 1);
 }
 
 bool RowScroller::Wheel(float notches)
@@ -184,7 +190,7 @@ void RowScroller::tmr_Scroll_Timer() noexcept
 void RowScroller::FollowBand(std::optional<Point> at)
 {
     const std::int32_t lTop = FirstRow() * mlRowHeight;
-    const std::int32_t lViewport = VisibleRows * mlRowHeight + Margin;
+    const std::int32_t lViewport = ViewportHeight();
     const bool bAbove = at && at->y < lTop;
     const bool bBelow = at && at->y >= lTop + lViewport;
     if (at) mBandEnd = {at->x, at->y - lTop};

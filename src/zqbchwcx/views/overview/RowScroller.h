@@ -14,11 +14,9 @@
 namespace zqbchwcx {
 
 /// Scrolls the picture of an overview by rows: with a bar, two buttons, the wheel, and by itself where a rubber band
-/// leaves the viewport. The viewport shows four rows; where there are no more, neither bar nor buttons are shown.
+/// leaves the viewport. Where all rows are in the viewport, neither bar nor buttons are shown.
 class RowScroller : private ScrollBarEvents {
 public:
-    static constexpr std::int32_t VisibleRows = 4;
-
     struct Handlers {
         std::function<void()> scrolled;        ///< another row is the first
         std::function<void(Point)> extendBand; ///< the rubber band reaches to that point of the picture now
@@ -33,13 +31,14 @@ public:
 
     /// Makes the buttons and the bar. The picture is there already.
     void Create(Toolkit& toolkit, UserControl& oControl);
-    /// The picture has that many rows; the first one is shown if it is another station's.
-    void Rows(std::int32_t lRows, bool bFromTop);
+    /// The picture has that many rows, of which the viewport shows so many. From the top: the first one, as for another
+    /// station.
+    void Rows(std::int32_t lRows, std::int32_t lVisibleRows, bool bFromTop);
     /// The bar's width moves everything else; the viewport ends at the control's right edge. Logical pixels.
     void Place(std::int32_t lBarWidth, std::int32_t lControlWidth);
 
     std::int32_t FirstRow() const { return mState.Value(); }
-    bool IsVisible(std::int32_t lRow) const { return lRow >= FirstRow() && lRow < FirstRow() + VisibleRows; }
+    bool IsVisible(std::int32_t lRow) const { return lRow >= FirstRow() && lRow < FirstRow() + mlVisibleRows; }
     void EnsureVisible(std::int32_t lRow);
     /// False when there is no row in that direction.
     bool Wheel(float notches);
@@ -70,6 +69,7 @@ private:
     ScrollButton& ButtonOf(Direction eDirection) { return eDirection == Direction::Up ? mUp : mDown; }
     ScrollButton::Actions ActionsOf(Direction eDirection);
     Rect PictureRect() const;
+    std::int32_t ViewportHeight() const;
     void MarkTargets(bool bDrag);
     ScrollBar& Bar() const;
     Timer& Clock() const;
@@ -85,6 +85,7 @@ private:
     ScrollBarPtr mscbMain;
     TimerPtr mtmrScroll;
     std::int32_t mlRows = 0;
+    std::int32_t mlVisibleRows = 4;
     std::int32_t mlPictureWidth = 0;
     Repeating meRepeating = Repeating::No;
     Direction meDirection = Direction::Down;

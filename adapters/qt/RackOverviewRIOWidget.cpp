@@ -1,0 +1,30 @@
+#include "zqbchwcx/qt/RackOverviewRIOWidget.h"
+
+#include "zqbchwcx/qt/HostedView.h"
+#include "zqbchwcx/views/config/VxHWRackOverviewRIO.h"
+
+namespace zqbchwcx::qt {
+namespace {
+
+constexpr QSize SmallestSize(230, 414);
+/// The rows and, right of them, the way of the arrow with its head.
+constexpr QSize ComfortableSize(230 + 28, 414);
+
+} // namespace
+
+RackOverviewRIOWidget::RackOverviewRIOWidget(QWidget* parent)
+    : OverviewWidget(parent, QStringLiteral("rackOverviewRIO"), SmallestSize, ComfortableSize),
+      moView(MakeView<VxHWRackOverviewRIO>(Window()))
+{
+    Begin();
+    Connect(moView, QStringLiteral("pic_Scroll"));
+}
+
+RackOverviewRIOWidget::~RackOverviewRIOWidget() = default;
+
+void RackOverviewRIOWidget::RetranslateUi()
+{
+    Name(tr("Station overview"), tr("Places of the station with their modules; the arrow keys move the focus"));
+}
+
+} // namespace zqbchwcx::qt
