@@ -216,14 +216,16 @@ def self_contained():
     star = [path("M11 17.6L6.6 25H15.4Z", "none", NAVY, 1.2),
             *[circle(x, y, 1.9, NAVY) for x, y in ((11, 17.6), (6.6, 25), (15.4, 25))]]
     wave = [path("M5.6 22C7 16.6 9.4 16.6 11 22S15 27.4 16.4 22", "none", GREEN_DARK, 1.8)]
-    bolt = [path("M12.6 15.8L6.8 22.6H10.2L9 28.2L15.2 20.8H11.6Z", AMBER, AMBER_DARK, 0.7)]
+    # A value that goes out, and a reader's waves.
+    steps = [path("M5.4 25.6H8.4V22H11.4V18.6H16.6M14.2 16.2L16.6 18.6L14.2 21", "none", GREEN_DARK, 1.7)]
+    waves = [circle(11, 26, 1.5, TEAL_DARK), path("M8 23.4A4.4 4.4 0 0 1 14 23.4M6 20.4A7.6 7.6 0 0 1 16 20.4", "none", TEAL, 1.6)]
     empty = [rect(0, 0, WIDTH, HEIGHT, "#E4E8EC"), rect(0, 0, 1, HEIGHT, "#F6F8F9"), rect(21, 0, 1, HEIGHT, "#B4BEC8"),
              rect(0, 0, WIDTH, 1, "#C4CCD4"), rect(0, 71, WIDTH, 1, "#B4BEC8")]
 
     def hollow(color):
         return [path(BODY, "none", color, 1),
                 *[part for y in (4.6, 67.4) for part in (circle(11, y, 2, color), circle(11, y, 1.1, "#5A6875"))],
-                path("M11 15V57M4 36H18", "none", color, 0.8)]
+                path("M11 31V41M6 36H16", "none", color, 1)]
 
     def coloured(ground, edge, ring, *parts):
         return place(rect(0, 0, WIDTH, HEIGHT, edge), rect(1, 1, 20, 70, ground), *hollow(ring), *parts)
@@ -237,11 +239,8 @@ def self_contained():
         "IDB_RIOB_MODULE_GAMMA": box(BLUE, BLUE_DARK, *sockets("#62B4EC")),
         "IDB_RIOB_MODULE_DELTA": box(BLUE, BLUE_DARK, *pairs("#62B4EC")),
         "IDB_RIOB_MODULE_EPSILON": box(GREEN, GREEN_DARK, *plate(*wave), *sockets("#4CC489", 3, 36.5, 11)),
-        "IDB_RIOB_MODULE_ZETA": box(TEAL, TEAL_DARK,
-                                    rect(4, 16, 14, 34, "#1D252D", 1), rect(5, 17, 12, 32, "#2E3B46", 0.7),
-                                    path("M6.5 21H11V26H15.5M6.5 33H15.5M13.3 30.8L15.5 33L13.3 35.2", "none", "#7FE0D6", 1.3),
-                                    *leds(41, [LED_GREEN, LED_OFF, LED_AMBER], 6.6, 3.6), *m12(11, 57.5, "#5CC9BF")),
-        "IDB_RIOB_MODULE_ETA": box(AMBER, AMBER_DARK, *plate(*bolt), *m12(11, 41, "#F3C05C", 5), *m12(11, 56, "#F3C05C", 5)),
+        "IDB_RIOB_MODULE_ZETA": box(GREEN, GREEN_DARK, *plate(*steps), *sockets("#4CC489", 3, 36.5, 11)),
+        "IDB_RIOB_MODULE_ETA": box(TEAL, TEAL_DARK, *plate(*waves), *m12(11, 41, "#5CC9BF", 5), *m12(11, 56, "#5CC9BF", 5)),
         "IDB_RIOB_PLACESTART_ACTIVE": svg(1, HEIGHT, rect(0, 0, 1, HEIGHT, "#B4BEC8")),
     }
 

@@ -163,9 +163,7 @@ void CataloguePanel::ShowType()
 
 QString CataloguePanel::Hint() const
 {
-    return mlStationKind == zqbchwcx::vxStationKindCentral
-               ? tr("Drag a module onto a place, or double-click it to insert it at the focus.")
-               : tr("Double-click a module to insert it at the place that the list has selected.");
+    return tr("Drag a module onto a place, or double-click it to insert it at the focus.");
 }
 
 void CataloguePanel::Choose()

@@ -41,9 +41,6 @@ int RunRender(const CommandLine& line, const CommandStreams& streams)
 
         const std::string& file = line.files[0];
         StationData data = LoadStation(file, services.Catalogue()).data;
-        if (data.kind != zqbchwcx::vxStationKindCentral)
-            throw FileError(file, "/kind", "the views show central stations, and this one is distributed",
-                            "die Ansichten zeigen zentrale Stationen, und diese ist dezentral");
         const PictureContent content{line.view, line.rack.value_or(0)};
         if (const auto reason = AgainstContent(data, content)) {
             Complain(streams.err, file + ": " + reason->In(LanguageOf(line)));

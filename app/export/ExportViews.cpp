@@ -5,10 +5,7 @@
 #include "app/export/ShowStation.h"
 #include "app/export/WriteBytes.h"
 #include "zqbchwcx/qt/PixelGrid.h"
-#include "zqbchwcx/qt/RackOverviewWidget.h"
-#include "zqbchwcx/qt/RackTableWidget.h"
 #include "zqbchwcx/reference/json/FileError.h"
-#include "zqbchwcx/views/config/VxHWRackOverview.h"
 #include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 
 #include <QApplication>
@@ -44,10 +41,8 @@ QByteArray PngOf(const reference::StationPtr& station, const PictureContent& con
         painter.drawImage(grid.Edge(rect.left()), grid.Edge(rect.top()), pixels);
     };
     if (content.HasOverview()) {
-        qt::RackOverviewWidget overview;
-        overview.resize(layout.Overview().size());
-        ShowStation(*overview.Control(), station, selection);
-        draw(layout.Overview(), overview.RenderToImage(scale));
+        const auto overview = MakeOverview(station, selection, layout.Overview().size());
+        draw(layout.Overview(), overview->RenderToImage(scale));
     }
     if (content.HasTable())
         draw(layout.Table(), MakeTable(station, content.rack, selection, layout.Table().size())->RenderToImage(scale));
@@ -122,7 +117,8 @@ std::optional<reference::LocalizedText> AgainstContent(const reference::StationD
 {
     if (!content.HasTable()) return {};
     const std::string number = std::to_string(content.rack);
-    const auto shown = std::min<std::size_t>(station.racks.size(), CentralPlaceLayout::RackCount);
+    const std::size_t most = station.kind == vxStationKindCentral ? CentralPlaceLayout::RackCount : 1;
+    const std::size_t shown = std::min(station.racks.size(), most);
     if (content.rack < 0 || static_cast<std::size_t>(content.rack) >= shown) {
         const std::string last = std::to_string(shown - 1);
         return reference::LocalizedText{"there is no rack " + number + " in the table; its racks are 0 to " + last,

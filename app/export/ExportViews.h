@@ -15,7 +15,7 @@ enum class PictureFormat { Png, Svg, Pdf };
 /// The format that the file name's ending says; nothing for any other ending.
 std::optional<PictureFormat> PictureFormatOf(const QString& fileName);
 
-/// Draws views of a central station into the file, replacing it in one step: pixels with that many device pixels to a
+/// Draws views of a station into the file, replacing it in one step: pixels with that many device pixels to a
 /// logical one (PNG), a vector picture (SVG), or a page with a header (PDF; vectors). What the views leave out of the
 /// station stands below them. The content's rack is one that `AgainstContent` has nothing against.
 /// Throws FileError when the file name has another ending or the file cannot be written; it is then as it was.

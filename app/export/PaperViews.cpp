@@ -4,8 +4,8 @@
 #include "app/export/PaperToolkit.h"
 #include "app/export/ShowStation.h"
 #include "zqbchwcx/foundation/ServiceRoot.h"
-#include "zqbchwcx/qt/RackTableWidget.h"
-#include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/qt/TableWidget.h"
+#include "zqbchwcx/views/overview/OverviewControl.h"
 
 #include <QPainter>
 
@@ -42,8 +42,7 @@ PaperViews::PaperViews(const reference::StationPtr& station, const PictureConten
         const PaperBracket paper;
         const QSize size = mLayout.Overview().size();
         moSite = std::make_unique<PaperSite>(nullptr, MakeRect(0, 0, size.width(), size.height()));
-        moOverview = std::make_unique<VxHWRackOverview>(*moSite);
-        ShowStation(*moOverview, station, selection);
+        moOverview = MakeOverview(*moSite, station, selection);
     }
     if (content.HasTable()) {
         // A grid has its own way of being painted on any device.

@@ -11,17 +11,17 @@
 class QPainter;
 
 namespace zqbchwcx {
-class VxHWRackOverview;
+class OverviewControl;
 }
 namespace zqbchwcx::qt {
-class RackTableWidget;
+class TableWidget;
 }
 
 namespace quillon_ed {
 
 class PaperSite;
 
-/// Views of a central station on paper: in vectors, on white. What they leave out stands below them.
+/// Views of a station on paper: in vectors, on white, with all their rows. What they leave out stands below them.
 ///
 /// Needs the service root of the screen, whose pictures it uses; a table also has the screen's palette. Shows the
 /// station as it was at the creation or at a later change of the station.
@@ -37,8 +37,8 @@ public:
 private:
     PictureLayout mLayout;
     std::unique_ptr<PaperSite> moSite;
-    std::unique_ptr<zqbchwcx::VxHWRackOverview> moOverview;
-    std::unique_ptr<zqbchwcx::qt::RackTableWidget> moTable;
+    std::unique_ptr<zqbchwcx::OverviewControl> moOverview;
+    std::unique_ptr<zqbchwcx::qt::TableWidget> moTable;
 };
 
 } // namespace quillon_ed

@@ -1,6 +1,8 @@
 #include "app/export/PictureLayout.h"
 
 #include "app/export/PartShown.h"
+#include "zqbchwcx/views/config/VxHWRackTableRIO.h"
+#include "zqbchwcx/views/overview/RowsLayout.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,17 +11,39 @@ namespace quillon_ed {
 
 namespace {
 
-constexpr int OverviewHeight = 392;
 constexpr int ArrowedWidth = 262; ///< the racks, and room for the arrow to the table
 constexpr int TableWidth = 640;   ///< comments are read whole
-constexpr int TableHeight = 206;
+
+struct Heights {
+    int overview;
+    int table;
+};
+
+/// Of views that show all rows.
+Heights HeightsOf(const zqbchwcx::reference::Station& station)
+{
+    if (station.StationKind() == zqbchwcx::vxStationKindCentral) return {392, 206};
+    constexpr int usualRows = 4;
+    constexpr int usualOverview = 414;
+    constexpr int smallestTable = 200;
+    constexpr int tableRow = 15;
+    using zqbchwcx::RowsLayout;
+    const auto& all = station.Data().racks.front()->places;
+    const int places = static_cast<int>(std::count_if(
+        all.begin(), all.end(), [](const auto& place) { return place.usability != zqbchwcx::vxPlaceNotUsable; }));
+    const int rows = (places + RowsLayout::PlacesInRow - 1) / RowsLayout::PlacesInRow;
+    return {usualOverview + std::max(rows - usualRows, 0) * RowsLayout::RowHeight,
+            std::max(zqbchwcx::VxHWRackTableRIO::HeaderBottom + places * tableRow + 1, smallestTable)};
+}
 
 } // namespace
 
 PictureLayout::PictureLayout(const zqbchwcx::reference::Station& station, const PictureContent& content,
                              int overviewWidth)
-    : mOverview(0, 0, content.HasTable() ? ArrowedWidth : overviewWidth, content.HasOverview() ? OverviewHeight : 0),
-      mTable(content.HasOverview() ? mOverview.width() : 0, 0, content.HasTable() ? TableWidth : 0, TableHeight),
+    : mOverview(0, 0, content.HasTable() ? ArrowedWidth : overviewWidth,
+                content.HasOverview() ? HeightsOf(station).overview : 0),
+      mTable(content.HasOverview() ? mOverview.width() : 0, 0, content.HasTable() ? TableWidth : 0,
+             HeightsOf(station).table),
       mCaption(PartShownText(station, content), First().width())
 {
 }

@@ -9,7 +9,6 @@
 #include <QPrinter>
 
 #include <algorithm>
-#include <optional>
 
 namespace quillon_ed {
 
@@ -40,11 +39,8 @@ QByteArray PdfOf(const StationPages& pages, const QPrinter& printer, int first, 
 bool PrintStation(const reference::StationPtr& station, const PageHeader& header, QPrinter& printer)
 {
     StationPages pages(header, PageSizeOf(printer));
-    std::optional<PaperViews> overview;
-    if (station->StationKind() == vxStationKindCentral) {
-        overview.emplace(station);
-        pages.AddDrawing(overview->Size(), [&](QPainter& painter) { overview->Paint(painter); });
-    }
+    const PaperViews overview(station);
+    pages.AddDrawing(overview.Size(), [&](QPainter& painter) { overview.Paint(painter); });
     pages.AddTable(ModuleListTable(station->Data(), station->ModuleTypes(), station->Context()->CurrentLanguage()));
 
     const bool isRange = printer.printRange() == QPrinter::PageRange;

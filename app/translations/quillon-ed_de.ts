@@ -34,10 +34,6 @@
         <translation>Ziehen Sie eine Baugruppe auf einen Platz, oder fügen Sie sie mit einem Doppelklick am Fokus ein.</translation>
     </message>
     <message>
-        <source>Double-click a module to insert it at the place that the list has selected.</source>
-        <translation>Fügen Sie eine Baugruppe mit einem Doppelklick an dem Platz ein, der in der Liste gewählt ist.</translation>
-    </message>
-    <message>
         <source>Search name, order number, description</source>
         <translation>Name, Bestellnummer, Beschreibung suchen</translation>
     </message>
@@ -74,17 +70,6 @@
     <message>
         <source>Order number</source>
         <translation>Bestellnummer</translation>
-    </message>
-</context>
-<context>
-    <name>quillon_ed::DistributedNote</name>
-    <message>
-        <source>Distributed station</source>
-        <translation>Dezentrale Station</translation>
-    </message>
-    <message>
-        <source>Its picture is not part of this version yet. The list beside it shows every place: select one there, then insert modules from the catalogue, cut, copy, paste, delete or edit them.</source>
-        <translation>Ihr Bild gehört noch nicht zu dieser Version. Die Liste daneben zeigt jeden Platz: Wählen Sie dort einen aus, um Baugruppen aus dem Katalog einzufügen, auszuschneiden, zu kopieren, zu löschen oder zu bearbeiten.</translation>
     </message>
 </context>
 <context>
@@ -937,6 +922,17 @@
     </message>
 </context>
 <context>
+    <name>zqbchwcx::qt::RackOverviewRIOWidget</name>
+    <message>
+        <source>Station overview</source>
+        <translation>Stationsübersicht</translation>
+    </message>
+    <message>
+        <source>Places of the station with their modules; the arrow keys move the focus</source>
+        <translation>Plätze der Station mit ihren Baugruppen; die Pfeiltasten bewegen den Fokus</translation>
+    </message>
+</context>
+<context>
     <name>zqbchwcx::qt::RackOverviewWidget</name>
     <message>
         <source>Rack overview</source>
@@ -945,6 +941,17 @@
     <message>
         <source>Racks of the station with their places and modules; the arrow keys move the focus</source>
         <translation>Baugruppenträger der Station mit ihren Plätzen und Baugruppen; die Pfeiltasten bewegen den Fokus</translation>
+    </message>
+</context>
+<context>
+    <name>zqbchwcx::qt::RackTableRIOWidget</name>
+    <message>
+        <source>Station table</source>
+        <translation>Stationstabelle</translation>
+    </message>
+    <message>
+        <source>Places of the station with their modules and addresses; the arrow keys move the focus</source>
+        <translation>Plätze der Station mit ihren Baugruppen und Adressen; die Pfeiltasten bewegen den Fokus</translation>
     </message>
 </context>
 <context>

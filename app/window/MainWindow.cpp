@@ -367,7 +367,7 @@ void MainWindow::UpdateActions()
     moActions.editDelete.setEnabled(possible.bDelete);
     moActions.editPaste.setEnabled(possible.bPaste);
     moActions.editParameters.setEnabled(possible.bEditModuleParams);
-    moActions.exportPicture.setEnabled(document && document->Station()->StationKind() == vxStationKindCentral);
+    moActions.exportPicture.setEnabled(document != nullptr);
 }
 
 void MainWindow::ReadClipboard()

@@ -5,12 +5,15 @@
 #include "app/export/PartShown.h"
 #include "app/host/PlainText.h"
 #include "app/window/CellMessage.h"
-#include "app/window/DistributedNote.h"
 #include "app/window/ModuleList.h"
+#include "zqbchwcx/qt/RackOverviewRIOWidget.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
+#include "zqbchwcx/qt/RackTableRIOWidget.h"
 #include "zqbchwcx/qt/RackTableWidget.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
+#include "zqbchwcx/views/config/VxHWRackOverviewRIO.h"
 #include "zqbchwcx/views/config/VxHWRackTable.h"
+#include "zqbchwcx/views/config/VxHWRackTableRIO.h"
 #include "zqbchwcx/views/shared/QuietView.h"
 
 #include <QHBoxLayout>
@@ -31,7 +34,7 @@ namespace {
 constexpr int OverviewWidth = 256; // the racks, and room for the arrow to the list
 
 /// On a low screen the picture is seen in parts; what lies beside it for its arrow moves with it.
-QScrollArea* MakeScrollable(QWidget* content)
+QScrollArea* MakeScrollable(QWidget* content, bool bFromBelow)
 {
     auto* scroll = new QScrollArea;
     scroll->setWidgetResizable(true);
@@ -39,6 +42,7 @@ QScrollArea* MakeScrollable(QWidget* content)
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setFocusPolicy(Qt::NoFocus);
     scroll->setWidget(content);
+    if (!bFromBelow) return scroll;
     // The first rack is the lowest one.
     QScrollBar* bar = scroll->verticalScrollBar();
     QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
@@ -56,14 +60,21 @@ QWidget* SideBySide(QWidget* left, QWidget* table)
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(0);
     line->addWidget(left);
-    line->addWidget(table, 1, Qt::AlignTop);
+    // A table that scrolls is as high as the window allows.
+    const bool bGrows = table->sizePolicy().verticalPolicy() == QSizePolicy::Expanding;
+    line->addWidget(table, 1, bGrows ? Qt::Alignment() : Qt::AlignTop);
     return both;
 }
 
 /// Whether the table shows all racks and places of the station.
 bool HasTable(const reference::Station& station)
 {
-    return station.StationKind() == vxStationKindCentral && !PartShown(station.Data());
+    return !PartShown(station.Data());
+}
+
+bool IsCentral(const reference::Station& station)
+{
+    return station.StationKind() == vxStationKindCentral;
 }
 
 } // namespace
@@ -97,6 +108,7 @@ StationView::StationView(Document& document, QWidget* parent)
     const reference::StationPtr& station = document.Station();
     QWidget* left = MakeLeftSide();
     QWidget* table = HasTable(*station) ? MakeTable() : nullptr;
+    CoupleRows();
     moManager->Initialize(static_cast<VxEnumStationType>(station->StationKind()), moOverview, moTable, station);
     moHandler = moManager->VxHWSelectionHandler();
     moDragWatch = std::make_shared<DragWatch>(moTable->VxHWDragDropController(), moHandler);
@@ -112,12 +124,12 @@ StationView::StationView(Document& document, QWidget* parent)
     line->setSpacing(0);
     if (table) {
         // The table has its width; where the window leaves less, both are seen in parts.
-        moViews = MakeScrollable(SideBySide(left, table));
+        moViews = MakeScrollable(SideBySide(left, table), IsCentral(*station));
         moViews->setObjectName(QStringLiteral("stationViews"));
         moViews->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
         line->addWidget(moViews);
     } else {
-        QScrollArea* scroll = MakeScrollable(left);
+        QScrollArea* scroll = MakeScrollable(left, true);
         scroll->setFixedWidth(OverviewWidth);
         line->addWidget(scroll);
         line->addWidget(MakeList(), 1);
@@ -145,8 +157,8 @@ StationView::~StationView()
 QWidget* StationView::MakeLeftSide()
 {
     const reference::Station& station = *moDocument.Station();
-    if (station.StationKind() != vxStationKindCentral) return MakeNote();
-    QWidget* overview = MakeOverview();
+    if (!IsCentral(station)) return UseOverview(new qt::RackOverviewRIOWidget(this));
+    QWidget* overview = UseOverview(new qt::RackOverviewWidget(this));
     const QString part = PartShownText(station);
     if (part.isEmpty()) return overview;
     auto* left = new QWidget(this);
@@ -170,18 +182,12 @@ void StationView::TellPartShown()
     if (moPartShown) moPartShown->setText(PartShownText(*moDocument.Station()));
 }
 
-QWidget* StationView::MakeOverview()
+template <class Widget>
+QWidget* StationView::UseOverview(Widget* widget)
 {
-    auto* widget = new qt::RackOverviewWidget(this);
     moOverview = widget->Control();
     moOverviewWidget = widget;
     return widget;
-}
-
-QWidget* StationView::MakeNote()
-{
-    moOverview = std::make_shared<zqbchwcx::QuietView>();
-    return new DistributedNote(this);
 }
 
 bool StationView::eventFilter(QObject* watched, QEvent* event)
@@ -201,10 +207,30 @@ bool StationView::eventFilter(QObject* watched, QEvent* event)
 
 QWidget* StationView::MakeTable()
 {
-    auto* widget = new qt::RackTableWidget(this);
+    if (IsCentral(*moDocument.Station())) return UseTable(new qt::RackTableWidget(this));
+    return UseTable(new qt::RackTableRIOWidget(this));
+}
+
+template <class Widget>
+QWidget* StationView::UseTable(Widget* widget)
+{
     moTable = widget->Control();
-    connect(widget, &qt::RackTableWidget::editRefused, this, &StationView::TellRefusedEdit);
+    connect(widget, &qt::TableWidget::editRefused, this, &StationView::TellRefusedEdit);
     return widget;
+}
+
+void StationView::CoupleRows()
+{
+    const auto overview = std::dynamic_pointer_cast<VxHWRackOverviewRIO>(moOverview);
+    const auto table = std::dynamic_pointer_cast<VxHWRackTableRIO>(moTable);
+    if (!overview || !table) return;
+    const auto couple = [&overview = *overview, &table = *table] {
+        overview.RackTableTopRow(table.TopRow());
+        overview.RackTableRowsInView(table.RowsInView());
+    };
+    couple();
+    mcolConnections.push_back(table->TopRowChange.Connect(couple));
+    mcolConnections.push_back(table->RowsInViewChange.Connect(couple));
 }
 
 QWidget* StationView::MakeList()
@@ -239,8 +265,7 @@ int StationView::LackingWidth() const
 
 void StationView::FocusStation()
 {
-    if (moOverviewWidget) moOverviewWidget->setFocus();
-    else moList->setFocus();
+    moOverviewWidget->setFocus();
 }
 
 } // namespace quillon_ed

@@ -21,8 +21,8 @@ class CellMessage;
 class Document;
 class ModuleList;
 
-/// The views of one station, connected in configuration mode: the overview with the table beside it. A station that is
-/// larger than these show has the list of all its modules in place of the table, a distributed one the list only.
+/// The views of one station, connected in configuration mode: the overview with the table beside it. A central station
+/// that is larger than these show has the list of all its modules in place of the table.
 class StationView : public QWidget {
     Q_OBJECT
 
@@ -55,9 +55,13 @@ private:
 
     QWidget* MakeLeftSide();
     void TellPartShown();
-    QWidget* MakeOverview();
-    QWidget* MakeNote();
+    template <class Widget>
+    QWidget* UseOverview(Widget* widget);
     QWidget* MakeTable();
+    template <class Widget>
+    QWidget* UseTable(Widget* widget);
+    /// Where the table scrolls, the overview's arrow goes with its rows.
+    void CoupleRows();
     QWidget* MakeList();
     void TellRefusedEdit(const QString& value, const QRect& cellOnScreen);
 

@@ -290,6 +290,7 @@ TEST_F(MainWindowTest, ReloadsWhateverAnotherProgramHasPutIntoTheFile)
     write(":/examples/assembly-cell.station.json");
     reload();
     EXPECT_FALSE(window->findChild<QWidget*>(QStringLiteral("rackOverview"))) << "a distributed station";
+    EXPECT_TRUE(window->findChild<QWidget*>(QStringLiteral("rackOverviewRIO")));
 }
 
 TEST_F(MainWindowTest, AskedBeforeAFileThatCameBackIsOverwritten)

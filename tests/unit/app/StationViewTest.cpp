@@ -14,7 +14,11 @@
 #include "zqbchwcx/platform/Input.h"
 #include "zqbchwcx/qt/MimeDataObject.h"
 #include "zqbchwcx/qt/PositionText.h"
+#include "zqbchwcx/qt/RackOverviewRIOWidget.h"
+#include "zqbchwcx/qt/RackTableRIOWidget.h"
 #include "zqbchwcx/qt/RackTableWidget.h"
+#include "zqbchwcx/views/config/VxHWRackOverviewRIO.h"
+#include "zqbchwcx/views/config/VxHWRackTableRIO.h"
 
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -168,6 +172,29 @@ TEST_F(StationViewTest, WhatIsComposedIsSeenInTheCellAndCanBeGivenUp)
     compose(*editor, {}, QStringLiteral("40"));
     QTest::keyClick(editor, Qt::Key_Return);
     EXPECT_EQ(document->Station()->PlaceAt({0, 5})->Module()->InputAddressText(), "40");
+}
+
+TEST_F(StationViewTest, TheRowsOfADistributedStationsTableAndItsArrowGoTogether)
+{
+    view.reset();
+    reference::StationData data = OpenExample(":/examples/baggage-conveyor.station.json")->Station()->Data();
+    reference::RackData rack = *data.racks.front();
+    rack.places.resize(64);
+    data.racks.front() = std::make_shared<const reference::RackData>(rack);
+    document = MakeDocument(data);
+    view = std::make_unique<StationView>(*document, nullptr);
+    view->resize(900, 414);
+    view->show();
+    QCoreApplication::processEvents();
+    auto& overview = *view->findChild<qt::RackOverviewRIOWidget*>()->Control();
+    auto& table = *view->findChild<qt::RackTableRIOWidget*>()->Control();
+    EXPECT_EQ(overview.RackTableTopRow(), 1);
+    EXPECT_EQ(overview.RackTableRowsInView(), (414 - VxHWRackTableRIO::HeaderBottom) / 15);
+    Select({G_PlacePosition(0, 60)});
+    EXPECT_GT(table.TopRow(), 30);
+    EXPECT_EQ(overview.RackTableTopRow(), table.TopRow());
+    EXPECT_EQ(InsertModule(services, *document, *view, QStringLiteral("QT-DI08-A")), QString());
+    EXPECT_FALSE(IsEmpty(G_PlacePosition(0, 60)));
 }
 
 /// A station that is larger than the table has the list of its modules instead.

@@ -90,7 +90,11 @@ TEST_F(WindowSizeTest, ListsAndTabsFollowTheFontOfTheDesktop)
 {
     const testing::FontChange font(15);
     MainWindow window(services);
-    window.Files().OpenExample(QStringLiteral(":/examples/assembly-cell.station.json"));
+    // Larger than the overview: beside it stands the list.
+    WriteFile(Path("large.station.json"), R"({"format": "quillon-station", "version": 1, "name": "Large",
+        "kind": "central", "displayMode": 0, "readOnly": false,
+        "racks": [{"present": true, "placeCount": 12, "places": []}]})");
+    ASSERT_TRUE(window.Files().OpenFile(Path("large.station.json")));
     const auto* table = window.findChild<QTableView*>();
     for (const QWidget* widget :
          {static_cast<const QWidget*>(table), static_cast<const QWidget*>(window.findChild<QTabBar*>())})
