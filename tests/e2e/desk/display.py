@@ -36,9 +36,10 @@ class Display:
               "the window manager has started")
 
     def close(self):
-        for process in (self._manager, self._server):
-            process.terminate()
-            process.wait()
+        self._manager.kill()  # one that is asked to end while it starts may miss it
+        self._manager.wait()
+        self._server.terminate()
+        self._server.wait()
         self._framebuffer.close()
         shutil.rmtree(self._folder, ignore_errors=True)
 
