@@ -11,6 +11,9 @@
 namespace zqbchwcx::qt {
 namespace {
 
+/// Above and below a text, so that lines do not touch each other.
+constexpr int LineAir = 2;
+
 const ControlWidget* ControlOf(const PopupFormWidget& form)
 {
     return qobject_cast<const ControlWidget*>(form.parentWidget());
@@ -67,7 +70,7 @@ Size QtPopupForm::ScaleSize() const
 std::int32_t QtPopupForm::TextHeight() const
 {
     const ControlWidget* control = mWidget ? ControlOf(*mWidget) : nullptr;
-    return control != nullptr ? QFontMetrics(control->TextFont()).height() : 0;
+    return control != nullptr ? QFontMetrics(control->TextFont()).height() + LineAir : 0;
 }
 
 Rect QtPopupForm::WorkArea(Point onScreen) const

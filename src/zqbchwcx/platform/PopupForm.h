@@ -33,7 +33,7 @@ public:
     virtual void Tell(std::string_view text) = 0;
     virtual bool Visible() const = 0;
     virtual Size ScaleSize() const = 0;
-    /// The height of one line of text in the form's font.
+    /// The height of one line of text in the form's font, with what parts it from the next.
     virtual std::int32_t TextHeight() const = 0;
     /// The part of the screen, without task bars, that holds the point.
     virtual Rect WorkArea(Point onScreen) const = 0;

@@ -20,7 +20,7 @@ constexpr std::string_view ClassName = "frm_SubModules";
 constexpr std::int32_t FrameWidth = 1;
 constexpr std::int32_t SeparatorTop = 3;
 constexpr std::int32_t SeparatorBottom = 6;
-constexpr std::int32_t TextInset = 3;
+constexpr std::int32_t TextInset = 4; // as in the cells of the table
 
 bool IsButtonPress(std::int32_t lMessage)
 {
