@@ -13,8 +13,10 @@ from .waiting import until
 
 class Display:
     WIDTH, HEIGHT = 2080, 1000
+    DOUBLE_CLICK = 0.5  # seconds; longer than the toolkit's
 
     def __init__(self):
+        self._clicked, self._clicked_at = None, 0.0
         self._folder = tempfile.mkdtemp(prefix="quillon-display-")
         reading, writing = os.pipe()
         self._server = subprocess.Popen(
@@ -100,8 +102,12 @@ class Display:
         self.xdotool("mouseup", 1)
 
     def click(self, x, y):
+        """A click of its own: two at one point are no double click."""
+        if self._clicked == (x, y):
+            until(lambda: time.monotonic() - self._clicked_at > self.DOUBLE_CLICK, "the last click is over")
         self.move(x, y)
         self.xdotool("click", 1)
+        self._clicked, self._clicked_at = (x, y), time.monotonic()
 
     def keys(self, *names):
         self.xdotool("key", "--delay", 25, *names)
