@@ -398,7 +398,7 @@ TEST_F(OverviewInputTest, CompareTooltips)
 TEST_F(OverviewInputTest, WhatItShowsIsListedForThoseWhoDoNotSeeIt)
 {
     const OverviewItems& items = view->Items();
-    Put(0, 4, "IDB_CRX_MODULE_IO_DIGITAL");
+    station->Put(0, 4, "IO_DIGITAL");
     Select({{0, 4}});
     handler->FocusPosition(7);
     EXPECT_EQ(items.Racks(), (Positions{0, 1000, 2000, 3000}));

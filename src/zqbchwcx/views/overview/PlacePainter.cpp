@@ -93,6 +93,7 @@ void PlacePainter::DrawNumber(Surface& surface, const Look& look, std::int32_t l
 
 void PlacePainter::DrawGroupFrame(const VxHWRackPlacePtr& oPlace) noexcept
 {
+    if (mStyle.frameMid.empty()) return; // stations of this kind have no frames
     G_Trap(mContext.className, "P_DrawBorder", [&] {
         const auto oModule = oPlace->Module();
         const auto oParent = oModule->IndexInParent() >= 1
