@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/property/ViewVariant.h"
+#include "tests/support/ViewVariant.h"
 #include "tests/support/model/FakeModelServices.h"
 #include "tests/support/model/WatchedStation.h"
 #include "tests/support/services/TestServices.h"

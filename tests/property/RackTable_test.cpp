@@ -13,7 +13,8 @@ using ::testing::ElementsAre;
 
 constexpr OleColor GroupBackground = G_Rgb(246, 244, 186);
 
-class RackTable : public ::testing::Test {
+/// The table of any kind of station; expectations hold for a variant whose example is filled as `ViewVariant` says.
+class RackTable : public ::testing::TestWithParam<ViewVariant> {
 protected:
     ~RackTable() override { EXPECT_EQ(editor.WhatIsWrong(), ""); }
 
@@ -43,13 +44,15 @@ protected:
         grid.EndEditing(false);
     }
 
-    Editor editor{reference::ExampleStation("bottling-filler")};
+    Editor editor{reference::ExampleStation(GetParam().examples.front()), GetParam()};
     VxHWRackTable& table = dynamic_cast<VxHWRackTable&>(*editor.table);
     RecordingGrid& grid = editor.Grid();
     RecordingTabStrip& tabs = editor.Tabs();
 };
 
-TEST_F(RackTable, ShowsARowForEveryPlace)
+INSTANTIATE_TEST_SUITE_P(Every, RackTable, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
+
+TEST_P(RackTable, ShowsARowForEveryPlace)
 {
     EXPECT_THAT(grid.AllRows(),
                 ElementsAre("1|PS 24V/10A|Q3-PS10-A||| *", "2|CPU 340M|Q3-CP40-M|||", "3|IM 365 pair|Q3-IM65-P|||",
@@ -81,7 +84,7 @@ TEST_F(RackTable, ShowsARowForEveryPlace)
     EXPECT_EQ(grid.Text(4, "Comment"), "");
 }
 
-TEST_F(RackTable, ShowsWhatThePlacesUsabilitySays)
+TEST_P(RackTable, ShowsWhatThePlacesUsabilitySays)
 {
     struct Case {
         std::int32_t usability;
@@ -90,17 +93,13 @@ TEST_F(RackTable, ShowsWhatThePlacesUsabilitySays)
     };
     for (const Case& expected : {Case{-1, "", G_Rgb(192, 192, 192)}, Case{0, "8", G_Rgb(192, 192, 192)},
                                  Case{1, "8", vxColorWindowBackground}}) {
-        auto data = reference::ExampleStation("waterworks");
-        auto rack = std::make_shared<reference::RackData>(*data.racks[0]);
-        rack->places[7] = {expected.usability, nullptr};
-        data.racks[0] = rack;
-        Editor other(data);
-        EXPECT_EQ(other.Grid().Text(8, "RackPlace"), expected.number);
-        EXPECT_EQ(other.Grid().Look({8, 2}).backColor, expected.background);
+        editor.watched->ChangePlace(0, 8, [&](auto& place) { place = {expected.usability, nullptr}; });
+        EXPECT_EQ(grid.Text(8, "RackPlace"), expected.number);
+        EXPECT_EQ(grid.Look({8, 2}).backColor, expected.background);
     }
 }
 
-TEST_F(RackTable, KeepsTheColumnsAsTheUserLeftThem)
+TEST_P(RackTable, KeepsTheColumnsAsTheUserLeftThem)
 {
     const std::string parameter = "zqbvhwcx/HWConfig/GridLayoutCRX";
     const auto widths = [&] {
@@ -140,7 +139,7 @@ TEST_F(RackTable, KeepsTheColumnsAsTheUserLeftThem)
     }
 }
 
-TEST_F(RackTable, WritesAnEditedCell)
+TEST_P(RackTable, WritesAnEditedCell)
 {
     struct Case {
         const char* key;
@@ -192,7 +191,7 @@ TEST_F(RackTable, WritesAnEditedCell)
     }
 }
 
-TEST_F(RackTable, GivesTheEditorItsKeys)
+TEST_P(RackTable, GivesTheEditorItsKeys)
 {
     const GridCell comment = grid.Cell(4, "Comment");
     grid.Click(comment);
@@ -232,7 +231,7 @@ TEST_F(RackTable, GivesTheEditorItsKeys)
     grid.EndEditing(false);
 }
 
-TEST_F(RackTable, MovesTheFocusByKeys)
+TEST_P(RackTable, MovesTheFocusByKeys)
 {
     struct Case {
         std::int32_t from;
@@ -273,7 +272,7 @@ TEST_F(RackTable, MovesTheFocusByKeys)
     EXPECT_EQ(Selection(), "4 6 8 10 ");
 }
 
-TEST_F(RackTable, ShowsSelectionAndFocusedGap)
+TEST_P(RackTable, ShowsSelectionAndFocusedGap)
 {
     const auto selectedRows = [&] {
         std::string rows;
@@ -298,7 +297,7 @@ TEST_F(RackTable, ShowsSelectionAndFocusedGap)
     EXPECT_EQ(selectedRows(), "3 ");
 }
 
-TEST_F(RackTable, ChangesTheRackByItsTabs)
+TEST_P(RackTable, ChangesTheRackByItsTabs)
 {
     Select(4, 8);
     tabs.Hover(1);
@@ -326,7 +325,7 @@ TEST_F(RackTable, ChangesTheRackByItsTabs)
     EXPECT_EQ(table.ActiveRack(), 0);
 }
 
-TEST_F(RackTable, DragsFromTheUsersThreshold)
+TEST_P(RackTable, DragsFromTheUsersThreshold)
 {
     for (const auto& [moved, drags] :
          {std::pair{Point{3, 3}, 0}, {Point{4, 0}, 1}, {Point{0, -4}, 1}, {Point{-9, 9}, 1}}) {
@@ -346,7 +345,7 @@ TEST_F(RackTable, DragsFromTheUsersThreshold)
     EXPECT_EQ(grid.drags, 0);
 }
 
-TEST_F(RackTable, OpensTheMenuOfTheOverview)
+TEST_P(RackTable, OpensTheMenuOfTheOverview)
 {
     editor.TableMenu().choose = "pmnu_Delete";
     grid.Click({4, 2}, vxButtonRight);
@@ -370,7 +369,9 @@ protected:
     const std::string before = editor.Text();
 };
 
-TEST_F(SubModules, OpenUnderTheirColumns)
+INSTANTIATE_TEST_SUITE_P(Every, SubModules, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
+
+TEST_P(SubModules, OpenUnderTheirColumns)
 {
     grid.Click(button);
     ASSERT_TRUE(form.Visible());
@@ -395,7 +396,7 @@ TEST_F(SubModules, OpenUnderTheirColumns)
     EXPECT_EQ(form.rect.bottom, at.y + cell.top);
 }
 
-TEST_F(SubModules, CloseByEveryRule)
+TEST_P(SubModules, CloseByEveryRule)
 {
     struct Case {
         const char* what;
@@ -430,7 +431,7 @@ TEST_F(SubModules, CloseByEveryRule)
     }
 }
 
-TEST_F(SubModules, OpenTheirParameters)
+TEST_P(SubModules, OpenTheirParameters)
 {
     std::int32_t dialogs = 0;
     editor.parameters = [&](const reference::ModuleData&) { return ++dialogs, std::nullopt; };
@@ -449,7 +450,7 @@ TEST_F(SubModules, OpenTheirParameters)
     EXPECT_EQ(dialogs, 2);
 }
 
-TEST_F(RackTable, TellsTheDiagnosticState)
+TEST_P(RackTable, TellsTheDiagnosticState)
 {
     const auto diag = std::make_shared<FakeDiagService>(editor.log);
     table.VxHWStation(nullptr);

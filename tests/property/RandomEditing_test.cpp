@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cstdlib>
 #include <iostream>
 
@@ -27,11 +26,11 @@ std::string ToTheEnd(Editor& editor, bool (reference::History::*step)())
 }
 
 /// One editor and one user. Returns the number of events; stops at the first thing that is wrong.
-std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, std::int64_t events)
+std::int64_t UseAnEditor(const ViewVariant& variant, const char* example, std::uint32_t seed, std::int64_t events)
 {
-    SCOPED_TRACE(example + ", seed " + std::to_string(seed));
+    SCOPED_TRACE(std::string(example) + ", seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    Editor editor(reference::ExampleStation(example));
+    Editor editor(reference::ExampleStation(example), variant);
     const std::string first = editor.Text();
     std::int64_t changes = 0;
     const EventConnection counting = editor.history->Changed.Connect([&] { ++changes; });
@@ -62,18 +61,21 @@ std::int64_t UseAnEditor(const std::string& example, std::uint32_t seed, std::in
     return user.Events();
 }
 
-TEST(RandomEditing, KeepsTheRulesTheHistoryAndThePicture)
+class RandomEditing : public ::testing::TestWithParam<ViewVariant> {};
+INSTANTIATE_TEST_SUITE_P(Every, RandomEditing, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
+
+TEST_P(RandomEditing, KeepsTheRulesTheHistoryAndThePicture)
 {
     const auto seed = static_cast<std::uint32_t>(FromEnvironment("QUILLON_SEED", std::random_device()()));
     const std::int64_t wanted = FromEnvironment("QUILLON_EVENTS", 1'000'000);
     std::cout << "QUILLON_SEED=" << seed << " QUILLON_EVENTS=" << wanted << std::endl;
     RecordProperty("seed", std::to_string(seed));
 
-    constexpr std::array Examples{"waterworks", "packaging-line", "bottling-filler", "tank-farm"};
+    const auto& examples = GetParam().examples;
     const std::int64_t eventsPerEditor = wanted < EventsPerSession ? wanted / 4 : EventsPerSession;
     std::int64_t events = 0;
     for (std::uint32_t session = 0; events < wanted && !HasFailure(); ++session)
-        events += UseAnEditor(Examples[session % Examples.size()], seed + session, eventsPerEditor);
+        events += UseAnEditor(GetParam(), examples[session % examples.size()], seed + session, eventsPerEditor);
     std::cout << events << " events" << std::endl;
 }
 

@@ -15,7 +15,8 @@ using Lines = std::vector<std::string>;
 /// A station with eleven places in each rack, a handler that keeps its selection, and what else takes part in a mode.
 class StationStage {
 public:
-    explicit StationStage(std::size_t racks = 2) : station(MakeStation(EmptyStation(vxStationKindCentral, racks)))
+    explicit StationStage(const reference::StationData& plain = EmptyStation(vxStationKindCentral, 2))
+        : station(MakeStation(plain))
     {
         handler->VxHWStation(station);
         TakeLines();
