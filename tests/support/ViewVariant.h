@@ -6,6 +6,7 @@
 #include "zqbchwcx/platform/UserControl.h"
 #include "zqbchwcx/views/config/VxHWRackOverview.h"
 #include "zqbchwcx/views/config/VxHWRackTable.h"
+#include "zqbchwcx/views/overview/CentralPlaceLayout.h"
 #include "zqbchwcx/views/overview/PlaceStyle.h"
 
 #include <array>

@@ -429,7 +429,8 @@ TEST_F(CentralInput, TheKeyboardOpensTheMenuAtTheFocus)
 
 TEST_F(CentralInput, WhatItShowsIsListedForThoseWhoDoNotSeeIt)
 {
-    const OverviewItems& items = view->Items();
+    const auto& central = dynamic_cast<VxHWRackOverview&>(*view);
+    const OverviewItems& items = central.Items();
     station->Put(0, 4, "IO_DIGITAL");
     Select({{0, 4}});
     handler->FocusPosition(7);
@@ -442,8 +443,8 @@ TEST_F(CentralInput, WhatItShowsIsListedForThoseWhoDoNotSeeIt)
         for (const std::int32_t lPosition : within) {
             const OverviewItem item = items.At(lPosition);
             std::int32_t lThere = vxNoPosition;
-            view->PositionByCoordinates((item.rect.left + item.rect.right) / 2, (item.rect.top + item.rect.bottom) / 2,
-                                        lThere);
+            central.PositionByCoordinates((item.rect.left + item.rect.right) / 2,
+                                          (item.rect.top + item.rect.bottom) / 2, lThere);
             EXPECT_EQ(lThere, lPosition);
             if (item.bSelected) selected.push_back(lPosition);
             if (item.bFocused) focused.push_back(lPosition);
