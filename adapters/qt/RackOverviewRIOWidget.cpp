@@ -16,8 +16,8 @@ RackOverviewRIOWidget::RackOverviewRIOWidget(QWidget* parent)
     : OverviewWidget(parent, QStringLiteral("rackOverviewRIO"), SmallestSize, ComfortableSize),
       moView(MakeView<VxHWRackOverviewRIO>(Window()))
 {
-    Begin();
     Connect(moView, QStringLiteral("pic_Scroll"));
+    Begin(); // names what screen readers are told of by now
 }
 
 RackOverviewRIOWidget::~RackOverviewRIOWidget() = default;

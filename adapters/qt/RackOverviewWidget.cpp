@@ -16,8 +16,8 @@ RackOverviewWidget::RackOverviewWidget(QWidget* parent)
     : OverviewWidget(parent, QStringLiteral("rackOverview"), SmallestSize, ComfortableSize),
       moView(MakeView<VxHWRackOverview>(Window()))
 {
-    Begin();
     Connect(moView, QStringLiteral("pic_Main"));
+    Begin(); // names what screen readers are told of by now
 }
 
 RackOverviewWidget::~RackOverviewWidget() = default;
