@@ -32,8 +32,10 @@ public:
         mNumberPlate = ready("IDB_CRX_RACKNR_ACTIVE");
         for (std::int32_t lRack = 0; lRack < RackCount; ++lRack) {
             for (std::int32_t lPlace = 1; lPlace <= PlaceCount; ++lPlace)
-                mPlaces.push_back({QRect(25 + (lPlace - 1) * 18, (3 - lRack) * 92 + 30, 18, 60),
-                                   ready(stage.PictureOf(lRack, lPlace)), QString::number(lPlace)});
+                mPlaces.push_back(
+                    {QRect(25 + (lPlace - 1) * 18, (3 - lRack) * 92 + 30, 18, 60),
+                     ready(stage.PictureOf(lRack, lPlace, "IDB_CRX_PLACE_ACTIVE", "IDB_CRX_MODULE_DEFAULT")),
+                     QString::number(lPlace)});
         }
         mPicture.fill(Qt::white);
     }
