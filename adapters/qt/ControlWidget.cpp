@@ -112,8 +112,14 @@ ControlWidget::ControlWidget(QWidget* parent, Backdrop backdrop)
 void ControlWidget::Receiver(UserControlEvents* receiver)
 {
     mReceiver = receiver;
-    setAttribute(Qt::WA_TransparentForMouseEvents, receiver == nullptr);
+    setAttribute(Qt::WA_TransparentForMouseEvents, receiver == nullptr && !mbHoldsInput);
     setAcceptDrops(receiver != nullptr);
+}
+
+void ControlWidget::HoldsInput()
+{
+    mbHoldsInput = true;
+    Receiver(mReceiver);
 }
 
 void ControlWidget::TextFont(const QFont& font)

@@ -24,6 +24,8 @@ public:
     ControlWidget(QWidget* parent, Backdrop backdrop);
 
     void Receiver(UserControlEvents* receiver);
+    /// Without a receiver, too, the mouse goes to windows in this one.
+    void HoldsInput();
     void TextFont(const QFont& font);
     const QFont& TextFont() const { return mFont; }
     /// Resizes, and tells the receiver at once even while it is hidden.
@@ -65,6 +67,7 @@ private:
 
     Backdrop mBackdrop;
     UserControlEvents* mReceiver = nullptr;
+    bool mbHoldsInput = false;
     QFont mFont;
     DropTarget mDropTarget;
     double mRatio;

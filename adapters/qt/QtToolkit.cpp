@@ -54,6 +54,7 @@ PictureBoxPtr QtToolkit::CreatePictureBox(UserControl& parent, std::string_view 
 {
     ControlWidget& window = WindowOf(parent);
     auto* box = new PictureBoxWidget(window, ToQString(name), rect);
+    window.HoldsInput();
     box->Picture().Font(window.TextFont());
     box->Picture().Ratio(window.Ratio());
     box->show();

@@ -87,6 +87,14 @@ TEST_F(Input, whatHasNoReceiverLetsTheMouseThrough)
     mCover->Visible(false);
     EXPECT_FALSE(mCover->Visible());
     EXPECT_EQ(mControl.childAt(50, 10), Box());
+
+    const auto viewport = mToolkit.CreateChildControl(mSite, "pic_Back", MakeRect(20, 0, 60, 80));
+    EXPECT_EQ(mControl.childAt(50, 10), Box()) << "below an empty control";
+    auto inViewport = mToolkit.CreatePictureBox(*viewport, "pic_Scroll", MakeRect(0, 0, 50, 200));
+    EXPECT_NE(mControl.childAt(50, 10)->objectName(), "pic_Scroll");
+    inViewport->Events(&mBoxEvents);
+    EXPECT_EQ(mControl.childAt(50, 10)->objectName(), "pic_Scroll");
+    inViewport->Events(nullptr);
 }
 
 TEST_F(Input, keysReachTheControlAndArrowsDoNotLeaveIt)
