@@ -230,6 +230,8 @@ AccessibleOverview::AccessibleOverview(PictureBoxWidget& box, std::weak_ptr<cons
     // Once for all overviews; what is no view's window gets none of these.
     [[maybe_unused]] static const bool bInstalled = (QAccessible::installFactory(MakeInterface), true);
     box.installEventFilter(this);
+    // A screen reader that asked earlier, while the view was being made, was given a window without places.
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&box)));
 }
 
 AccessibleOverview::~AccessibleOverview()

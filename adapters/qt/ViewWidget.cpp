@@ -29,6 +29,8 @@ void ViewWidget::Name(const QString& name, const QString& description)
     setAccessibleDescription(description);
     QWidget* keyboard = mWindow.focusProxy();
     if (keyboard == nullptr) return;
+    // It may lie in a control within the view's control.
+    while (keyboard->focusProxy() != nullptr) keyboard = keyboard->focusProxy();
     keyboard->setAccessibleName(name);
     keyboard->setAccessibleDescription(description);
 }

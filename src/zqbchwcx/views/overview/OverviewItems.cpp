@@ -27,7 +27,7 @@ std::vector<std::int32_t> OverviewItems::Racks() const noexcept
     G_Trap(mContext.className, "P_GetShownRacks", [&] {
         if (!mContext.oStation) return;
         for (const auto& oRack : mContext.Station()->Racks())
-            if (mLayout.Shows(oRack->Number(), 1)) positions.push_back(G_RackPosition(oRack->Number()));
+            if (!ShownPlacesOf(oRack->Number()).empty()) positions.push_back(G_RackPosition(oRack->Number()));
     });
     return positions;
 }
@@ -37,9 +37,10 @@ std::vector<std::int32_t> OverviewItems::InRack(std::int32_t lRack) const noexce
     std::vector<std::int32_t> positions;
     G_Trap(mContext.className, "P_GetShownPlaces", [&] {
         if (!Shows({vxPositionRack, lRack, 0, 0})) return;
-        positions.push_back(G_GapPosition(lRack, 0));
-        const std::int32_t lCount = mContext.Station()->Racks()->Item(lRack)->Places()->Count();
-        for (std::int32_t lPlace = 1; lPlace <= lCount && mLayout.Shows(lRack, lPlace); ++lPlace) {
+        for (const std::int32_t lPlace : ShownPlacesOf(lRack)) {
+            // Between places that hidden ones part are two gaps.
+            const std::int32_t lGapBefore = G_GapPosition(lRack, lPlace - 1);
+            if (positions.empty() || positions.back() != lGapBefore) positions.push_back(lGapBefore);
             positions.push_back(G_PlacePosition(lRack, lPlace));
             positions.push_back(G_GapPosition(lRack, lPlace));
         }
@@ -82,7 +83,18 @@ std::string OverviewItems::DetailsAt(std::int32_t lPosition) const noexcept
 bool OverviewItems::Shows(const PositionInfo& position) const
 {
     if (!mContext.oStation || position.eType == vxPositionNone || !G_Exists(mContext.oStation, position)) return false;
-    return mLayout.Shows(position.lRack, std::max(position.lNumber, 1));
+    if (position.eType == vxPositionGap) return mLayout.ShowsGap(position.lRack, position.lNumber);
+    if (position.eType == vxPositionRack) return !ShownPlacesOf(position.lRack).empty();
+    return mLayout.Shows(position.lRack, position.lNumber);
+}
+
+std::vector<std::int32_t> OverviewItems::ShownPlacesOf(std::int32_t lRack) const
+{
+    std::vector<std::int32_t> places;
+    const std::int32_t lCount = G_RackByNumber(mContext.Station(), lRack)->Places()->Count();
+    for (std::int32_t lPlace = 1; lPlace <= lCount; ++lPlace)
+        if (mLayout.Shows(lRack, lPlace)) places.push_back(lPlace);
+    return places;
 }
 
 Rect OverviewItems::RectOf(const PositionDescription& what) const
@@ -101,8 +113,7 @@ Rect OverviewItems::RectOf(const PositionDescription& what) const
     case vxPositionRack: {
         const Point number = mLayout.PointOf(what.position);
         rect = {number.x, number.y, number.x + 1, number.y + 1};
-        for (std::int32_t lPlace = 1; lPlace <= what.lPlaceCount && mLayout.Shows(lRack, lPlace); ++lPlace)
-            rect = United(rect, mLayout.PlaceRect(lRack, lPlace));
+        for (const std::int32_t lPlace : ShownPlacesOf(lRack)) rect = United(rect, mLayout.PlaceRect(lRack, lPlace));
         break;
     }
     case vxPositionNone:

@@ -42,6 +42,8 @@ public:
 
 private:
     bool Shows(const PositionInfo& position) const;
+    /// Their numbers; none of a rack that the overview does not show.
+    std::vector<std::int32_t> ShownPlacesOf(std::int32_t lRack) const;
     Rect RectOf(const PositionDescription& what) const;
 
     const ViewContext& mContext;
