@@ -119,9 +119,15 @@ private:
     QRect mCell;
 };
 
+int GridDelegate::WidthFor(const QString& text) const
+{
+    // Rounded up: a text is shortened as soon as a part of a pixel is missing.
+    return static_cast<int>(std::ceil(QFontMetricsF(mFont).horizontalAdvance(text))) + 2 * Padding + 1;
+}
+
 bool GridDelegate::IsCutOff(const QString& text, int cellWidth) const
 {
-    return QFontMetrics(mFont).horizontalAdvance(text) > cellWidth - 1 - 2 * Padding;
+    return WidthFor(text) > cellWidth;
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -161,8 +167,7 @@ void GridDelegate::PaintHeader(QPainter& painter, const QRect& rect, const GridC
 QSize GridDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const
 {
     const QString& text = static_cast<const GridModel*>(index.model())->Content().Cell(GridModel::CellOf(index)).text;
-    const QFontMetrics metrics(mFont);
-    return {metrics.horizontalAdvance(text) + 2 * Padding + 1, metrics.height()};
+    return {WidthFor(text), QFontMetrics(mFont).height()};
 }
 
 } // namespace zqbchwcx::qt

@@ -28,6 +28,8 @@ public:
     const QFont& Font() const { return mFont; }
     GridMarks& Marks() { return mMarks; }
     GridColors& Colors() { return mColors; }
+    /// The logical width of a cell that shows all of the text.
+    int WidthFor(const QString& text) const;
     /// Whether the text is wider than what the cell, of that logical width, shows of it.
     bool IsCutOff(const QString& text, int cellWidth) const;
 

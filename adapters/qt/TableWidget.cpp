@@ -26,9 +26,12 @@ QImage TableWidget::RenderToImage(double scale)
     return Window().ToImage(size().expandedTo(minimumSizeHint()), scale);
 }
 
-void TableWidget::WidenColumns()
+void TableWidget::ArrangeForPicture()
 {
-    if (auto* grid = findChild<GridWidget*>()) grid->WidenColumns();
+    auto* grid = findChild<GridWidget*>();
+    if (grid == nullptr) return;
+    grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    grid->WidenColumns();
 }
 
 } // namespace zqbchwcx::qt

@@ -22,9 +22,9 @@ public:
     /// The table as it is now, drawn anew for the scale (device pixels per logical pixel; 0.5 to 8, otherwise the
     /// nearest of these), in the widget's size. It need not be on the screen.
     QImage RenderToImage(double scale);
-    /// Shows all texts whole, as far as the width goes: for pictures, in which nobody can widen a column. The user's
-    /// widths come back with the next station.
-    void WidenColumns();
+    /// For pictures, in which nobody can widen a column or scroll: shows all texts whole, as far as the width goes, and
+    /// no scroll bar. The user's widths come back with the next station.
+    void ArrangeForPicture();
 
 signals:
     /// The model did not take a typed value. The rectangle of the cell is in logical pixels of the screen.

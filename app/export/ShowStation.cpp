@@ -122,7 +122,7 @@ std::unique_ptr<qt::TableWidget> MakeTable(const VxHWStationPtr& station, std::i
         Show(*distributed->Control(), station, selection);
         table = std::move(distributed);
     }
-    table->WidenColumns();
+    table->ArrangeForPicture();
     return table;
 }
 
