@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
+#include <utility>
+
 namespace zqbchwcx::qt {
 namespace {
 
@@ -26,14 +28,12 @@ ScrollButtonWidget::ScrollButtonWidget(QWidget& parent, const QString& name, con
 
 void ScrollButtonWidget::Pressed(bool bPressed)
 {
-    mbPressed = bPressed;
-    update();
+    if (std::exchange(mbPressed, bPressed) != bPressed) update();
 }
 
 void ScrollButtonWidget::ArrowColor(OleColor color)
 {
-    mArrowColor = color;
-    update();
+    if (std::exchange(mArrowColor, color) != color) update();
 }
 
 void ScrollButtonWidget::paintEvent(QPaintEvent* /*event*/)

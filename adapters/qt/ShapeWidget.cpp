@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPolygonF>
 
+#include <utility>
+
 namespace zqbchwcx::qt {
 
 ShapeWidget::ShapeWidget(QWidget& parent, const QString& name, const Rect& rect, OleColor color)
@@ -32,8 +34,7 @@ QColor ShapeWidget::FillColor() const
 
 void ShapeWidget::Color(OleColor color)
 {
-    mColor = color;
-    update();
+    if (std::exchange(mColor, color) != color) update();
 }
 
 void ShapeWidget::Slope(int rightHeight)
