@@ -304,6 +304,7 @@ void MainWindow::ShowDocument()
             moStatusLine->Tell(ToQString(refusal.text, moServices.CurrentLanguage()));
         };
         connect(moView, &StationView::refused, this, tell);
+        connect(moView, &StationView::dropAllowed, moStatusLine, &StatusLine::EndTelling);
         moRefused = document->Station()->Refused.Connect(tell);
         ReadClipboard();
         moView->FocusStation();

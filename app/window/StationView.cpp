@@ -6,6 +6,7 @@
 #include "app/host/PlainText.h"
 #include "app/window/CellMessage.h"
 #include "app/window/ModuleList.h"
+#include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/qt/RackOverviewRIOWidget.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
 #include "zqbchwcx/qt/RackTableRIOWidget.h"
@@ -16,14 +17,17 @@
 #include "zqbchwcx/views/config/VxHWRackTableRIO.h"
 #include "zqbchwcx/views/shared/QuietView.h"
 
+#include <QDragMoveEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillon_ed {
 
@@ -192,6 +196,14 @@ QWidget* StationView::UseOverview(Widget* widget)
 
 bool StationView::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::DragEnter) mlDropTold = vxNoPosition;
+    if (event->type() == QEvent::DragMove) {
+        const auto& over = static_cast<const QDragMoveEvent&>(*event);
+        const auto* source = qobject_cast<const QWidget*>(over.source());
+        const bool bMove = source != nullptr && isAncestorOf(source) && !over.modifiers().testFlag(Qt::ControlModifier);
+        // The controller knows the position when the event is over.
+        QTimer::singleShot(0, this, [this, bMove] { TellDropTarget(bMove); });
+    }
     // The controllers of a station that may not be changed are silent, and so are the window's disabled commands.
     const auto objection = moDocument.Station()->AgainstEditing();
     if (objection && event->type() == QEvent::KeyPress) {
@@ -240,6 +252,19 @@ QWidget* StationView::MakeList()
     connect(moList, &ModuleList::deleteRequested, this, [this] { moManager->Delete(); });
     connect(moList, &ModuleList::menuRequested, this, &StationView::menuRequested);
     return moList;
+}
+
+void StationView::TellDropTarget(bool bMove)
+{
+    G_Trap("StationView", "TellDropTarget", [&] {
+        const auto controller = DragDropController();
+        const std::int32_t position = moDragWatch->IsDragging() ? controller->DropPosition() : vxNoPosition;
+        if (std::exchange(mlDropTold, position) == position || position == vxNoPosition) return;
+        const auto objection = moDocument.Station()->AgainstPlacing(position, controller->DragModules(), bMove,
+                                                                    bMove ? moHandler->SelPlaces() : nullptr);
+        if (objection) emit refused(*objection);
+        else emit dropAllowed();
+    });
 }
 
 void StationView::TellRefusedEdit(const QString& value, const QRect& cellOnScreen)

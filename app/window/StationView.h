@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zqbchwcx/foundation/Event.h"
+#include "zqbchwcx/foundation/PlacePosition.h"
 #include "zqbchwcx/managers/VxHWConfigManager.h"
 #include "zqbchwcx/reference/history/ViewState.h"
 #include "zqbchwcx/reference/model/rules/Refusal.h"
@@ -47,8 +48,10 @@ protected:
 signals:
     void selectionChanged();
     void menuRequested(const QPoint& globalPosition);
-    /// A key that would have changed a station that may not be changed.
+    /// A key would have changed a station that may not be changed, or a drag is over a place that does not take it.
     void refused(const zqbchwcx::reference::Refusal& refusal);
+    /// The drag has gone on to a place that takes it.
+    void dropAllowed();
 
 private:
     class DragWatch;
@@ -63,6 +66,7 @@ private:
     /// Where the table scrolls, the overview's arrow goes with its rows.
     void CoupleRows();
     QWidget* MakeList();
+    void TellDropTarget(bool bMove);
     void TellRefusedEdit(const QString& value, const QRect& cellOnScreen);
 
     Document& moDocument;
@@ -71,6 +75,7 @@ private:
     std::unique_ptr<zqbchwcx::VxHWConfigManager> moManager;
     zqbchwcx::VxHWSelectionHandlerPtr moHandler;
     std::shared_ptr<DragWatch> moDragWatch;
+    std::int32_t mlDropTold = zqbchwcx::vxNoPosition; ///< the position of a drag that was told of last
     QWidget* moOverviewWidget = nullptr;
     QScrollArea* moViews = nullptr; ///< where there is a table
     ModuleList* moList = nullptr;   ///< where there is no table

@@ -71,4 +71,9 @@ void StatusLine::Tell(const QString& text)
     moTold->Tell(PlainText(text, LongestDescription));
 }
 
+void StatusLine::EndTelling()
+{
+    moTold->hide();
+}
+
 } // namespace quillon_ed

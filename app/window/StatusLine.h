@@ -21,6 +21,8 @@ public:
     void Show(const Document* document, const StationView* view);
     /// Tells something for some seconds in place of the focus.
     void Tell(const QString& text);
+    /// What was told does not apply any more.
+    void EndTelling();
 
 private:
     struct States {
