@@ -25,8 +25,10 @@ const ParameterDefinition* FindParameter(const ModuleType& type, std::string_vie
     return found == type.parameters.end() ? nullptr : &*found;
 }
 
-Catalogue::Catalogue(std::string maker, std::vector<ModuleType> types, std::vector<CatalogueGroup> groups)
-    : msMaker(std::move(maker)), mcolTypes(std::move(types)), mcolGroups(std::move(groups))
+Catalogue::Catalogue(std::string maker, std::vector<ModuleType> types, std::vector<CatalogueGroup> groups,
+                     FaultTexts faults)
+    : msMaker(std::move(maker)), mcolTypes(std::move(types)), mcolGroups(std::move(groups)),
+      mcolFaults(std::move(faults))
 {
     for (std::size_t i = 0; i < mcolTypes.size(); ++i) mcolIndexByOrderNumber.emplace(mcolTypes[i].orderNumber, i);
 }
@@ -35,6 +37,13 @@ const ModuleType* Catalogue::Find(std::string_view orderNumber) const
 {
     const auto found = mcolIndexByOrderNumber.find(std::string(orderNumber));
     return found == mcolIndexByOrderNumber.end() ? nullptr : &mcolTypes[found->second];
+}
+
+const FaultText* Catalogue::FindFault(std::optional<ModuleFamily> family, std::int32_t code) const
+{
+    auto found = mcolFaults.find({family, code});
+    if (found == mcolFaults.end()) found = mcolFaults.find({std::nullopt, code});
+    return found == mcolFaults.end() ? nullptr : &found->second;
 }
 
 } // namespace zqbchwcx::reference

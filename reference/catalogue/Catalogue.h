@@ -4,10 +4,12 @@
 #include "zqbchwcx/reference/model/StationData.h"
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace zqbchwcx::reference {
@@ -78,6 +80,15 @@ struct ModuleType {
 /// Null when the type has no such parameter.
 const ParameterDefinition* FindParameter(const ModuleType& type, std::string_view key);
 
+/// What a fault code means that a module reports.
+struct FaultText {
+    LocalizedText what;
+    LocalizedText remedy; ///< what to do about it
+};
+
+/// By family and code; without a family for those that have no text of their own.
+using FaultTexts = std::map<std::pair<std::optional<ModuleFamily>, std::int32_t>, FaultText>;
+
 /// A folder of the catalogue tree.
 struct CatalogueGroup {
     LocalizedText name;
@@ -89,10 +100,13 @@ struct CatalogueGroup {
 class Catalogue {
 public:
     Catalogue() = default;
-    Catalogue(std::string maker, std::vector<ModuleType> types, std::vector<CatalogueGroup> groups);
+    Catalogue(std::string maker, std::vector<ModuleType> types, std::vector<CatalogueGroup> groups,
+              FaultTexts faults = {});
 
     /// Null when there is no such type. The pointer is valid as long as the catalogue.
     const ModuleType* Find(std::string_view orderNumber) const;
+    /// Null for a code without a text; a module of an unknown type has no family.
+    const FaultText* FindFault(std::optional<ModuleFamily> family, std::int32_t code) const;
     const std::string& Maker() const { return msMaker; }
     const std::vector<ModuleType>& Types() const { return mcolTypes; }
     const std::vector<CatalogueGroup>& Groups() const { return mcolGroups; }
@@ -101,6 +115,7 @@ private:
     std::string msMaker;
     std::vector<ModuleType> mcolTypes;
     std::vector<CatalogueGroup> mcolGroups;
+    FaultTexts mcolFaults;
     std::unordered_map<std::string, std::size_t> mcolIndexByOrderNumber;
 };
 

@@ -1,6 +1,7 @@
 #include "zqbchwcx/reference/catalogue/CatalogueReader.h"
 
 #include "zqbchwcx/reference/catalogue/ParameterReader.h"
+#include "zqbchwcx/reference/diag/StateWord.h"
 #include "zqbchwcx/reference/files/FileSystem.h"
 #include "zqbchwcx/reference/json/FileError.h"
 #include "zqbchwcx/reference/json/JsonCursor.h"
@@ -22,6 +23,7 @@ constexpr std::size_t LargestFile = std::size_t{16} << 20;
 constexpr std::size_t MostTypes = 100'000;
 constexpr std::size_t MostGroups = 1'000;
 constexpr std::size_t MostFacts = 100;
+constexpr std::size_t MostFaults = 1'000;
 constexpr std::int32_t MostBytes = 65536;
 
 constexpr std::array FamilyNames{
@@ -43,9 +45,11 @@ public:
     {
         const JsonCursor file(document);
         ReadFormatVersion(file, Format, NewestVersion);
-        file.AllowMembers({"$schema", "format", "version", "maker", "parameterSets", "types", "groups"});
+        file.AllowMembers({"$schema", "format", "version", "maker", "parameterSets", "types", "groups", "faults"});
         ReadMaker(file.Member("maker"));
         if (const auto sets = file.OptionalMember("parameterSets")) ReadParameterSets(*sets);
+        if (const auto faults = file.OptionalMember("faults"))
+            for (const JsonCursor& fault : faults->Elements(MostFaults)) ReadFault(fault);
     }
 
     void ReadTypes(const JsonDocument& document)
@@ -64,7 +68,7 @@ public:
                 cursor.Fail(type ? "is no sub-module" : "there is no module type of this order number");
         for (const auto& [orderNumber, cursor] : mcolGroupUses)
             if (!FindType(orderNumber)) cursor.Fail("there is no module type of this order number");
-        return {msMaker, std::move(mcolTypes), std::move(mcolGroups)};
+        return {msMaker, std::move(mcolTypes), std::move(mcolGroups), std::move(mcolFaults)};
     }
 
 private:
@@ -85,6 +89,20 @@ private:
             for (const JsonCursor& definition : definitions.Elements(MaxParameters))
                 set->second.push_back(ReadParameterDefinition(definition));
         }
+    }
+
+    void ReadFault(const JsonCursor& cursor)
+    {
+        cursor.AllowMembers({"code", "families", "text", "remedy"});
+        const JsonCursor code = cursor.Member("code");
+        const FaultText text{ReadLocalizedText(cursor.Member("text")), ReadLocalizedText(cursor.Member("remedy"))};
+        const auto add = [&](std::optional<ModuleFamily> family, const JsonCursor& where) {
+            if (!mcolFaults.emplace(std::pair(family, code.Integer32(1, LargestFaultCode)), text).second)
+                where.Fail("this fault code has a text already");
+        };
+        const auto families = cursor.OptionalMember("families");
+        if (!families) return add({}, code);
+        for (const JsonCursor& family : families->Elements(FamilyNames.size())) add(family.Named(FamilyNames), family);
     }
 
     void ReadType(const JsonCursor& cursor)
@@ -195,7 +213,7 @@ private:
 
     CatalogueGroup ReadGroup(const JsonCursor& cursor)
     {
-        cursor.AllowMembers({"name", "types", "groups"});
+        cursor.AllowMembers({"name", "types", "groups", "faults"});
         CatalogueGroup group;
         group.name = ReadLocalizedText(cursor.Member("name"));
         if (const auto types = cursor.OptionalMember("types"))
@@ -218,6 +236,7 @@ private:
     std::map<std::string, std::vector<ParameterDefinition>> mcolParameterSets;
     std::vector<ModuleType> mcolTypes;
     std::vector<CatalogueGroup> mcolGroups;
+    FaultTexts mcolFaults;
     std::unordered_map<std::string, std::size_t> mcolIndexByOrderNumber;
     Uses mcolSubModuleUses;
     Uses mcolGroupUses;

@@ -1,10 +1,9 @@
 #include "zqbchwcx/reference/files/JournalEntry.h"
 
 #include "zqbchwcx/reference/json/FileError.h"
+#include "zqbchwcx/reference/json/HashJson.h"
 #include "zqbchwcx/reference/json/JsonCursor.h"
 
-#include <array>
-#include <charconv>
 #include <cstdint>
 #include <limits>
 
@@ -15,27 +14,6 @@ constexpr std::string_view Format = "quillon-journal";
 constexpr std::int32_t Version = 1;
 constexpr std::size_t LongestPath = 65536;
 constexpr JsonLimits HeadLimits{.bytes = 2 * LongestPath, .depth = 2, .values = 100};
-constexpr std::size_t HashDigits = 16;
-constexpr int Hexadecimal = 16;
-
-/// JSON numbers do not hold 64 bits everywhere; hashes are written in hexadecimal.
-std::string HashText(std::uint64_t hash)
-{
-    std::array<char, HashDigits> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), hash, Hexadecimal).ptr;
-    return {digits.data(), end};
-}
-
-std::uint64_t ReadHash(const JsonCursor& cursor)
-{
-    const std::string text = cursor.Text(1, HashDigits);
-    std::uint64_t hash = 0;
-    const char* end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, hash, Hexadecimal);
-    if (error != std::errc() || rest != end)
-        cursor.Fail("must be a hexadecimal number", "muss eine hexadezimale Zahl sein");
-    return hash;
-}
 
 std::uint64_t ReadBytes(const JsonCursor& cursor)
 {

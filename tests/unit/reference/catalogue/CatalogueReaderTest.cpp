@@ -21,7 +21,10 @@ ordered_json ValidCatalogue()
                             {"key": "factor", "label": "Factor", "kind": "real", "minimum": 0, "maximum": 2,
                              "default": 1}]},
             {"orderNumber": "SUB", "family": "digital", "name": "Sub", "description": "-", "isSubModule": true}],
-        "groups": [{"name": "All", "types": ["DI"]}]})");
+        "groups": [{"name": "All", "types": ["DI"]}],
+        "faults": [{"code": 7, "text": "Any", "remedy": "-"},
+                   {"code": 7, "families": ["digital", "analog"], "text": {"en": "Break", "de": "Bruch"},
+                    "remedy": "Look"}]})");
 }
 
 Catalogue ReadText(const std::string& text)
@@ -41,6 +44,9 @@ TEST(CatalogueReader, ReadsTypes)
     ASSERT_EQ(type->parameters.size(), 3U) << "those of its set and its own";
     EXPECT_EQ(type->parameters[2].defaultValue, ParameterValue(1.0));
     EXPECT_FALSE(catalogue.Find("di"));
+    EXPECT_EQ(catalogue.FindFault(ModuleFamily::Digital, 7)->what.de, "Bruch");
+    EXPECT_EQ(catalogue.FindFault(ModuleFamily::Counter, 7)->what.de, "Any");
+    EXPECT_EQ(catalogue.FindFault({}, 8), nullptr);
 }
 
 TEST(CatalogueReader, RefusesWhatDoesNotFitTogether)
@@ -70,6 +76,9 @@ TEST(CatalogueReader, RefusesWhatDoesNotFitTogether)
         {"/parameterSets/delay/0/minimum", "", "/parameterSets/delay/0", "\"minimum\" is missing"},
         {"/types/1/orderNumber", R"("DI")", "/types/1/orderNumber", "stands twice"},
         {"/types/1/picture", R"("IDB_X")", "/types/1/picture", "do not have this"},
+        {"/faults/0/code", "31", "/faults/0/code", "from 1 to 30"},
+        {"/faults/1/families/1", R"("digital")", "/faults/1/families/1", "has a text already"},
+        {"/faults/1/remedy", "", "/faults/1", "\"remedy\" is missing"},
         {"/groups/0/types/0", R"("NONE")", "/groups/0/types/0", "no module type"},
     };
     ExpectEachRefused(ValidCatalogue(), damages, "types.json", [](const std::string& text) { ReadText(text); });
