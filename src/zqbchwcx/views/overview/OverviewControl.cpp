@@ -169,6 +169,15 @@ void OverviewControl::Refresh() noexcept
     });
 }
 
+void OverviewControl::RefreshPlace(const VxHWRackPlacePtr& oPlace) noexcept
+{
+    G_Trap(mContext.className, "RefreshPlace", [&] {
+        ContentChange.Raise();
+        mGate.CatchUp();
+        if (mGate.MayDrawNow()) DrawPlace(oPlace);
+    });
+}
+
 void OverviewControl::moHWStation_RackChange(const VxHWRackPtr& oRack) noexcept
 {
     G_Trap(mContext.className, "moHWStation_RackChange", [&] {

@@ -57,6 +57,10 @@ public:
     std::intptr_t hWnd() const noexcept;
     /// Draws everything anew and raises `FocusChange`.
     void Refresh() noexcept override;
+    /// Draws one place of the station anew, in every style: for hosts that know which place changed where model events
+    /// wait for `Refresh`. While the station's drawing is off, everything waits until it is on again. A place that has
+    /// become visible or hidden takes a `Refresh`.
+    void RefreshPlace(const VxHWRackPlacePtr& oPlace) noexcept;
     /// What the picture shows, for screen readers. The items last as long as the view.
     const OverviewItems& Items() const noexcept { return mItems; }
 

@@ -28,7 +28,8 @@ public:
     bool DrawsModelEvents() const;
     /// The same for the change of a model event that is about to be drawn. What is pending comes first.
     bool MayDrawModelEvent();
-    /// For a single drawing that a selection or focus asks for: whether it is done now. Else everything is pending.
+    /// For a single drawing that a selection, a focus or the host asks for: whether it is done now. Else everything is
+    /// pending.
     bool MayDrawNow();
     /// The selection is out of date: draws it now or as soon as drawing is on.
     void SelectionChanged() noexcept;

@@ -85,6 +85,14 @@ void TableControl::Refresh() noexcept
     });
 }
 
+void TableControl::RefreshPlace(const VxHWRackPlacePtr& oPlace) noexcept
+{
+    G_Trap(mContext.className, "RefreshPlace", [&] {
+        mGate.CatchUp();
+        if (mGate.MayDrawNow()) mContent.FillPlace(oPlace);
+    });
+}
+
 void TableControl::ShowContent()
 {
     if (mContext.oSelHandler) mContent.TakeSelection();

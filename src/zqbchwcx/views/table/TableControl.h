@@ -40,6 +40,10 @@ public:
     std::intptr_t hWnd() const noexcept;
     /// Fills everything anew.
     void Refresh() noexcept override;
+    /// Fills the row of one place of the station anew, in every style: for hosts that know which place changed where
+    /// model events wait for `Refresh`. Does nothing for a place without a row. While the station's drawing is off,
+    /// everything waits until it is on again.
+    void RefreshPlace(const VxHWRackPlacePtr& oPlace) noexcept;
 
     /// The drawing of the grid; False holds it back until it is True again.
     bool AutoRefresh() const noexcept;
