@@ -1,6 +1,11 @@
 #include "tests/property/Editor.h"
+#include "tests/support/controls/RecordingView.h"
+#include "zqbchwcx/managers/VxHWCompManager.h"
+#include "zqbchwcx/managers/VxHWDiagManager.h"
 #include "zqbchwcx/platform/Input.h"
 #include "zqbchwcx/reference/model/configtext/ConfigText.h"
+#include "zqbchwcx/views/overview/OverviewControl.h"
+#include "zqbchwcx/views/table/TableControl.h"
 
 #include <gmock/gmock.h>
 
@@ -34,6 +39,47 @@ reference::StationData SmallStation(const ViewVariant& variant)
     }
     return data;
 }
+
+/// An editor whose views can also be in diagnostics or compare mode.
+class ModesEditor : public Editor {
+public:
+    using Editor::Editor;
+
+    /// The mode that the views are in.
+    enum class Mode { Config, Diag, Compare };
+
+    void Enter(Mode eMode)
+    {
+        meMode = eMode;
+        if (eMode == Mode::Diag) diagManager.Initialize(view->StationType(), view, table, panel, watched, diag);
+        if (eMode == Mode::Compare)
+            compManager.Initialize(view->StationType(), view, compareView, compareView, watched, watched, compare, {});
+    }
+    void EndMode()
+    {
+        if (meMode == Mode::Config) Manager().Terminate();
+        if (meMode == Mode::Diag) diagManager.Terminate();
+        if (meMode == Mode::Compare) compManager.Terminate();
+    }
+    /// Connects the views as they were in the beginning.
+    void BackToConfig()
+    {
+        EndMode();
+        meMode = Mode::Config;
+        EndMode();
+        host->reports.clear();
+        Initialize();
+    }
+
+    VxHWDiagManager diagManager;
+    VxHWCompManager compManager;
+
+private:
+    std::shared_ptr<RecordingView> panel = std::make_shared<RecordingView>(log, "panel");
+    std::shared_ptr<RecordingCompareView> compareView = std::make_shared<RecordingCompareView>(log, "compare");
+    Mode meMode = Mode::Config;
+};
+using Mode = ModesEditor::Mode;
 
 using Step = std::function<void(Editor&)>;
 
@@ -229,6 +275,41 @@ void Refresh(Editor& editor)
 {
     editor.view->Refresh();
     editor.table->Refresh();
+}
+
+Step Enter(Mode eMode)
+{
+    return [=](Editor& editor) { static_cast<ModesEditor&>(editor).Enter(eMode); };
+}
+
+/// The mode, with something to tell about the first module, which has the focus.
+Step In(Mode eMode)
+{
+    return [=](Editor& editor) {
+        auto& modes = static_cast<ModesEditor&>(editor);
+        modes.EndMode();
+        const auto key = editor.station->PlaceAt({0, 4})->Key();
+        editor.diag->failures = {{key, 1}};
+        editor.diag->infos = {key};
+        editor.compare->results = {{key, vxCompareParametersDiffer}};
+        for (const char* picture : {"IDB_DIAG_FAILURE", "IDB_COMP_PARAMDIFF"})
+            editor.host->pictures[picture] = std::make_shared<FakeImage>(picture);
+        modes.Enter(eMode);
+        editor.view->VxHWSelectionHandler()->FocusPosition(Digital);
+    };
+}
+
+template <class Manager>
+Step CommandOf(Manager ModesEditor::*manager, void (Manager::*command)() noexcept)
+{
+    return [=](Editor& editor) { (static_cast<ModesEditor&>(editor).*manager.*command)(); };
+}
+
+void RefreshPlace(Editor& editor)
+{
+    const auto oPlace = Watch(editor.log, editor.watched->Place(0, 4));
+    dynamic_cast<OverviewControl&>(*editor.view).RefreshPlace(oPlace);
+    dynamic_cast<TableControl&>(*editor.table).RefreshPlace(oPlace);
 }
 
 Step Hover(std::int32_t lPosition)
@@ -439,6 +520,25 @@ std::vector<Operation> CommonOperations()
         {"InitializeOnline", Nothing(), [](Editor& editor) { editor.Initialize(); },
          ReadOnly | Online | Draws | Connects},
         {"Terminate", Nothing(), Command(&Manager::Terminate), Connects},
+
+        // Diagnostics and compare mode.
+        {"DiagInitialize", Command(&Manager::Terminate), Enter(Mode::Diag), Draws | Connects},
+        {"DiagRefresh", In(Mode::Diag), CommandOf(&ModesEditor::diagManager, &VxHWDiagManager::Refresh),
+         Draws | Connects},
+        {"DiagTerminate", In(Mode::Diag), CommandOf(&ModesEditor::diagManager, &VxHWDiagManager::Terminate), Connects},
+        {"DiagRefreshPlace", In(Mode::Diag), &RefreshPlace, Connects, "overview.RefreshPlace table.RefreshPlace"},
+        {"DiagClick", In(Mode::Diag), Click(Empty + 1), Connects},
+        {"DiagDoubleClick", Then(In(Mode::Diag), Press(Digital)), [](Editor& editor) { editor.Mouse().DblClick(); },
+         Connects},
+        {"DiagReturn", In(Mode::Diag), Key(vxKeyReturn), Connects},
+        {"CompInitialize", Command(&Manager::Terminate), Enter(Mode::Compare), Draws | Connects},
+        {"CompRefreshOnline", In(Mode::Compare), CommandOf(&ModesEditor::compManager, &VxHWCompManager::Refresh),
+         ReadOnly | Online | Draws | Connects},
+        {"CompTerminate", In(Mode::Compare), CommandOf(&ModesEditor::compManager, &VxHWCompManager::Terminate),
+         Connects},
+        {"CompDoubleClick", Then(In(Mode::Compare), Press(Digital)), [](Editor& editor) { editor.Mouse().DblClick(); },
+         Connects},
+        {"CompReturn", In(Mode::Compare), Key(vxKeyReturn), Connects},
     };
 }
 
@@ -515,7 +615,7 @@ public:
         auto& faults = mEditor.log->faults;
         if (fault == Fault::Fails || lCall == 0) faults.ThrowAt(lCall);
         else if (fault == Fault::AnswersNothing) faults.NothingAt(lCall);
-        else faults.RunAt(lCall, [this] { mEditor.Manager().Terminate(); });
+        else faults.RunAt(lCall, [this] { mEditor.EndMode(); });
         operation.act(mEditor);
         after = mEditor.Text();
         count = faults.Count();
@@ -535,11 +635,7 @@ public:
         EndGestures();
         if (mOperation.Has(LeavesDrawingOff)) mEditor.station->IsDrawable(true);
         mEditor.host->reports.clear();
-        if (bEnded || mOperation.Has(Connects)) {
-            mEditor.Manager().Terminate();
-            mEditor.host->reports.clear();
-            mEditor.Initialize();
-        }
+        if (bEnded || mOperation.Has(Connects)) mEditor.BackToConfig();
         // Without the host application there is no wait cursor, which is nobody's error.
         if (thrown.starts_with("ObjectLookup.")) mEditor.host->waitBalance = 0;
         EXPECT_EQ(mEditor.WhatIsWrong(), "");
@@ -584,7 +680,7 @@ private:
     }
 
     const Operation& mOperation;
-    Editor mEditor;
+    ModesEditor mEditor;
 };
 
 class EveryCall : public ::testing::TestWithParam<Case> {

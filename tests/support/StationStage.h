@@ -12,6 +12,20 @@ namespace zqbchwcx::testing {
 
 using Lines = std::vector<std::string>;
 
+inline Lines Joined(const std::vector<Lines>& parts)
+{
+    Lines all;
+    for (const Lines& part : parts) all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+/// What happens to one of several objects: every line after its name.
+inline Lines Prefixed(const std::string& name, Lines lines)
+{
+    for (std::string& line : lines) line.insert(0, name);
+    return lines;
+}
+
 /// A station with eleven places in each rack, a handler that keeps its selection, and what else takes part in a mode.
 class StationStage {
 public:
@@ -30,6 +44,12 @@ public:
             services.log, std::make_shared<reference::Station>(SampleContext(), plain, std::move(asked)));
     }
     Lines TakeLines() { return std::exchange(services.Lines(), {}); }
+    Lines LinesOf(const std::function<void()>& operation)
+    {
+        services.Lines().clear();
+        operation();
+        return TakeLines();
+    }
     Lines TakeReports() { return services.host->TakeReports(); }
 
     template <class Controller>

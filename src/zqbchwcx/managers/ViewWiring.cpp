@@ -1,10 +1,5 @@
 #include "zqbchwcx/managers/ViewWiring.h"
 
-#include "zqbchwcx/foundation/PlaceLookup.h"
-#include "zqbchwcx/foundation/model/VxHWRack.h"
-#include "zqbchwcx/foundation/model/VxHWRackPlace.h"
-#include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
-
 namespace zqbchwcx {
 namespace {
 
@@ -16,14 +11,34 @@ void SetService(Target& target, ModeService eService, const ViewWiring& wiring)
     else if (eService == ModeService::Diag) target.VxHWDiagService(wiring.oDiagService);
 }
 
-void SetObjects(IVxHWControl& view, ModeService eService, const ViewWiring& wiring)
+void SetContent(IVxHWControl& view, ModeService eService, const ViewWiring& wiring)
 {
     view.VxHWStation(wiring.oStation);
     SetService(view, eService, wiring);
     view.VxHWSelectionHandler(wiring.oSelHandler);
+}
+
+void SetObjects(IVxHWControl& view, ModeService eService, const ViewWiring& wiring)
+{
+    SetContent(view, eService, wiring);
     view.VxHWMouseInputController(wiring.oiMouseInput);
     view.VxHWKeyInputController(wiring.oiKeyInput);
     view.VxHWDragDropController(wiring.oiDragDrop);
+}
+
+void SetContent(IVxHWCompareControl& view, const ViewWiring& wiring)
+{
+    view.VxHWStation1(wiring.oStation);
+    view.VxHWStation2(wiring.oStation2);
+    view.VxHWCompareService(wiring.oCompareService);
+    view.VxHWSelectionHandler(wiring.oSelHandler);
+}
+
+void SetObjects(IVxHWCompareControl& view, const ViewWiring& wiring)
+{
+    SetContent(view, wiring);
+    view.VxHWMouseInputController(wiring.oiMouseInput);
+    view.VxHWKeyInputController(wiring.oiKeyInput);
 }
 
 void SetObjects(IVxHWController& controller, ModeService eService, const ViewWiring& wiring)
@@ -47,6 +62,39 @@ void G_DisconnectView(IVxHWControl& view, ModeService eService)
     SetObjects(view, eService, {});
 }
 
+void G_ConnectPanel(IVxHWControl& panel, const ViewWiring& wiring)
+{
+    SetContent(panel, ModeService::Diag, wiring);
+}
+
+void G_DisconnectPanel(IVxHWControl& panel)
+{
+    SetContent(panel, ModeService::Diag, {});
+}
+
+void G_ConnectCompareTable(IVxHWCompareControl& table, const ViewWiring& wiring)
+{
+    table.StationType(wiring.eStationType);
+    table.HWCompareType(wiring.eCompareType);
+    SetObjects(table, wiring);
+}
+
+void G_DisconnectCompareTable(IVxHWCompareControl& table)
+{
+    SetObjects(table, {});
+}
+
+void G_ConnectDeltaList(IVxHWCompareControl& list, const ViewWiring& wiring)
+{
+    list.HWCompareType(wiring.eCompareType);
+    SetContent(list, wiring);
+}
+
+void G_DisconnectDeltaList(IVxHWCompareControl& list)
+{
+    SetContent(list, {});
+}
+
 void G_ConnectController(IVxHWController& controller, const ViewWiring& wiring)
 {
     SetObjects(controller, wiring.eService, wiring);
@@ -55,13 +103,6 @@ void G_ConnectController(IVxHWController& controller, const ViewWiring& wiring)
 void G_DisconnectController(IVxHWController& controller, ModeService eService)
 {
     SetObjects(controller, eService, {});
-}
-
-std::int32_t G_FirstUsablePlace(const VxHWStationPtr& oStation)
-{
-    for (const auto& oPlace : G_RackByNumber(oStation, 0)->Places())
-        if (oPlace->Usability() != vxPlaceNotUsable) return oPlace->Number();
-    return 0;
 }
 
 } // namespace zqbchwcx

@@ -1,9 +1,8 @@
 #pragma once
 
+#include "zqbchwcx/controllers/interfaces/IVxHWCompareControl.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWControl.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWController.h"
-
-#include <cstdint>
 
 namespace zqbchwcx {
 
@@ -15,7 +14,9 @@ struct ViewWiring {
     ModeService eService = ModeService::None;
     VxEnumStationType eStationType = vxStationTypeCentral;
     VxEnumStyle eStyle = vxStyleHWConfig;
+    HWCompareType eCompareType{};
     VxHWStationPtr oStation;
+    VxHWStationPtr oStation2; ///< what the station is compared with
     VxHWCompareServicePtr oCompareService;
     VxHWDiagServicePtr oDiagService;
     VxHWSelectionHandlerPtr oSelHandler;
@@ -29,10 +30,17 @@ void G_ConnectView(IVxHWControl& view, const ViewWiring& wiring);
 /// Takes away what the mode has set.
 void G_DisconnectView(IVxHWControl& view, ModeService eService);
 
+/// The panel of diagnostics mode takes no input and shows every kind of station alike.
+void G_ConnectPanel(IVxHWControl& panel, const ViewWiring& wiring);
+void G_DisconnectPanel(IVxHWControl& panel);
+
+void G_ConnectCompareTable(IVxHWCompareControl& table, const ViewWiring& wiring);
+void G_DisconnectCompareTable(IVxHWCompareControl& table);
+/// The list of differences serves its input itself.
+void G_ConnectDeltaList(IVxHWCompareControl& list, const ViewWiring& wiring);
+void G_DisconnectDeltaList(IVxHWCompareControl& list);
+
 void G_ConnectController(IVxHWController& controller, const ViewWiring& wiring);
 void G_DisconnectController(IVxHWController& controller, ModeService eService);
-
-/// The number of the first place of rack 0 that can be used, where focus and selection start; 0 for none.
-std::int32_t G_FirstUsablePlace(const VxHWStationPtr& oStation);
 
 } // namespace zqbchwcx

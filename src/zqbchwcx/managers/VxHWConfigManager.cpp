@@ -19,7 +19,6 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWStation.h"
-#include "zqbchwcx/managers/ViewWiring.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <utility>
@@ -28,15 +27,6 @@ namespace zqbchwcx {
 namespace {
 
 constexpr std::string_view ClassName = "VxHWConfigManager";
-
-/// Makes a controller and keeps it both by its common and by its input interface.
-template <class Controller, class InputController>
-void Create(IVxHWControllerPtr& oController, std::shared_ptr<InputController>& oiInput)
-{
-    auto oCreated = std::make_shared<Controller>();
-    oController = oCreated;
-    oiInput = std::move(oCreated);
-}
 
 void CreateMissingSubModules(VxHWStation& station, const VxHWModulePtr& oModule)
 {
@@ -53,7 +43,7 @@ VxHWConfigManager::~VxHWConfigManager() = default;
 
 VxHWSelectionHandlerPtr VxHWConfigManager::VxHWSelectionHandler() const noexcept
 {
-    return moSelHandler;
+    return mControllers.SelHandler();
 }
 
 void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlPtr oiRackOverview,
@@ -63,15 +53,17 @@ void VxHWConfigManager::Initialize(VxEnumStationType eStationType, IVxHWControlP
         moHWStation = std::move(oHWStation);
         moiRackOverview = std::move(oiRackOverview);
         moiRackTable = std::move(oiRackTable);
-        moSelHandler = std::make_shared<zqbchwcx::VxHWSelectionHandler>();
+        mControllers.MakeHandler();
         CreateControllers();
-        const ViewWiring wiring{ModeService::None, eStationType, vxStyleHWConfig, moHWStation, nullptr,
-                                nullptr,           moSelHandler, moiMouseInput,   moiKeyInput, moiDragDrop};
+        ViewWiring wiring;
+        wiring.eStationType = eStationType;
+        wiring.eStyle = vxStyleHWConfig;
+        wiring.oStation = moHWStation;
+        mControllers.AddTo(wiring);
         G_ConnectView(*G_Require(moiRackOverview, "The rack overview"), wiring);
         G_ConnectView(*G_Require(moiRackTable, "The rack table"), wiring);
-        G_Require(moSelHandler, "The selection handler")->VxHWStation(moHWStation);
-        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD})
-            G_ConnectController(*G_Require(oController, "A controller"), wiring);
+        mControllers.Connect(wiring);
+        G_ConnectController(*G_Require(mControllers.DragDrop(), "The drag-and-drop controller"), wiring);
         Subscribe(moiRackOverview);
         Subscribe(moiRackTable);
         G_Require(moHWStation, "The station")->StartConfiguration();
@@ -84,21 +76,15 @@ void VxHWConfigManager::Terminate() noexcept
     G_Trap(ClassName, "Terminate", [&] {
         G_DisconnectView(*G_Require(moiRackOverview, "The rack overview"), ModeService::None);
         G_DisconnectView(*G_Require(moiRackTable, "The rack table"), ModeService::None);
-        G_Require(moSelHandler, "The selection handler")->VxHWStation(nullptr);
-        for (const auto& oController : {moCtrlMouse, moCtrlKey, moCtrlDD}) {
-            if (oController) G_DisconnectController(*oController, ModeService::None); // a failed start made none
+        mControllers.Disconnect(ModeService::None);
+        if (const auto oDragDrop = mControllers.DragDrop()) {
+            G_DisconnectController(*oDragDrop, ModeService::None);
+            oDragDrop->RemoveAllSubscribers();
         }
-        if (moCtrlDD) moCtrlDD->RemoveAllSubscribers();
         moiRackOverview = nullptr;
         moiRackTable = nullptr;
         moHWStation = nullptr;
-        moSelHandler = nullptr;
-        moiMouseInput = nullptr;
-        moCtrlMouse = nullptr;
-        moiKeyInput = nullptr;
-        moCtrlKey = nullptr;
-        moiDragDrop = nullptr;
-        moCtrlDD = nullptr;
+        mControllers = {};
     });
 }
 
@@ -145,32 +131,24 @@ void VxHWConfigManager::EditModuleParams() noexcept
 void VxHWConfigManager::CreateControllers()
 {
     const auto oStation = G_Require(moHWStation, "The station");
-    if (oStation->IsReadOnly()) {
-        Create<VxHWConfigROCtrlMouse>(moCtrlMouse, moiMouseInput);
-        if (oStation->DisplayMode() != vxDisplayModeOffline) Create<VxHWConfigROCtrlKey>(moCtrlKey, moiKeyInput);
-        else Create<VxHWConfigROOfflineCtrlKey>(moCtrlKey, moiKeyInput);
-        Create<VxHWConfigROCtrlDD>(moCtrlDD, moiDragDrop);
-    } else {
-        Create<VxHWConfigCtrlMouse>(moCtrlMouse, moiMouseInput);
-        Create<VxHWConfigCtrlKey>(moCtrlKey, moiKeyInput);
-        Create<VxHWConfigCtrlDD>(moCtrlDD, moiDragDrop);
-    }
+    if (!oStation->IsReadOnly()) mControllers.Make<VxHWConfigCtrlMouse, VxHWConfigCtrlKey, VxHWConfigCtrlDD>();
+    else if (oStation->DisplayMode() != vxDisplayModeOffline)
+        mControllers.Make<VxHWConfigROCtrlMouse, VxHWConfigROCtrlKey, VxHWConfigROCtrlDD>();
+    else mControllers.Make<VxHWConfigROCtrlMouse, VxHWConfigROOfflineCtrlKey, VxHWConfigROCtrlDD>();
 }
 
 void VxHWConfigManager::Subscribe(const IVxHWControlPtr& oiView) const
 {
     // A view of a host that draws no drop markings has nothing to subscribe.
     if (const auto oSubscriber = std::dynamic_pointer_cast<IVxHWDragDropCtrlEvents>(oiView))
-        G_Require(moCtrlDD, "The drag-and-drop controller")->AddSubscriber(oSubscriber);
+        G_Require(mControllers.DragDrop(), "The drag-and-drop controller")->AddSubscriber(oSubscriber);
 }
 
 void VxHWConfigManager::P_InitSelection() noexcept
 {
     G_Trap(ClassName, "P_InitSelection", [&] {
-        const std::int32_t lNumber = G_FirstUsablePlace(moHWStation);
-        const auto oSelHandler = G_Require(moSelHandler, "The selection handler");
-        oSelHandler->ShiftSelPosition(G_PlacePosition(0, lNumber));
-        oSelHandler->FocusPosition(G_PlacePosition(0, lNumber));
+        const auto oSelHandler = mControllers.SelHandler();
+        const std::int32_t lNumber = G_StartFocus(moHWStation, oSelHandler);
         G_SelPlaces(oSelHandler)->Add(G_PlaceByNumber(moHWStation, 0, lNumber));
         oSelHandler->SelChangeComplete();
     });
@@ -192,7 +170,7 @@ VxHWModulesPtr VxHWConfigManager::ModulesToInsert(const VxHWModulePtr& oModule) 
 
 bool VxHWConfigManager::PlaceAtSelectionOrFocus(const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces) const
 {
-    const auto oSelHandler = moSelHandler;
+    const auto oSelHandler = mControllers.SelHandler();
     const auto oSelPlaces = G_SelPlaces(oSelHandler);
     if (oSelPlaces->Count() == 0) return PlaceAt(oSelHandler->FocusPosition(), oModules, oPlaces);
     bool bPlaced = false;
@@ -216,7 +194,7 @@ template <class Command>
 void VxHWConfigManager::Forward(const char* procedureName, Command command) noexcept
 {
     G_Trap(ClassName, procedureName, [&] {
-        const auto oiKeyInput = G_Require(moiKeyInput, "The key controller");
+        const auto oiKeyInput = G_Require(mControllers.KeyInput(), "The key controller");
         (*oiKeyInput.*command)();
     });
 }

@@ -1,12 +1,10 @@
 #pragma once
 
 #include "zqbchwcx/controllers/interfaces/IVxHWControl.h"
-#include "zqbchwcx/controllers/interfaces/IVxHWController.h"
 #include "zqbchwcx/foundation/Registration.h"
 #include "zqbchwcx/foundation/model/Enumerations.h"
 #include "zqbchwcx/foundation/model/Fwd.h"
-
-#include <memory>
+#include "zqbchwcx/managers/ModeControllers.h"
 
 namespace zqbchwcx {
 
@@ -54,14 +52,7 @@ private:
     IVxHWControlPtr moiRackOverview;
     IVxHWControlPtr moiRackTable;
     VxHWStationPtr moHWStation;
-    VxHWSelectionHandlerPtr moSelHandler;
-    IVxHWControllerPtr moCtrlMouse;
-    IVxHWControllerPtr moCtrlKey;
-    IVxHWControllerPtr moCtrlDD;
-    /// The same controllers by their input interfaces.
-    IVxHWMouseInputControllerPtr moiMouseInput;
-    IVxHWKeyInputControllerPtr moiKeyInput;
-    IVxHWDragDropControllerPtr moiDragDrop;
+    ModeControllers mControllers;
 };
 
 } // namespace zqbchwcx

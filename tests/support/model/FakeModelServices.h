@@ -34,11 +34,11 @@ public:
     {
         return Answer("Compare.PlaceText", "place text " + KeyOf(moLog, oPlace));
     }
-    void Compare() override {}
+    void Compare() override { Note("Compare"); }
     ParameterDifferencesPtr ParameterDifferencesOf(const VxHWRackPlacePtr& /*oPlace*/) const override { return {}; }
-    void ShowParameterDifferences(const VxHWRackPlacePtr& /*oPlace*/,
-                                  const ParameterDifferencePtr& /*oDifference*/) override
+    void ShowParameterDifferences(const VxHWRackPlacePtr& oPlace, const ParameterDifferencePtr& oDifference) override
     {
+        Note("ShowParameterDifferences " + KeyOf(moLog, oPlace) + (oDifference ? " of one" : ""));
     }
 
     std::int32_t compareType = 0;
@@ -61,15 +61,26 @@ public:
     {
         return Answer("Diag.HasDiagState", diagStates.contains({KeyOf(moLog, oPlace), lCategory}));
     }
-    void Station(const VxHWStationPtr& /*oStation*/) override {}
-    bool HasDiagnosticInfo(const VxHWRackPlacePtr& /*oPlace*/, const VxHWModulePtr& /*oSubModule*/) const override
+    void Station(const VxHWStationPtr& oStation) override
     {
-        return false;
+        Note(oStation ? "Diag.Station set" : "Diag.Station nothing");
+    }
+    bool HasDiagnosticInfo(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& oSubModule) const override
+    {
+        return Answer("Diag.HasDiagnosticInfo", infos.contains(InfoKey(oPlace, oSubModule)));
     }
 
     ResultsByPlace cpuStates;
     ResultsByPlace failures;
     std::set<std::pair<std::string, std::int32_t>> diagStates;
+    /// What there is more to tell about: "0/4", or "0/4 SUB" for a sub-module.
+    std::set<std::string> infos;
+
+private:
+    std::string InfoKey(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& oSubModule) const
+    {
+        return KeyOf(moLog, oPlace) + (oSubModule ? " " + NameOf(moLog, oSubModule) : "");
+    }
 };
 
 } // namespace zqbchwcx::testing

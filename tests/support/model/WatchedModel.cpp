@@ -187,11 +187,15 @@ std::string KeysOf(const CallLogPtr& log, const VxHWRackPlacesPtr& oPlaces)
     return Joined(log, oPlaces, [](const VxHWRackPlacePtr& oPlace) { return oPlace->Key(); });
 }
 
+std::string NameOf(const CallLogPtr& log, const VxHWModulePtr& oModule)
+{
+    const FaultPoints::Pause pause(log->faults);
+    return oModule->IsEmpty() ? std::string("-") : oModule->OrderNumber();
+}
+
 std::string NamesOf(const CallLogPtr& log, const VxHWModulesPtr& oModules)
 {
-    return Joined(log, oModules, [](const VxHWModulePtr& oModule) {
-        return oModule->IsEmpty() ? std::string("-") : oModule->OrderNumber();
-    });
+    return Joined(log, oModules, [&](const VxHWModulePtr& oModule) { return NameOf(log, oModule); });
 }
 
 } // namespace zqbchwcx::testing

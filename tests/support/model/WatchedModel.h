@@ -27,6 +27,7 @@ VxHWModulePtr Watch(const CallLogPtr& log, const VxHWModulePtr& oModule);
 std::string KeyOf(const CallLogPtr& log, const VxHWRackPlacePtr& oPlace);
 std::string KeysOf(const CallLogPtr& log, const VxHWRackPlacesPtr& oPlaces);
 /// Order numbers, as in "DI AI2 AI2"; "-" is an empty module.
+std::string NameOf(const CallLogPtr& log, const VxHWModulePtr& oModule);
 std::string NamesOf(const CallLogPtr& log, const VxHWModulesPtr& oModules);
 
 } // namespace zqbchwcx::testing

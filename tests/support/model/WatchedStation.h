@@ -91,7 +91,8 @@ public:
     void StartConfiguration() override { Note("StartConfiguration"); }
     void ShowModuleDiagnostics(const VxHWRackPlacePtr& oPlace, const VxHWModulePtr& oSubModule) override
     {
-        Around("ShowModuleDiagnostics" + At(oPlace), [&] { moModel->ShowModuleDiagnostics(oPlace, oSubModule); });
+        Around("ShowModuleDiagnostics" + At(oPlace) + (oSubModule ? " " + NameOf(moLog, oSubModule) : ""),
+               [&] { moModel->ShowModuleDiagnostics(oPlace, oSubModule); });
     }
     bool PlaceModules(std::int32_t lPosition, const VxHWModulesPtr& oModules, const VxHWRackPlacesPtr& oPlaces) override
     {

@@ -19,12 +19,6 @@ protected:
         manager->Initialize(vxStationTypeDistributed2, overview, table, station);
         handler = manager->VxHWSelectionHandler();
     }
-    Lines LinesOf(const std::function<void()>& operation)
-    {
-        services.Lines().clear();
-        operation();
-        return TakeLines();
-    }
     bool Insert(const char* orderNumber)
     {
         return manager->SetSingleModuleToCurPos(station->Model().CreateModule(orderNumber));
@@ -35,14 +29,20 @@ protected:
 
 TEST_F(ConfigManager, ConnectsViewsThenStartsConfiguration)
 {
-    for (const auto& view : {overview, table}) view->Style(vxStyleHWCompare);
-    EXPECT_THAT(LinesOf([&] { Initialize(); }),
-                ElementsAre("Register VxHWSelectionHandler", "Register VxHWConfigCtrlMouse",
-                            "Register VxHWConfigCtrlKey", "Open zqhwuim", "Register VxHWConfigCtrlDD",
-                            "overview.VxHWStation set", "table.VxHWStation set", "StartConfiguration"));
+    const Lines given = {".StationType 2",
+                         ".Style 1",
+                         ".VxHWStation set",
+                         ".VxHWSelectionHandler set",
+                         ".VxHWMouseInputController set",
+                         ".VxHWKeyInputController set",
+                         ".VxHWDragDropController set"};
+    EXPECT_EQ(LinesOf([&] { Initialize(); }),
+              Joined({{"Register VxHWSelectionHandler", "Register VxHWConfigCtrlMouse", "Register VxHWConfigCtrlKey",
+                       "Open zqhwuim", "Register VxHWConfigCtrlDD"},
+                      Prefixed("overview", given),
+                      Prefixed("table", given),
+                      {"StartConfiguration"}}));
     for (const auto& view : {overview, table}) {
-        EXPECT_EQ(view->StationType(), vxStationTypeDistributed2);
-        EXPECT_EQ(view->Style(), vxStyleHWConfig);
         EXPECT_EQ(view->VxHWSelectionHandler(), handler);
         EXPECT_TRUE(view->VxHWMouseInputController() && view->VxHWKeyInputController());
         EXPECT_TRUE(view->VxHWDragDropController());
@@ -88,9 +88,12 @@ TEST_F(ConfigManager, TerminateDisconnectsAndDropsEverything)
 {
     Initialize();
     const auto oDragDrop = overview->VxHWDragDropController();
-    EXPECT_THAT(LinesOf([&] { manager->Terminate(); }),
-                ElementsAre("overview.VxHWStation nothing", "table.VxHWStation nothing",
-                            "Unregister VxHWConfigCtrlMouse", "Release zqhwuim", "Unregister VxHWConfigCtrlKey"))
+    const Lines taken = {".VxHWStation nothing", ".VxHWSelectionHandler nothing", ".VxHWMouseInputController nothing",
+                         ".VxHWKeyInputController nothing", ".VxHWDragDropController nothing"};
+    EXPECT_EQ(LinesOf([&] { manager->Terminate(); }),
+              Joined({Prefixed("overview", taken),
+                      Prefixed("table", taken),
+                      {"Unregister VxHWConfigCtrlMouse", "Release zqhwuim", "Unregister VxHWConfigCtrlKey"}}))
         << "only the held drag and drop controller and the handler live";
     EXPECT_FALSE(overview->VxHWSelectionHandler() || table->VxHWSelectionHandler());
     EXPECT_EQ(dynamic_cast<const IVxHWController&>(*oDragDrop).VxHWStation(), nullptr);
