@@ -60,16 +60,21 @@ std::string Module::OrderNumber() const
 
 std::string Module::DetailText() const
 {
+    if (!moBody->data) return {};
+    const ModelContext& context = *moBody->context;
+    // Modules of one type differ in their sub-modules at most.
+    std::string text;
+    for (const ModuleData& subModule : moBody->data->subModules)
+        text.append(text.empty() ? "" : ", ")
+            .append(ReadableName(subModule, *context.catalogue, context.CurrentLanguage()));
     const ModuleType* type = Type();
-    return type ? type->description.In(moBody->context->CurrentLanguage()) : std::string();
+    return text.empty() && type ? type->description.In(context.CurrentLanguage()) : text;
 }
 
 std::string Module::Name() const
 {
     if (!moBody->data) return {};
-    if (!moBody->data->name.empty()) return moBody->data->name;
-    const ModuleType* type = Type();
-    return type ? type->name.In(moBody->context->CurrentLanguage()) : moBody->data->orderNumber;
+    return ReadableName(*moBody->data, *moBody->context->catalogue, moBody->context->CurrentLanguage());
 }
 
 std::string Module::PictureName() const

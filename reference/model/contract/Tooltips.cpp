@@ -23,12 +23,6 @@ void AddAddresses(std::string& text, const ModuleData& module, const ModuleType*
     if (module.outputAddress) AddLine(text, outputs.In(language) + AddressText(AddressArea::Output, module, type));
 }
 
-const std::string& NameOf(const ModuleData& module, const ModuleType* type, Language language)
-{
-    if (!module.name.empty()) return module.name;
-    return type ? type->name.In(language) : module.orderNumber;
-}
-
 } // namespace
 
 LocalizedText EmptyPlaceText(const PlaceData& data, PlaceRef place)
@@ -43,12 +37,12 @@ LocalizedText EmptyPlaceText(const PlaceData& data, PlaceRef place)
 std::string ModuleText(const ModuleData& module, const Catalogue& catalogue, Language language)
 {
     const ModuleType* type = catalogue.Find(module.orderNumber);
-    std::string text = NameOf(module, type, language);
+    std::string text = ReadableName(module, catalogue, language);
     if (text != module.orderNumber) AddLine(text, module.orderNumber);
     if (type) AddLine(text, type->description.In(language));
     AddAddresses(text, module, type, language);
     for (const ModuleData& subModule : module.subModules)
-        AddLine(text, "- " + NameOf(subModule, catalogue.Find(subModule.orderNumber), language));
+        AddLine(text, "- " + ReadableName(subModule, catalogue, language));
     AddLine(text, module.comment);
     return text;
 }

@@ -122,6 +122,13 @@ std::string AttributeText(const ModuleData& module, const ModuleType* type, cons
     return {};
 }
 
+std::string ReadableName(const ModuleData& module, const Catalogue& catalogue, Language language)
+{
+    if (!module.name.empty()) return module.name;
+    const ModuleType* type = catalogue.Find(module.orderNumber);
+    return type ? type->name.In(language) : module.orderNumber;
+}
+
 std::string AddressText(AddressArea area, const ModuleData& module, const ModuleType* type)
 {
     const auto& address = AddressIn(area, module);

@@ -26,6 +26,9 @@ struct Attribute {
 std::optional<Attribute> FindAttribute(const ModuleData& module, const ModuleType* type, std::string_view name);
 std::string AttributeText(const ModuleData& module, const ModuleType* type, const Attribute& attribute);
 
+/// The module's own name, else that of its type, else the order number.
+std::string ReadableName(const ModuleData& module, const Catalogue& catalogue, Language language);
+
 /// "4", or "4..7" for several bytes; empty without an address.
 std::string AddressText(AddressArea area, const ModuleData& module, const ModuleType* type);
 /// The first byte of the inputs, else of the outputs; empty without addresses.

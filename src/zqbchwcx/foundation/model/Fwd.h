@@ -13,6 +13,8 @@ class VxHWModules;
 class VxHWModule;
 class VxHWCompareService;
 class VxHWDiagService;
+class ParameterDifference;
+class ParameterDifferences;
 
 template <>
 inline constexpr const char* G_ObjectName<VxHWStation> = "The station";
@@ -32,6 +34,10 @@ template <>
 inline constexpr const char* G_ObjectName<VxHWCompareService> = "The compare service";
 template <>
 inline constexpr const char* G_ObjectName<VxHWDiagService> = "The diagnostics service";
+template <>
+inline constexpr const char* G_ObjectName<ParameterDifference> = "The parameter difference";
+template <>
+inline constexpr const char* G_ObjectName<ParameterDifferences> = "The collection of parameter differences";
 
 using VxHWStationPtr = ObjectPtr<VxHWStation>;
 using VxHWRacksPtr = ObjectPtr<VxHWRacks>;
@@ -42,5 +48,7 @@ using VxHWModulesPtr = ObjectPtr<VxHWModules>;
 using VxHWModulePtr = ObjectPtr<VxHWModule>;
 using VxHWCompareServicePtr = ObjectPtr<VxHWCompareService>;
 using VxHWDiagServicePtr = ObjectPtr<VxHWDiagService>;
+using ParameterDifferencePtr = ObjectPtr<ParameterDifference>;
+using ParameterDifferencesPtr = ObjectPtr<ParameterDifferences>;
 
 } // namespace zqbchwcx
