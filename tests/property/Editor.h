@@ -22,6 +22,7 @@ public:
     {
         for (const auto* name : {"IDB_CRX_RACKNR_ACTIVE", "IDB_CRX_RACKNR_INACTIVE"})
             host->pictures[name] = std::make_shared<FakeImage>(name);
+        for (const std::string& name : mVariant.RowPictures()) host->pictures[name] = std::make_shared<FakeImage>(name);
         reference::StationServices asked;
         asked.clipboard = host->clipboard;
         asked.parameterDialog = [this](const reference::ModuleData& module, reference::PlaceRef) {
@@ -38,19 +39,25 @@ public:
         view = mVariant.makeOverview(*moSite);
         mcolShapes = toolkit->shapes;
         mcolSysColorsChanged.push_back(toolkit->sysColorsChanged);
-        for (const auto* name : {"pic_Main", "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
-        moPicture = toolkit->pictureBoxes.at("pic_Main");
+        settingChanged = toolkit->settingChanged;
+        mcolButtons = toolkit->buttons;
+        for (const char* name : {mVariant.picture, "pic_Drag"}) mcolPictures.push_back(toolkit->pictureBoxes.at(name));
+        moPicture = toolkit->pictureBoxes.at(mVariant.picture);
         moMenu = toolkit->menus.at("pmnu_Main");
+        if (!mVariant.IsCentral()) moBar = toolkit->scrollBars.at("scb_Main");
         moTableSite = std::make_unique<RecordingControl>(log);
         table = mVariant.makeTable(*moTableSite);
         moGrid = toolkit->grids.at("vxgrd_Main");
-        moTabs = toolkit->tabStrips.at("vxtab_Main");
+        if (mVariant.IsCentral()) moTabs = toolkit->tabStrips.at("vxtab_Main");
         moForm = toolkit->popupForms.at("frm_SubModules");
         moTableMenu = toolkit->menus.at("pmnu_Main");
+        if (auto* rows = dynamic_cast<VxHWRackTableRIO*>(table.get()))
+            mTopRowChange = rows->TopRowChange.Connect([this] { PointArrow(*view); });
         mcolSysColorsChanged.push_back(toolkit->sysColorsChanged);
         Initialize();
         view->Refresh();
         table->Refresh();
+        PointArrow(*view);
         moPicture->Focus(true);
     }
 
@@ -74,12 +81,17 @@ public:
     /// The position's point in the picture.
     Point PointOf(std::int32_t lPosition) const
     {
-        const Point at = mVariant.pointOf(*view, lPosition);
-        return {at.x - moPicture->Left(), at.y - moPicture->Top()};
+        const FaultPoints::Pause pause(log->faults);
+        return mVariant.pointOf(*view, lPosition);
     }
     RecordingPopupMenu& Menu() const { return *moMenu; }
     RecordingGrid& Grid() const { return *moGrid; }
-    RecordingTabStrip& Tabs() const { return *moTabs; }
+    const ViewVariant& Variant() const { return mVariant; }
+    /// What scrolls the picture; null and empty where nothing does.
+    RecordingScrollBar* Bar() const { return moBar; }
+    const std::map<std::string, RecordingButton*>& Buttons() const { return mcolButtons; }
+    /// Null where the table shows one rack only.
+    RecordingTabStrip* Tabs() const { return moTabs; }
     RecordingPopupForm& Form() const { return *moForm; }
     RecordingPopupMenu& TableMenu() const { return *moTableMenu; }
     VxHWConfigManager& Manager() const { return *moManager; }
@@ -113,6 +125,31 @@ public:
         if (!station->IsDrawable()) wrong += "the station's drawing stays off\n";
         return wrong;
     }
+    /// What must hold for the rows of a distributed station wherever both views are scrolled.
+    std::string WhatIsWrongInRows() const
+    {
+        if (moBar == nullptr) return {};
+        constexpr std::int32_t TipHeight = 7;
+        std::string wrong;
+        const RowsLayout layout = RowsOf(*view);
+        const std::int32_t lFirst = moBar->Value();
+        const bool bScrolls = layout.RowCount() > 4;
+        if (lFirst < 0 || lFirst > std::max(layout.RowCount() - 4, 0) || moPicture->Top() != -96 * lFirst ||
+            moBar->Visible() != bScrolls)
+            wrong += "row " + std::to_string(lFirst) + " is the first\n";
+        const PositionInfo focus = G_PositionInfo(view->VxHWSelectionHandler()->FocusPosition());
+        const auto cell = layout.CellOf(focus);
+        if (focus.eType == vxPositionPlace && !cell) wrong += "the focus is on a hidden place\n";
+
+        const std::int32_t lRow = layout.Shown().IndexOf(focus.lNumber) - moGrid->TopRow();
+        const bool bShown = focus.eType == vxPositionPlace && cell && cell->lRow >= lFirst && cell->lRow < lFirst + 4 &&
+                            lRow >= 0 && lRow < dynamic_cast<const VxHWRackTableRIO&>(*table).RowsInView();
+        const RecordingShape& tip = *mcolShapes.at("shp_End").front();
+        const std::int32_t lMiddle = VxHWRackTableRIO::HeaderBottom + lRow * moGrid->RowHeight() + TipHeight;
+        if (tip.Visible() != bShown || (bShown && tip.Bounds().top + TipHeight / 2 != lMiddle))
+            wrong += "the arrow leads to " + std::to_string(tip.Bounds().top) + "\n";
+        return wrong;
+    }
     /// Where the picture differs from that of an overview that is made just now; empty when it does not.
     std::string DifferenceFromAFreshPicture() const
     {
@@ -120,9 +157,11 @@ public:
         toolkit->shapes.clear();
         const auto fresh = mVariant.makeOverview(site);
         CopyBinding(*view, *fresh);
-        RecordingPictureBox& picture = *toolkit->pictureBoxes.at("pic_Main");
+        RecordingPictureBox& picture = *toolkit->pictureBoxes.at(mVariant.picture);
         picture.Focus(moPicture->HasFocus());
         fresh->Refresh();
+        if (moBar != nullptr) toolkit->scrollBars.at("scb_Main")->DragTo(moBar->Value());
+        PointArrow(*fresh);
         const std::string difference = Raster::FirstDifference(moPicture->raster, picture.raster);
         const std::string look = LookOf(mcolShapes);
         return look == LookOf(toolkit->shapes) ? difference : difference + " shapes:\n" + look;
@@ -134,8 +173,9 @@ public:
         const auto fresh = mVariant.makeTable(site);
         CopyBinding(*table, *fresh);
         fresh->Refresh();
-        const std::string expected = LookOf(*toolkit->grids.at("vxgrd_Main"), *toolkit->tabStrips.at("vxtab_Main"));
-        const std::string actual = LookOf(*moGrid, *moTabs);
+        const std::string expected =
+            LookOf(*toolkit->grids.at("vxgrd_Main"), moTabs != nullptr ? toolkit->tabStrips.at("vxtab_Main") : nullptr);
+        const std::string actual = LookOf(*moGrid, moTabs);
         return actual == expected ? std::string() : "the table shows\n" + actual + "a fresh one\n" + expected;
     }
     /// Forgets what the doubles have recorded.
@@ -153,6 +193,7 @@ public:
     /// Gives a view what another one has from the manager.
     static void CopyBinding(const IVxHWControl& from, IVxHWControl& to)
     {
+        to.StationType(from.StationType());
         to.Style(from.Style());
         to.Locked(from.Locked());
         to.VxHWDiagService(from.VxHWDiagService());
@@ -169,6 +210,8 @@ public:
     CallLogPtr log = services.log;
     std::shared_ptr<RecordingToolkit> toolkit = services.toolkit;
     std::shared_ptr<FakeHost> host = services.host;
+    /// A setting of the desktop has changed.
+    std::function<void(std::int32_t)> settingChanged;
     /// What the parameter dialog answers.
     std::function<std::optional<reference::ModuleData>(const reference::ModuleData&)> parameters;
     reference::StationPtr station;
@@ -185,6 +228,16 @@ public:
     std::int32_t refusals = 0;
 
 private:
+    /// As the window does that holds both views.
+    void PointArrow(IVxHWControl& overview) const
+    {
+        if (auto* rows = dynamic_cast<VxHWRackOverviewRIO*>(&overview)) {
+            const auto& tableOfRows = dynamic_cast<const VxHWRackTableRIO&>(*table);
+            rows->RackTableTopRow(tableOfRows.TopRow());
+            rows->RackTableRowsInView(tableOfRows.RowsInView());
+        }
+    }
+
     static std::string LookOf(const RecordingToolkit::ShapesByName& shapesByName)
     {
         std::string look;
@@ -196,10 +249,13 @@ private:
         return look;
     }
 
-    static std::string LookOf(const RecordingGrid& grid, const RecordingTabStrip& tabs)
+    static std::string LookOf(const RecordingGrid& grid, const RecordingTabStrip* tabs)
     {
-        std::string look = "tab " + std::to_string(tabs.SelectedTab());
-        for (const auto& tab : tabs.tabs) look += tab.enabled ? " on" : " off";
+        std::string look;
+        if (tabs != nullptr) {
+            look = "tab " + std::to_string(tabs->SelectedTab());
+            for (const auto& tab : tabs->tabs) look += tab.enabled ? " on" : " off";
+        }
         for (std::int32_t lRow = 0; lRow <= grid.RowCount(); ++lRow) {
             look += "\n" + grid.RowText(lRow);
             for (std::int32_t lColumn = 1; lRow > 0 && lColumn <= grid.ColumnCount(); ++lColumn) {
@@ -216,11 +272,14 @@ private:
     std::unique_ptr<RecordingControl> moTableSite;
     std::unique_ptr<VxHWConfigManager> moManager = std::make_unique<VxHWConfigManager>();
     EventConnection mRefused;
+    EventConnection mTopRowChange;
     std::vector<std::function<void()>> mcolSysColorsChanged;
     std::vector<RecordingPictureBox*> mcolPictures;
     RecordingToolkit::ShapesByName mcolShapes;
+    std::map<std::string, RecordingButton*> mcolButtons;
     RecordingPictureBox* moPicture = nullptr;
     RecordingPopupMenu* moMenu = nullptr;
+    RecordingScrollBar* moBar = nullptr;
     RecordingGrid* moGrid = nullptr;
     RecordingTabStrip* moTabs = nullptr;
     RecordingPopupForm* moForm = nullptr;

@@ -29,7 +29,8 @@ constexpr std::int32_t OtherRack = G_PlacePosition(1, 4);
 
 reference::StationData SmallStation(const ViewVariant& variant)
 {
-    auto data = reference::ExampleStation(variant.examples.front());
+    auto data = variant.sample();
+    if (!variant.IsCentral()) return data;
     data.racks.resize(std::min<std::size_t>(data.racks.size(), 2));
     for (auto& oRack : data.racks) {
         auto rack = std::make_shared<reference::RackData>(*oRack);
@@ -146,7 +147,7 @@ Step Focus(std::int32_t lPosition)
 /// A position of the overview as the mouse meets it; beside all racks without one.
 std::pair<float, float> At(const Editor& editor, std::int32_t lPosition)
 {
-    const Point at = lPosition < 0 ? Point{234, 375} : editor.PointOf(lPosition);
+    const Point at = lPosition < 0 ? Point{210, 375} : editor.PointOf(lPosition);
     return {static_cast<float>(at.x), static_cast<float>(at.y)};
 }
 
@@ -197,9 +198,11 @@ Step Command(void (VxHWConfigManager::*command)() noexcept)
     return [=](Editor& editor) { (editor.Manager().*command)(); };
 }
 
-Step Insert(const char* orderNumber)
+Step Insert(const char* ViewVariant::*orderNumber)
 {
-    return [=](Editor& editor) { editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule(orderNumber)); };
+    return [=](Editor& editor) {
+        editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule(editor.Variant().*orderNumber));
+    };
 }
 
 /// What the drag carries is kept where later steps find it.
@@ -347,7 +350,7 @@ Step Edited(const char* key, const char* typed)
 
 Step Tab(void (RecordingTabStrip::*event)(std::int32_t), std::int32_t lTab = 1)
 {
-    return [=](Editor& editor) { (editor.Tabs().*event)(lTab); };
+    return [=](Editor& editor) { (editor.Tabs()->*event)(lTab); };
 }
 
 /// The list of sub-modules, opened by its button.
@@ -401,7 +404,7 @@ std::vector<Operation> CommonOperations()
         {"TooltipCompare", Styled(vxStyleHWCompare), Hover(Digital), 0, "overview.P_GetTooltipHWCompare"},
 
         // Its keys, and the commands.
-        {"Cursor", two, Key(vxKeyUp), 0, "overview.P_CursorKeyDown"},
+        {"Cursor", two, Key(vxKeyRight)},
         {"ShiftCursor", two, Key(vxKeyRight, Shift)},
         {"CursorOnline", two, Key(vxKeyLeft), ReadOnly | Online},
         {"Space", two, Key(vxKeySpace)},
@@ -416,9 +419,9 @@ std::vector<Operation> CommonOperations()
         {"CopyReadOnly", wide, Command(&Manager::Copy), ReadOnly},
         {"Paste", Then(copied, empty), Command(&Manager::Paste)},
         {"EditModuleParams", one, Command(&Manager::EditModuleParams)},
-        {"Insert", empty, Insert("Q3-DI16-A"), LeavesDrawingOff},
-        {"InsertWide", Selected(Empty, Empty + 2), Insert("Q3-AO08-W"), LeavesDrawingOff | Stepwise},
-        {"InsertAtGap", Focus(Empty - 1), Insert("Q3-DI16-A"), LeavesDrawingOff},
+        {"Insert", empty, Insert(&ViewVariant::digital), LeavesDrawingOff},
+        {"InsertWide", Selected(Empty, Empty + 2), Insert(&ViewVariant::wide), LeavesDrawingOff | Stepwise},
+        {"InsertAtGap", Focus(Empty - 1), Insert(&ViewVariant::digital), LeavesDrawingOff},
         // Drags.
         {"StartDrag", one, &StartDrag},
         {"DragIntoView", dragged, Over(Empty, vxDragEnter), Draws,
@@ -432,11 +435,10 @@ std::vector<Operation> CommonOperations()
 
         // What the overview is told.
         {"PlaceChange", two, Tell([](auto& s) { s.RackPlaceChange.Raise(Watch(s.Log(), s.Place(0, 5))); }), 0,
-         "overview.moHWStation_RackPlaceChange overview.P_GetModulePicName "
-         "overview.P_DrawBorder table.moHWStation_RackPlaceChange"},
+         "overview.moHWStation_RackPlaceChange overview.P_GetModulePicName table.moHWStation_RackPlaceChange"},
         {"TotalRefresh", two, Tell([](auto& s) { s.TotalRefresh.Raise(); }), Draws,
          "overview.moHWStation_TotalRefresh table.moHWStation_TotalRefresh"},
-        {"SelectWide", one, wide, 0, "overview.P_SetBorderSelection"},
+        {"SelectWide", one, Selected(Wide, Wide + 2), 0, "overview.P_SetBorderSelection"},
         {"FocusGap", one, Focus(Digital + 1), 0, "overview.P_ResetPlaceFocus overview.P_SetGapFocus"},
         {"FocusPlace", Focus(Digital + 1), Focus(Digital), 0, "overview.P_ResetGapFocus overview.P_SetPlaceFocus"},
         {"Keyboard", one, [](Editor& editor) { editor.Picture().Focus(false); }},
@@ -552,6 +554,7 @@ std::vector<Operation> RackOperations()
     const Step draggedOver = Then(Then(one, &StartDrag), Over(Empty, vxDragEnter));
     return {
         {"ClickOnRack", two, Click(1000), Draws},
+        {"CursorToRack", two, Key(vxKeyUp), 0, "overview.P_CursorKeyDown"},
         {"ShiftClick", two, Click(OtherRack, Shift)},
         {"CtrlClickInOtherRack", two, Click(OtherRack, Ctrl)},
         {"SelectRack", one,
@@ -560,6 +563,8 @@ std::vector<Operation> RackOperations()
              handler->SelectRack(editor.watched->Rack(1));
          }},
         {"DropOnRack", draggedOver, Drop(1000), Draws},
+        {"GroupChange", two, Tell([](auto& s) { s.RackPlaceChange.Raise(Watch(s.Log(), s.Place(0, 5))); }), 0,
+         "overview.P_DrawBorder"},
         {"LinkChange", two, Tell([](auto& s) { s.RackPlaceChange.Raise(Watch(s.Log(), s.Place(1, 3))); }), 0,
          "overview.P_CheckIMLinks"},
         {"RackChange", two, Tell([](auto& s) { s.RackChange.Raise(Watch(s.Log(), s.Rack(1))); }), 0,
@@ -571,6 +576,62 @@ std::vector<Operation> RackOperations()
         {"TabDragHover", draggedOver, Tab(&RecordingTabStrip::DragHover), Draws},
         {"TabClickInEditor", Edited("Comment", "Typed"), Tab(&RecordingTabStrip::Click), Draws},
         {"FocusInEditor", Edited("Comment", "Typed"), Focus(OtherRack), Draws},
+    };
+}
+
+Step Button(const char* name, void (*event)(Editor&, ButtonEvents&))
+{
+    return [=](Editor& editor) { event(editor, editor.Buttons().at(name)->User()); };
+}
+
+/// The drag rests on the button until it has scrolled.
+void DragOverButton(Editor& editor, ButtonEvents& button)
+{
+    std::int32_t lEffect = vxDropEffectCopyOrMove;
+    for (const std::int16_t nState : {vxDragEnter, vxDragOver, vxDragLeave}) {
+        button.OLEDragOver(editor.drag, lEffect, vxButtonLeft, 0, nState);
+        editor.toolkit->clock.Advance(260);
+    }
+}
+
+/// What scrolls rows of places.
+std::vector<Operation> RowOperations()
+{
+    constexpr std::int32_t Last = G_PlacePosition(0, 38);
+    const Step one = Selected(Digital, Digital);
+    const Step draggedOver = Then(Then(one, &StartDrag), Over(Empty, vxDragEnter));
+    const Step draggedOn = Then(draggedOver, Button("cmd_ScrollDown", &DragOverButton));
+    return {
+        {"ScrollByBar", one, [](Editor& editor) { editor.Bar()->DragTo(1); }, 0, "overview.P_Scroll"},
+        {"ScrollByWheel", one, [](Editor& editor) { editor.Keys().MouseWheel(-1); }},
+        {"ScrollByButton", one,
+         Button("cmd_ScrollDown",
+                [](Editor& editor, ButtonEvents& button) {
+                    button.MouseDown(vxButtonLeft);
+                    editor.toolkit->clock.Advance(700);
+                    button.MouseUp(vxButtonLeft);
+                })},
+        {"ScrollByDrag", draggedOver, Button("cmd_ScrollDown", &DragOverButton), Draws},
+        {"DropAfterScroll", Then(draggedOn, Over(Last - 4, vxDragEnter)), Drop(Last - 4), Draws},
+        {"ScrollByBand", Then(Press(-1), Move(20, 330)),
+         [](Editor& editor) {
+             editor.Mouse().MouseMove(vxButtonLeft, 0, 20, 450);
+             editor.toolkit->clock.Advance(250);
+         },
+         0, "overview.P_ScrollOnRubberBand"},
+        {"ScrollByFocus", one, Focus(Last), 0, "overview.P_SetArrow table.P_EnsureVisibleFocus"},
+        {"ScrollTable", one, [](Editor& editor) { editor.Grid().ScrollTo(5); }, 0, "overview.P_SetArrow"},
+        {"RowHidden", one,
+         [](Editor& editor) {
+             editor.watched->ChangePlace(0, 20, [](auto& place) { place.usability = vxPlaceNotUsable; });
+         },
+         Draws},
+        {"WiderBar", one,
+         [](Editor& editor) {
+             editor.toolkit->scrollBarSize = 20;
+             editor.settingChanged(vxSettingNonClientMetrics);
+         },
+         0, "overview.UserControl_Resize"},
     };
 }
 
@@ -590,7 +651,7 @@ std::vector<Case> Cases()
     std::vector<Case> cases;
     for (const ViewVariant& variant : ViewVariants) {
         auto operations = CommonOperations();
-        const auto more = variant.racks > 1 ? RackOperations() : std::vector<Operation>();
+        const auto more = variant.IsCentral() ? RackOperations() : RowOperations();
         operations.insert(operations.end(), more.begin(), more.end());
         for (const Operation& operation : operations)
             for (const Fault fault : {Fault::Fails, Fault::AnswersNothing, Fault::EndsTheMode})
@@ -652,7 +713,7 @@ public:
         mEditor.Keys().KeyDown(vxKeyDelete, 0);
         EXPECT_EQ(mEditor.Text() == before, mOperation.Has(ReadOnly));
         EXPECT_EQ(mEditor.DifferenceFromAFreshPicture() + mEditor.DifferenceFromAFreshTable(), "");
-        EXPECT_EQ(mEditor.WhatIsWrong(), "");
+        EXPECT_EQ(mEditor.WhatIsWrong() + mEditor.WhatIsWrongInRows(), "");
     }
 
     std::string before;
@@ -676,6 +737,8 @@ private:
         mEditor.toolkit->clock.Advance(20);
         mEditor.Grid().Key(vxKeyEscape);
         mEditor.Picture().Focus(true);
+        mEditor.toolkit->scrollBarSize = 13;
+        if (mEditor.settingChanged) mEditor.settingChanged(vxSettingNonClientMetrics);
         for (auto* site : {&mEditor.Site(), &mEditor.TableSite()}) site->Resize(3900, 6000);
     }
 

@@ -44,13 +44,13 @@ protected:
         grid.EndEditing(false);
     }
 
-    Editor editor{reference::ExampleStation(GetParam().examples.front()), GetParam()};
+    Editor editor{GetParam().sample(), GetParam()};
     VxHWRackTable& table = dynamic_cast<VxHWRackTable&>(*editor.table);
     RecordingGrid& grid = editor.Grid();
-    RecordingTabStrip& tabs = editor.Tabs();
+    RecordingTabStrip& tabs = *editor.Tabs();
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, RackTable, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Every, RackTable, ::testing::Values(CentralViews), ::testing::PrintToStringParamName());
 
 TEST_P(RackTable, ShowsARowForEveryPlace)
 {
@@ -369,7 +369,7 @@ protected:
     const std::string before = editor.Text();
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, SubModules, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Every, SubModules, ::testing::Values(CentralViews), ::testing::PrintToStringParamName());
 
 TEST_P(SubModules, OpenUnderTheirColumns)
 {

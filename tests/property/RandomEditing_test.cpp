@@ -30,7 +30,9 @@ std::int64_t UseAnEditor(const ViewVariant& variant, const char* example, std::u
 {
     SCOPED_TRACE(std::string(example) + ", seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    Editor editor(reference::ExampleStation(example), variant);
+    auto data = reference::ExampleStation(example);
+    data.readOnly = false;
+    Editor editor(std::move(data), variant);
     const std::string first = editor.Text();
     std::int64_t changes = 0;
     const EventConnection counting = editor.history->Changed.Connect([&] { ++changes; });
@@ -39,7 +41,7 @@ std::int64_t UseAnEditor(const ViewVariant& variant, const char* example, std::u
     const std::int64_t stepsBetweenPictures = events < EventsPerSession ? 3 : 150;
     for (std::int64_t step = 0; user.Events() < events; ++step) {
         const std::string action = user.DoSomething();
-        const std::string wrong = editor.WhatIsWrong();
+        const std::string wrong = editor.WhatIsWrong() + editor.WhatIsWrongInRows();
         if (!wrong.empty()) {
             ADD_FAILURE() << "after step " << step << ", " << action << ":\n" << wrong;
             return user.Events();

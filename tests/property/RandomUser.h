@@ -39,7 +39,7 @@ public:
             Action{8, "key in the table", &RandomUser::KeyInTable},
             Action{10, "typing", &RandomUser::TypeInCell},
             Action{6, "drag of a row", &RandomUser::DragRow},
-            Action{5, "tab", &RandomUser::Tab},
+            Action{8, "tab or scrolling", &RandomUser::TabOrScroll},
             Action{4, "sub-modules", &RandomUser::SubModules},
             Action{12, "menu", &RandomUser::Menu},
             Action{5, "catalogue", &RandomUser::TakeFromCatalogue},
@@ -78,13 +78,14 @@ private:
     void Press()
     {
         // Where this begins a drag, nothing comes of the drag; beside the racks it is a rubber band.
-        const auto [x, y] = OneIn(2) ? AnyPoint() : std::pair(234.F, static_cast<float>(Any(0, 391)));
+        const auto [x, y] = OneIn(2) ? AnyPoint() : PointBesidePlaces();
         const std::int16_t nButton = AnyButton();
         Mouse().MouseDown(nButton, 0, x, y);
         for (std::int32_t moves = Any(1, 6); moves > 0; --moves) {
             const auto [x2, y2] = AnyPoint();
             Mouse().MouseMove(nButton, 0, x2, y2);
             if (OneIn(4)) TypeAttribute();
+            if (OneIn(4)) Wait();
         }
         const auto [x3, y3] = AnyPoint();
         Mouse().MouseUp(nButton, AnyShift(), x3, y3);
@@ -156,7 +157,7 @@ private:
             std::int16_t nState = vxDragEnter;
             GridMouse mouse;
             for (std::int32_t moves = Any(1, 6); moves > 0; --moves) {
-                if (OneIn(6)) moEditor.Tabs().DragHover(Any(0, 3));
+                if (OneIn(6) && moEditor.Tabs() != nullptr) moEditor.Tabs()->DragHover(Any(0, 3));
                 mouse = {vxButtonLeft, nShift, Grid().Middle(AnyCell())};
                 lEffect = vxDropEffectCopyOrMove;
                 Grid().User().OLEDragOver(data, lEffect, mouse, nState);
@@ -178,17 +179,41 @@ private:
         moEditor.table->Refresh();
     }
 
-    void Tab()
+    void TabOrScroll()
     {
+        if (moEditor.Tabs() == nullptr) return Scroll();
         const std::int32_t lTab = Any(0, 3);
-        if (OneIn(2)) moEditor.Tabs().Hover(lTab);
-        else moEditor.Tabs().Click(lTab);
+        if (OneIn(2)) moEditor.Tabs()->Hover(lTab);
+        else moEditor.Tabs()->Click(lTab);
         ++mlEvents;
     }
 
+    void Scroll()
+    {
+        switch (Any(1, 4)) {
+        case 1:
+            Keys().MouseWheel(static_cast<float>(Any(-8, 8)) / 4);
+            break;
+        case 2:
+            moEditor.Bar()->DragTo(Any(0, moEditor.Bar()->maximum));
+            break;
+        case 3:
+            Grid().ScrollTo(Any(1, std::max(moEditor.Grid().RowCount() - 11, 1)));
+            break;
+        default:
+            auto& button = AnyScrollButton();
+            button.MouseDown(AnyButton());
+            Wait();
+            button.MouseUp(vxButtonLeft);
+        }
+    }
+
+    void Wait() { moEditor.toolkit->clock.Advance(Any(0, 700)); }
+    ButtonEvents& AnyScrollButton() { return moEditor.Buttons().at(OneOf({"cmd_ScrollUp", "cmd_ScrollDown"}))->User(); }
+
     void SubModules()
     {
-        for (std::int32_t lRow = 1; lRow <= Grid().RowCount(); ++lRow) {
+        for (std::int32_t lRow = Grid().TopRow(); lRow <= Grid().RowCount(); ++lRow) {
             const GridCell cell = Grid().Cell(lRow, "I-Address");
             if (Grid().Look(cell).kind != CellKind::PushButton) continue;
             Grid().Click(cell);
@@ -214,6 +239,11 @@ private:
             lEffect = vxDropEffectCopyOrMove;
             Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, at.first, at.second, nState);
             nState = vxDragOver;
+            if (!OneIn(4) || moEditor.Buttons().empty()) continue;
+            auto& button = AnyScrollButton();
+            button.OLEDragOver(data, lEffect, vxButtonLeft, nShift, vxDragEnter);
+            Wait();
+            button.OLEDragOver(data, lEffect, vxButtonLeft, nShift, vxDragLeave);
         }
         if (OneIn(4)) {
             Mouse().OLEDragOver(data, lEffect, vxButtonLeft, nShift, at.first, at.second, vxDragLeave);
@@ -251,8 +281,10 @@ private:
 
     void TakeFromCatalogue()
     {
-        const auto& type = OneOf(reference::ShippedCatalogue().Types());
-        Commands().SetSingleModuleToCurPos(moEditor.station->CreateModule(type.orderNumber));
+        const ViewVariant& variant = moEditor.Variant();
+        const std::string orderNumber = OneIn(2) ? OneOf(reference::ShippedCatalogue().Types()).orderNumber
+                                                 : std::string(OneOf({variant.digital, variant.wide}));
+        Commands().SetSingleModuleToCurPos(moEditor.station->CreateModule(orderNumber));
     }
 
     /// The answer of the parameter dialog.
@@ -280,7 +312,9 @@ private:
         handler.SelPlaces()->Clear();
         handler.SelPlaces()->Add(AnyPlace());
         handler.SelChangeComplete();
-        handler.FocusPosition(G_PlacePosition(0, 0) + Any(0, 23));
+        const std::int32_t lFocus = G_PlacePosition(0, 0) + Any(0, 23);
+        if (moEditor.Variant().IsCentral() || RowsOf(*moEditor.view).CellOf(G_PositionInfo(lFocus)))
+            handler.FocusPosition(lFocus);
         moEditor.station->IsDrawable(true);
     }
 
@@ -298,7 +332,12 @@ private:
 
     RecordingGrid& Grid() { return ++mlEvents, moEditor.Grid(); }
     /// In the table, one of the rows without a place included.
-    GridCell AnyCell() { return {Any(1, moEditor.Grid().RowCount()), Any(1, moEditor.Grid().ColumnCount())}; }
+    GridCell AnyCell()
+    {
+        const RecordingGrid& grid = moEditor.Grid();
+        const std::int32_t lTop = grid.TopRow();
+        return {Any(lTop, std::min(lTop + 10, grid.RowCount())), Any(1, grid.ColumnCount())};
+    }
     PictureBoxEvents& Mouse() { return ++mlEvents, moEditor.Mouse(); }
     UserControlEvents& Keys() { return ++mlEvents, moEditor.Keys(); }
     VxHWConfigManager& Commands() { return ++mlEvents, moEditor.Manager(); }
@@ -323,12 +362,22 @@ private:
         return OneOf<std::int16_t>({0, 0, 0, vxShiftMask, vxCtrlMask, vxCtrlMask | vxShiftMask});
     }
     std::int16_t AnyButton() { return OneIn(4) ? vxButtonRight : vxButtonLeft; }
-    /// Mostly in a place or gap of a rack.
+    /// Mostly in a place or gap that is seen.
     std::pair<float, float> AnyPoint()
     {
-        if (OneIn(12)) return {static_cast<float>(Any(-20, 260)), static_cast<float>(Any(-20, 420))};
+        const auto lTop = static_cast<float>(-moEditor.Picture().Top());
+        if (OneIn(12)) return {static_cast<float>(Any(-20, 260)), lTop + static_cast<float>(Any(-20, 420))};
         // Anywhere in the row of places of a rack, its number and both outer gaps included.
-        return {static_cast<float>(Any(12, 226)), static_cast<float>(Any(0, 3) * 92 + Any(30, 89))};
+        const std::int32_t lRow = Any(0, 3);
+        if (moEditor.Variant().IsCentral())
+            return {static_cast<float>(Any(12, 226)), static_cast<float>(lRow * 92 + Any(30, 89))};
+        return {static_cast<float>(Any(12, 202)), lTop + static_cast<float>(lRow * 96 + Any(10, 84))};
+    }
+    /// Where a rubber band may begin.
+    std::pair<float, float> PointBesidePlaces()
+    {
+        const float x = moEditor.Variant().IsCentral() ? 234.F : 210.F;
+        return {x, static_cast<float>(Any(0, 391) - moEditor.Picture().Top())};
     }
 
     VxHWRackPlacePtr AnyPlace()

@@ -7,10 +7,9 @@ namespace {
 
 using namespace ::testing;
 
-class OverviewDrawing : public AnyOverview {};
-INSTANTIATE_TEST_SUITE_P(Every, OverviewDrawing, ValuesIn(ViewVariants), PrintToStringParamName());
+class OverviewDrawing : public CentralOverview {};
 
-TEST_P(OverviewDrawing, LockingChangesTheBackgroundAndDrawsAnew)
+TEST_F(OverviewDrawing, LockingChangesTheBackgroundAndDrawsAnew)
 {
     const auto lock = [&] { view->Locked(true); };
     const auto lines = DrawnBy(lock);
@@ -23,7 +22,7 @@ TEST_P(OverviewDrawing, LockingChangesTheBackgroundAndDrawsAnew)
               "BackColor " + std::to_string(G_Rgb(234, 232, 228)));
 }
 
-TEST_P(OverviewDrawing, PlacesShowTheirUsabilityAndTheDrag)
+TEST_F(OverviewDrawing, PlacesShowTheirUsabilityAndTheDrag)
 {
     struct Case {
         std::int32_t usability;
@@ -50,7 +49,7 @@ TEST_P(OverviewDrawing, PlacesShowTheirUsabilityAndTheDrag)
         << "the drag leaves modules alone";
 }
 
-TEST_P(OverviewDrawing, ModulePicturesComeFromTheListOrFromAFileThatIsLoadedOnce)
+TEST_F(OverviewDrawing, ModulePicturesComeFromTheListOrFromAFileThatIsLoadedOnce)
 {
     services.host->settings[{"Software\\Halvar\\Quillon_Ed\\General\\Paths", "DataDirectory"}] = "C:\\Data";
     auto& files = *toolkit->imageLists.files;
@@ -70,7 +69,7 @@ TEST_P(OverviewDrawing, ModulePicturesComeFromTheListOrFromAFileThatIsLoadedOnce
     EXPECT_EQ(files.asked.size(), 2U) << "a built-in picture was looked for among the files";
 }
 
-TEST_P(OverviewDrawing, GroupFramesFollowTheModulesAndTheirSelection)
+TEST_F(OverviewDrawing, GroupFramesFollowTheModulesAndTheirSelection)
 {
     station->Put(0, 4, "IO_DIGITAL3");
     EXPECT_EQ(DrawingOf(0, 4).back(), "Image FRAME_LEFT 0/4 style 1");
@@ -95,12 +94,14 @@ TEST_P(OverviewDrawing, GroupFramesFollowTheModulesAndTheirSelection)
     EXPECT_EQ(G_GroupFrameKey(variant.style, *oMember, oMember), variant.style.frameTotal);
 }
 
-TEST_P(OverviewDrawing, ASelectionChangeDrawsOnlyWhatChangedAndTellsIt)
+TEST_F(OverviewDrawing, ASelectionChangeDrawsOnlyWhatChangedAndTellsIt)
 {
     Select({{0, 4}, {0, 5}, {0, 1}});
     Lines events;
-    const auto content = variant.contentChange(*view).Connect([&] { events.emplace_back("content"); });
-    const auto selection = variant.selChange(*view).Connect([&] { events.emplace_back("selection"); });
+    const auto content =
+        dynamic_cast<VxHWRackOverview&>(*view).ContentChange.Connect([&] { events.emplace_back("content"); });
+    const auto selection =
+        dynamic_cast<VxHWRackOverview&>(*view).SelChange.Connect([&] { events.emplace_back("selection"); });
     EXPECT_THAT(DrawnBy([&] {
                     Select({{0, 5}, {0, 1}, {0, 7}});
                 }),
@@ -121,7 +122,7 @@ TEST_P(OverviewDrawing, ASelectionChangeDrawsOnlyWhatChangedAndTellsIt)
     EXPECT_THAT(TakeReports(), ElementsAre(EndsWith(".moHWStation_RackPlaceChange")));
 }
 
-TEST_P(OverviewDrawing, WhatChangesWhileDrawingIsOffIsDrawnWhenItIsOnAgain)
+TEST_F(OverviewDrawing, WhatChangesWhileDrawingIsOffIsDrawnWhenItIsOnAgain)
 {
     view->Refresh();
     station->drawable = false;
@@ -149,7 +150,7 @@ TEST_P(OverviewDrawing, WhatChangesWhileDrawingIsOffIsDrawnWhenItIsOnAgain)
                 Contains("Image PLACE_ACTIVE 0/1 style 0"));
 }
 
-TEST_P(OverviewDrawing, TheFocusMarkShowsWhetherThePictureHasTheKeyboard)
+TEST_F(OverviewDrawing, TheFocusMarkShowsWhetherThePictureHasTheKeyboard)
 {
     handler->FocusPosition(8);
     view->VxHWStation(nullptr);
@@ -160,7 +161,7 @@ TEST_P(OverviewDrawing, TheFocusMarkShowsWhetherThePictureHasTheKeyboard)
     EXPECT_THAT(DrawnBy([&] { Pic().Focus(false); }), Contains(EndsWith("5x2 gray")));
 }
 
-TEST_P(OverviewDrawing, DiagnosticsDrawSymbolsOnModulesOnRefreshOnly)
+TEST_F(OverviewDrawing, DiagnosticsDrawSymbolsOnModulesOnRefreshOnly)
 {
     station->Put(0, 2, "CPU");
     diag->failures = {{"0/2", 1}, {"0/5", 1}};
@@ -175,7 +176,7 @@ TEST_P(OverviewDrawing, DiagnosticsDrawSymbolsOnModulesOnRefreshOnly)
     }
 }
 
-TEST_P(OverviewDrawing, CompareDrawsTheResultOnEveryPlace)
+TEST_F(OverviewDrawing, CompareDrawsTheResultOnEveryPlace)
 {
     view->Style(vxStyleHWCompare);
     Lines expected;
@@ -323,8 +324,13 @@ TEST_F(CentralDrawing, SmallAndHugeStationsDrawWhatFits)
 
 TEST_F(CentralDrawing, CoordinatesAreThoseOfTheControl)
 {
-    EXPECT_EQ(variant.pointOf(*view, -1), (Point{4, 0}));
-    EXPECT_EQ(variant.pointOf(*view, 2023), (Point{227, 152}));
+    const auto pointOf = [&](std::int32_t lPosition) {
+        Point at;
+        dynamic_cast<VxHWRackOverview&>(*view).CoordinatesByPosition(lPosition, at.x, at.y);
+        return at;
+    };
+    EXPECT_EQ(pointOf(-1), (Point{4, 0}));
+    EXPECT_EQ(pointOf(2023), (Point{227, 152}));
     const auto positionAt = [&](std::int32_t x, std::int32_t y) {
         std::int32_t lPosition = 0;
         dynamic_cast<VxHWRackOverview&>(*view).PositionByCoordinates(x, y, lPosition);

@@ -19,6 +19,8 @@ protected:
                                  "IDB_DIAG_CPU_STOP", "IDB_DIAG_CPU_HOLD", "IDB_DIAG_FAILURE", "IDB_COMP_EQUAL",
                                  "IDB_COMP_POTEQUAL", "IDB_COMP_NOMODULE", "IDB_COMP_MODULEDIFF", "IDB_COMP_PARAMDIFF"})
             services.host->pictures[name] = std::make_shared<FakeImage>(name);
+        for (const std::string& name : variant.RowPictures())
+            services.host->pictures[name] = std::make_shared<FakeImage>(name);
         view = MakeView(site);
     }
     void TearDown() override
@@ -31,6 +33,7 @@ protected:
     IVxHWControlPtr MakeView(RecordingControl& control) const
     {
         auto made = variant.makeOverview(control);
+        made->StationType(variant.eStationType);
         made->Style(vxStyleHWConfig);
         made->VxHWStation(station);
         made->VxHWCompareService(compare);
@@ -42,14 +45,17 @@ protected:
         return made;
     }
 
-    RecordingPictureBox& Pic() const { return *toolkit->pictureBoxes.at("pic_Main"); }
+    RecordingPictureBox& Pic() const { return *toolkit->pictureBoxes.at(variant.picture); }
     RecordingPictureBox& DragPic() const { return *toolkit->pictureBoxes.at("pic_Drag"); }
     RecordingPopupMenu& Menu() const { return *toolkit->menus.at("pmnu_Main"); }
     PictureBoxEvents& Mouse() const { return Pic().User(); }
-    Point CenterOf(std::int32_t lPosition) const
+    Point CenterOf(std::int32_t lPosition) const { return variant.pointOf(*view, lPosition); }
+    /// Of the picture, in the control.
+    Point PictureOrigin() const
     {
-        const Point at = variant.pointOf(*view, lPosition);
-        return {at.x - Pic().Left(), at.y - Pic().Top()};
+        const auto viewport = toolkit->controls.find("pic_Back");
+        const Rect outer = viewport != toolkit->controls.end() ? viewport->second->bounds : Rect{};
+        return {outer.left + Pic().Left(), outer.top + Pic().Top()};
     }
     Rect RectOf(std::int32_t lRack, std::int32_t lPlace) const { return variant.placeRect(*view, lRack, lPlace); }
 

@@ -24,7 +24,7 @@ void RecordingGrid::Reset()
     mcolOrder.clear();
     mLook = {};
     mCurrent = {};
-    mlTopRow = 1;
+    ScrollTo(1);
 }
 
 std::int32_t RecordingGrid::AddColumn(std::string_view caption)
