@@ -3,7 +3,9 @@
 #include "app/commandline/OpenStations.h"
 #include "app/commandline/ParseCommandLine.h"
 #include "app/commandline/RunCommand.h"
+#include "app/commandline/RunDiagnose.h"
 #include "app/commandline/RunRender.h"
+#include "app/commandline/RunSimulate.h"
 #include "app/commandline/TellErrors.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 
@@ -26,8 +28,8 @@ int refuse(const UsageError& error)
     return ExitUsage;
 }
 
-/// What the window system's layer remarks about the desktop is nothing to a command that needs none.
-void keepQuietAboutTheDesktop(QtMsgType type, const QMessageLogContext&, const QString& text)
+/// What the toolkit remarks about the desktop or the network is nothing to a command, which tells itself what matters.
+void keepQuiet(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     if (type == QtCriticalMsg || type == QtFatalMsg) Complain(std::cerr, text.toStdString());
 }
@@ -65,8 +67,17 @@ int runApplication(const CommandLine& line, const CommandStreams& streams, char*
     // The arguments have been read; the application gets none of them.
     int count = 1;
     const Application application(count, argv);
-    qInstallMessageHandler(line.command == Command::Render ? keepQuietAboutTheDesktop : nullptr);
+    qInstallMessageHandler(line.command == Command::Render ? keepQuiet : nullptr);
     return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
+}
+
+/// Commands that wait for others, but need no display.
+int runInLoop(const CommandLine& line, const CommandStreams& streams, char** argv)
+{
+    int count = 1;
+    const QCoreApplication application(count, argv);
+    qInstallMessageHandler(keepQuiet);
+    return line.command == Command::Diagnose ? RunDiagnose(line, streams) : RunSimulate(line, streams);
 }
 
 void nameProgram()
@@ -91,6 +102,7 @@ int run(int argc, char** argv)
 
     nameProgram();
     if (line.command == Command::Open || line.command == Command::Render) return runApplication(line, streams, argv);
+    if (line.command == Command::Diagnose || line.command == Command::Simulate) return runInLoop(line, streams, argv);
     return EndOutput(streams, LanguageOf(line), RunCommand(line, streams));
 }
 

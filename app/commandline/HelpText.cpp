@@ -14,6 +14,8 @@ Usage:
   quillon-ed check STATION...           list every broken rule
   quillon-ed list STATION               list the modules with their addresses
   quillon-ed convert IN OUT             write a station to another file or format
+  quillon-ed diagnose STATION           tell what the modules of the plant report
+  quillon-ed simulate STATION           be a plant whose modules fail and recover
 
 "quillon-ed COMMAND --help" tells more about a command. Only opening needs a display.
 
@@ -23,9 +25,9 @@ Options of every command:
   -h, --help      show this help
 
 Exit codes:
-  0  done; "check" found nothing
-  1  "check" found broken rules
-  2  the command line is wrong
+  0  done; "check" found nothing, "diagnose" no fault
+  1  "check" found broken rules, "diagnose" a faulty module
+  2  the command line is wrong; "diagnose" and "simulate": whatever else kept them from working
   3  a file could not be read or written, or there is no display for the window
 )",
             R"(Quillon Ed: die Hardware-Konfiguration von Stationen speicherprogrammierbarer Steuerungen
@@ -36,6 +38,8 @@ Aufruf:
   quillon-ed check STATION...           jede verletzte Regel nennen
   quillon-ed list STATION               die Baugruppen mit ihren Adressen auflisten
   quillon-ed convert EIN AUS            eine Station in eine andere Datei oder Form schreiben
+  quillon-ed diagnose STATION           sagen, was die Baugruppen der Anlage melden
+  quillon-ed simulate STATION           eine Anlage sein, deren Baugruppen ausfallen und wiederkommen
 
 "quillon-ed BEFEHL --help" sagt mehr zu einem Befehl. Nur das Öffnen braucht einen Bildschirm.
 
@@ -45,9 +49,9 @@ Optionen jedes Befehls:
   -h, --help      diese Hilfe zeigen
 
 Rückgabewerte:
-  0  getan; "check" hat nichts gefunden
-  1  "check" hat verletzte Regeln gefunden
-  2  die Befehlszeile ist falsch
+  0  getan; "check" hat nichts gefunden, "diagnose" keinen Fehler
+  1  "check" hat verletzte Regeln gefunden, "diagnose" eine gestörte Baugruppe
+  2  die Befehlszeile ist falsch; "diagnose" und "simulate": was immer sie sonst gehindert hat
   3  eine Datei ließ sich nicht lesen oder schreiben, oder dem Fenster fehlt ein Bildschirm
 )"};
 }
@@ -136,6 +140,70 @@ aktuellen Version des Formats), .csv oder .md (ihre Baugruppenliste). EIN bleibt
 )"};
 }
 
+LocalizedText diagnoseText()
+{
+    return {
+        R"(Usage: quillon-ed diagnose STATION --source SOURCE [--json|--csv] [--watch] [--record FILE] [--lang de|en]
+       quillon-ed diagnose STATION --map [--json|--csv] [--lang de|en]
+
+Tells which modules of the plant are faulty: what, since when, which channel, what to do.
+Exits with 0 when all are sound, with 1 when one is faulty, and with 2 when that cannot be said.
+
+  --source SOURCE   modbus-tcp://HOST:PORT[?unit=N]  the plant itself; unit 1 if not given
+                    recording:FILE                   what was recorded; its last state, with --watch all of it
+  --watch           tell what comes and goes, a line each, until a signal or the end of the recording
+  --record FILE     write what the plant tells to a new recording; goes on as --watch does
+  --json, --csv     for programs; with --watch a line each
+  --map             print the registers that a controller must offer, without a source
+)",
+        R"(Aufruf: quillon-ed diagnose STATION --source QUELLE [--json|--csv] [--watch] [--record DATEI] [--lang de|en]
+        quillon-ed diagnose STATION --map [--json|--csv] [--lang de|en]
+
+Sagt, welche Baugruppen der Anlage gestört sind: was, seit wann, welcher Kanal, was zu tun ist.
+Der Rückgabewert ist 0, wenn keine gestört ist, 1, wenn eine gestört ist, und 2, wenn sich das nicht sagen lässt.
+
+  --source QUELLE   modbus-tcp://HOST:PORT[?unit=N]  die Anlage selbst; ohne Angabe Einheit 1
+                    recording:DATEI                  was aufgezeichnet ist; der letzte Stand, mit --watch alles
+  --watch           sagen, was kommt und geht, je eine Zeile, bis zu einem Signal oder dem Ende der Aufzeichnung
+  --record DATEI    was die Anlage sagt, in eine neue Aufzeichnung schreiben; dauert an wie --watch
+  --json, --csv     für Programme; mit --watch je eine Zeile
+  --map             die Register zeigen, die eine Steuerung bieten muss, ohne Quelle
+)"};
+}
+
+LocalizedText simulateText()
+{
+    return {
+        R"(Usage: quillon-ed simulate STATION [--listen ADDRESS:PORT] [--script FILE] [--random SEED] [--lang de|en]
+
+Is a plant of the station for any Modbus TCP client, such as "quillon-ed diagnose": everything is sound at first. Lines
+on standard input change that; "quit" ends it.
+
+  place R/P ok|lost|missing                       a place; R/P.S is a sub-module
+  place R/P fail|report [channel N] [code N]      it is faulty, or works and reports a fault
+  cpu run|stop|hold                               the controller's state
+  all ok                                          nothing is faulty any more
+
+  --listen ADDRESS:PORT   of this computer; 127.0.0.1:5020 if not given, port 0 for any free one
+  --script FILE           such lines, "+2.5s" in front of one for the time since the one before, "repeat" as the last
+  --random SEED           modules fail and recover at random; equal numbers give equal faults
+)",
+        R"(Aufruf: quillon-ed simulate STATION [--listen ADRESSE:PORT] [--script DATEI] [--random STARTWERT] [--lang de|en]
+
+Ist eine Anlage der Station für jeden Modbus-TCP-Client, etwa "quillon-ed diagnose": zunächst ohne Fehler. Zeilen der
+Standardeingabe ändern das; "quit" beendet sie.
+
+  place R/P ok|lost|missing                       ein Platz; R/P.S ist ein Submodul
+  place R/P fail|report [channel N] [code N]      er ist gestört, oder arbeitet und meldet einen Fehler
+  cpu run|stop|hold                               der Zustand der Steuerung
+  all ok                                          nichts ist mehr gestört
+
+  --listen ADRESSE:PORT   dieses Rechners; ohne Angabe 127.0.0.1:5020, Port 0 für irgendeinen freien
+  --script DATEI          solche Zeilen, davor "+2.5s" für die Zeit seit der vorigen, als letzte "repeat"
+  --random STARTWERT      Baugruppen fallen zufällig aus und kommen wieder; gleiche Zahlen, gleiche Fehler
+)"};
+}
+
 LocalizedText textOf(Command command)
 {
     switch (command) {
@@ -147,6 +215,10 @@ LocalizedText textOf(Command command)
         return listText();
     case Command::Convert:
         return convertText();
+    case Command::Diagnose:
+        return diagnoseText();
+    case Command::Simulate:
+        return simulateText();
     case Command::Open:
         break;
     }

@@ -31,7 +31,8 @@ constexpr std::size_t AnyNumber = static_cast<std::size_t>(-1);
 constexpr std::array CommandRules{
     CommandRule{Command::Open, "", 0, AnyNumber},       CommandRule{Command::Render, "render", 1, 1},
     CommandRule{Command::Check, "check", 1, AnyNumber}, CommandRule{Command::List, "list", 1, 1},
-    CommandRule{Command::Convert, "convert", 2, 2},
+    CommandRule{Command::Convert, "convert", 2, 2},     CommandRule{Command::Diagnose, "diagnose", 1, 1},
+    CommandRule{Command::Simulate, "simulate", 1, 1},
 };
 
 const CommandRule& RuleOf(Command command)
@@ -91,14 +92,45 @@ Reason setNamed(Target& target, const std::string& name, const NamedValues<Value
                              " sind: " + names};
 }
 
+/// A whole number that is not negative; nothing for anything else.
+template <class Number>
+std::optional<Number> readNumber(const std::string& value)
+{
+    Number number = 0;
+    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+    if (error != std::errc() || end != value.data() + value.size() || value.starts_with('-')) return {};
+    return number;
+}
+
+Reason setSeed(CommandLine& line, const std::string& value)
+{
+    line.seed = readNumber<std::uint32_t>(value);
+    if (!line.seed)
+        return LocalizedText{"the seed '" + value + "' is not a number from 0 to 4294967295",
+                             "der Startwert '" + value + "' ist keine Zahl von 0 bis 4294967295"};
+    return {};
+}
+
+template <std::string CommandLine::*Member>
+Reason setText(CommandLine& line, const std::string& value)
+{
+    line.*Member = value;
+    return {};
+}
+
+template <bool CommandLine::*Member>
+Reason setFlag(CommandLine& line, const std::string& /*value*/)
+{
+    line.*Member = true;
+    return {};
+}
+
 Reason setRack(CommandLine& line, const std::string& value)
 {
-    std::int32_t rack = -1;
-    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), rack);
-    if (error != std::errc() || end != value.data() + value.size() || rack < 0)
+    line.rack = readNumber<std::int32_t>(value);
+    if (!line.rack)
         return LocalizedText{"the rack '" + value + "' is not a number from 0",
                              "der Träger '" + value + "' ist keine Zahl ab 0"};
-    line.rack = rack;
     return {};
 }
 
@@ -120,35 +152,30 @@ struct OptionRule {
 };
 
 constexpr std::array OptionRules{
-    OptionRule{"--help", 'h', false, EveryCommand,
-               [](CommandLine& line, const std::string&) -> Reason {
-                   line.help = true;
-                   return {};
-               }},
-    OptionRule{"--version", 0, false, EveryCommand,
-               [](CommandLine& line, const std::string&) -> Reason {
-                   line.version = true;
-                   return {};
-               }},
+    OptionRule{"--help", 'h', false, EveryCommand, setFlag<&CommandLine::help>},
+    OptionRule{"--version", 0, false, EveryCommand, setFlag<&CommandLine::version>},
     OptionRule{"--lang", 0, true, EveryCommand,
                [](CommandLine& line, const std::string& value) { return setNamed(line.language, value, Languages); }},
-    OptionRule{"--output", 'o', true, bit(Command::Render) | bit(Command::List),
-               [](CommandLine& line, const std::string& value) -> Reason {
-                   line.output = value;
-                   return {};
-               }},
+    OptionRule{"--output", 'o', true, bit(Command::Render) | bit(Command::List), setText<&CommandLine::output>},
     OptionRule{"--scale", 0, true, bit(Command::Render), setScale},
     OptionRule{"--view", 0, true, bit(Command::Render),
                [](CommandLine& line, const std::string& value) { return setNamed(line.view, value, Views); }},
     OptionRule{"--rack", 0, true, bit(Command::Render), setRack},
     OptionRule{"--palette", 0, true, bit(Command::Render),
                [](CommandLine& line, const std::string& value) { return setNamed(line.colors, value, Palettes); }},
-    OptionRule{"--csv", 0, false, bit(Command::List),
+    OptionRule{"--csv", 0, false, bit(Command::List) | bit(Command::Diagnose),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Csv); }},
-    OptionRule{"--json", 0, false, bit(Command::List),
+    OptionRule{"--json", 0, false, bit(Command::List) | bit(Command::Diagnose),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Json); }},
     OptionRule{"--md", 0, false, bit(Command::List),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Markdown); }},
+    OptionRule{"--source", 0, true, bit(Command::Diagnose), setText<&CommandLine::source>},
+    OptionRule{"--record", 0, true, bit(Command::Diagnose), setText<&CommandLine::record>},
+    OptionRule{"--watch", 0, false, bit(Command::Diagnose), setFlag<&CommandLine::watch>},
+    OptionRule{"--map", 0, false, bit(Command::Diagnose), setFlag<&CommandLine::map>},
+    OptionRule{"--listen", 0, true, bit(Command::Simulate), setText<&CommandLine::listen>},
+    OptionRule{"--script", 0, true, bit(Command::Simulate), setText<&CommandLine::script>},
+    OptionRule{"--random", 0, true, bit(Command::Simulate), setSeed},
 };
 
 std::vector<std::string> optionNames(Command command)
@@ -282,6 +309,13 @@ private:
             return LocalizedText{"the name of the new file '" + line.files[1] + "' must end in .json, .csv or .md",
                                  "der Name der neuen Datei '" + line.files[1] +
                                      "' muss auf .json, .csv oder .md enden"};
+        if (line.command == Command::Diagnose && line.map == !line.source.empty())
+            return line.map ? LocalizedText{"'--map' needs no source", "'--map' braucht keine Quelle"}
+                            : LocalizedText{"'diagnose' needs a source: --source modbus-tcp://HOST:PORT",
+                                            "'diagnose' braucht eine Quelle: --source modbus-tcp://HOST:PORT"};
+        if (line.map && (line.watch || !line.record.empty()))
+            return LocalizedText{"'--map' does not go with '--watch' or '--record'",
+                                 "'--map' geht nicht mit '--watch' oder '--record'"};
         return {};
     }
 

@@ -1,13 +1,10 @@
 #include "zqbchwcx/reference/commands/ModuleListText.h"
 
-#include "zqbchwcx/reference/commands/TerminalLine.h"
+#include "zqbchwcx/reference/commands/TableText.h"
 
 #include <nlohmann/json.hpp>
 
-#include <algorithm>
 #include <array>
-#include <cstddef>
-#include <string_view>
 
 namespace zqbchwcx::reference {
 namespace {
@@ -35,105 +32,15 @@ const std::array<Column, 8>& Columns()
     return columns;
 }
 
-using Line = std::array<std::string, 8>;
-
-Line Headings(Language language)
+std::vector<TextRow> TableOf(const std::vector<ModuleRow>& rows, Language language)
 {
-    Line line;
-    for (std::size_t i = 0; i < line.size(); ++i) line[i] = Columns()[i].heading.In(language);
-    return line;
-}
-
-Line Cells(const ModuleRow& row)
-{
-    Line line;
-    for (std::size_t i = 0; i < line.size(); ++i) line[i] = Columns()[i].cell(row);
-    return line;
-}
-
-std::string CsvField(const std::string& text)
-{
-    if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-    std::string field = "\"";
-    for (const char character : text) field += character == '"' ? std::string("\"\"") : std::string(1, character);
-    return field + "\"";
-}
-
-std::string CsvLine(const Line& line)
-{
-    std::string text;
-    for (const std::string& cell : line) text.append(&cell == &line.front() ? "" : ",").append(CsvField(cell));
-    return text + "\r\n";
-}
-
-/// A cell of a table in which a line is a row: a bar would end the cell, a line end the table, and what means something
-/// in Markdown or HTML would not be seen as it was written.
-std::string MarkdownField(std::string_view text)
-{
-    constexpr std::string_view meaning = "|\\<&*_`[";
-    std::string field;
-    for (;;) {
-        const std::size_t end = text.find('\n');
-        std::string_view line = text.substr(0, end);
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        for (const char character : TerminalLine(line)) {
-            if (meaning.find(character) != std::string_view::npos) field += '\\';
-            field += character;
-        }
-        if (end == std::string_view::npos) break;
-        field += "<br>";
-        text.remove_prefix(end + 1);
+    std::vector<TextRow> table(1);
+    for (const Column& column : Columns()) table[0].push_back(column.heading.In(language));
+    for (const ModuleRow& row : rows) {
+        table.emplace_back();
+        for (const Column& column : Columns()) table.back().push_back(column.cell(row));
     }
-    return field;
-}
-
-std::string MarkdownLine(const Line& line)
-{
-    std::string text = "|";
-    for (const std::string& cell : line) text.append(" ").append(MarkdownField(cell)).append(" |");
-    return text + "\n";
-}
-
-/// The columns that a text takes, as far as counting its characters tells.
-std::size_t Width(const std::string& text)
-{
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
-}
-
-std::string WritePlain(const std::vector<ModuleRow>& rows, Language language)
-{
-    std::vector<Line> lines{Headings(language)};
-    for (const ModuleRow& row : rows) lines.push_back(Cells(row));
-    std::array<std::size_t, 8> widths{};
-    for (Line& line : lines)
-        for (std::size_t i = 0; i < line.size(); ++i) {
-            line[i] = TerminalLine(line[i]);
-            widths[i] = std::max(widths[i], Width(line[i]));
-        }
-    std::string text;
-    for (const Line& line : lines) {
-        std::string row;
-        for (std::size_t i = 0; i < line.size(); ++i) row += line[i] + std::string(widths[i] - Width(line[i]) + 2, ' ');
-        text += row.substr(0, row.find_last_not_of(' ') + 1) + "\n";
-    }
-    return text;
-}
-
-std::string WriteCsv(const std::vector<ModuleRow>& rows, Language language)
-{
-    std::string text = CsvLine(Headings(language));
-    for (const ModuleRow& row : rows) text += CsvLine(Cells(row));
-    return text;
-}
-
-std::string WriteMarkdown(const std::vector<ModuleRow>& rows, Language language)
-{
-    Line rule;
-    rule.fill("---");
-    std::string text = MarkdownLine(Headings(language)) + MarkdownLine(rule);
-    for (const ModuleRow& row : rows) text += MarkdownLine(Cells(row));
-    return text;
+    return table;
 }
 
 std::string WriteJson(const std::vector<ModuleRow>& rows)
@@ -159,15 +66,15 @@ std::string WriteModuleList(const std::vector<ModuleRow>& rows, ListFormat forma
 {
     switch (format) {
     case ListFormat::Csv:
-        return WriteCsv(rows, language);
+        return WriteCsv(TableOf(rows, language));
     case ListFormat::Json:
         return WriteJson(rows);
     case ListFormat::Markdown:
-        return WriteMarkdown(rows, language);
+        return WriteMarkdown(TableOf(rows, language));
     case ListFormat::Plain:
         break;
     }
-    return WritePlain(rows, language);
+    return WriteAligned(TableOf(rows, language));
 }
 
 } // namespace zqbchwcx::reference

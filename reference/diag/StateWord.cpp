@@ -2,6 +2,9 @@
 
 #include "zqbchwcx/foundation/model/Enumerations.h"
 
+#include <array>
+#include <cstddef>
+
 namespace zqbchwcx::reference {
 namespace {
 
@@ -18,6 +21,12 @@ unsigned Bits(unsigned word, unsigned first, unsigned count)
 }
 
 } // namespace
+
+std::string OperatingStateText(OperatingState state)
+{
+    static constexpr std::array texts = {"", "RUN", "STOP", "HOLD"};
+    return texts[static_cast<std::size_t>(state)];
+}
 
 bool StateWord::IsInCategory(std::int32_t lCategory) const
 {

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace zqbchwcx::reference {
 
 enum class OperatingState : std::uint8_t { None, Run, Stop, Hold };
+
+/// "RUN", "STOP", "HOLD", the same in every language; empty for none.
+std::string OperatingStateText(OperatingState state);
 
 /// What a module or a sub-module says about itself. In a plant it is one 16-bit word: bits 0 to 4 the fault code,
 /// 5 to 10 the channel, 11 faulty, 12 reports a fault, 13 not accessible, 14 and 15 the operating state; 0 is a sound
