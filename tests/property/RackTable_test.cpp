@@ -13,10 +13,11 @@ using ::testing::ElementsAre;
 
 constexpr OleColor GroupBackground = G_Rgb(246, 244, 186);
 
-/// The table of any kind of station; expectations hold for a variant whose example is filled as `ViewVariant` says.
-class RackTable : public ::testing::TestWithParam<ViewVariant> {
+/// A table with the overview of its station beside it. What is in which place says `ViewVariant::sample`.
+class TableFixture : public ::testing::Test {
 protected:
-    ~RackTable() override { EXPECT_EQ(editor.WhatIsWrong(), ""); }
+    explicit TableFixture(const ViewVariant& kind) : variant(kind) {}
+    ~TableFixture() override { EXPECT_EQ(editor.WhatIsWrong(), ""); }
 
     void Focus(std::int32_t lPosition) { Handler().FocusPosition(lPosition); }
     void Select(std::int32_t lFrom, std::int32_t lTo)
@@ -44,15 +45,32 @@ protected:
         grid.EndEditing(false);
     }
 
-    Editor editor{GetParam().sample(), GetParam()};
-    VxHWRackTable& table = dynamic_cast<VxHWRackTable&>(*editor.table);
+    const ViewVariant& variant;
+    Editor editor{variant.sample(), variant};
+    TableControl& table = dynamic_cast<TableControl&>(*editor.table);
     RecordingGrid& grid = editor.Grid();
+    const std::string module = grid.Text(4, "Module");
+    const std::string inputs = grid.Text(4, "I-Address");
+};
+
+/// The table of any kind of station.
+class RackTable : public TableFixture, public ::testing::WithParamInterface<ViewVariant> {
+protected:
+    RackTable() : TableFixture(GetParam()) {}
+};
+
+INSTANTIATE_TEST_SUITE_P(Every, RackTable, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
+
+/// A table that shows one of several racks.
+class CentralTable : public TableFixture {
+protected:
+    CentralTable() : TableFixture(CentralViews) {}
+
+    VxHWRackTable& racks = dynamic_cast<VxHWRackTable&>(table);
     RecordingTabStrip& tabs = *editor.Tabs();
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, RackTable, ::testing::Values(CentralViews), ::testing::PrintToStringParamName());
-
-TEST_P(RackTable, ShowsARowForEveryPlace)
+TEST_F(CentralTable, ShowsARowForEveryPlace)
 {
     EXPECT_THAT(grid.AllRows(),
                 ElementsAre("1|PS 24V/10A|Q3-PS10-A||| *", "2|CPU 340M|Q3-CP40-M|||", "3|IM 365 pair|Q3-IM65-P|||",
@@ -84,7 +102,7 @@ TEST_P(RackTable, ShowsARowForEveryPlace)
     EXPECT_EQ(grid.Text(4, "Comment"), "");
 }
 
-TEST_P(RackTable, ShowsWhatThePlacesUsabilitySays)
+TEST_F(CentralTable, ShowsWhatThePlacesUsabilitySays)
 {
     struct Case {
         std::int32_t usability;
@@ -101,7 +119,8 @@ TEST_P(RackTable, ShowsWhatThePlacesUsabilitySays)
 
 TEST_P(RackTable, KeepsTheColumnsAsTheUserLeftThem)
 {
-    const std::string parameter = "zqbvhwcx/HWConfig/GridLayoutCRX";
+    const std::string parameter =
+        std::string("zqbvhwcx/HWConfig/GridLayout").append(variant.IsCentral() ? "CRX" : "RIO");
     const auto widths = [&] {
         std::vector<std::int32_t> all;
         for (std::int32_t lColumn = 1; lColumn <= grid.ColumnCount(); ++lColumn)
@@ -120,7 +139,7 @@ TEST_P(RackTable, KeepsTheColumnsAsTheUserLeftThem)
     EXPECT_EQ(editor.host->options[parameter], "32|140|93|59|59|100|");
     EXPECT_THAT(widths(), ElementsAre(32, 140, 93, 59, 59, 100));
     EXPECT_THAT(grid.ColumnOrder(), ElementsAre(1, 3, 2, 4, 5, 6));
-    EXPECT_EQ(grid.Text(4, "Module"), "Bottle sensors");
+    EXPECT_EQ(grid.Text(4, "Module"), module);
     grid.User().OnResetColumns();
     EXPECT_THAT(widths(), ElementsAre(32, 78, 93, 59, 59, 100));
 
@@ -144,11 +163,15 @@ TEST_P(RackTable, WritesAnEditedCell)
     struct Case {
         const char* key;
         std::int32_t row;
-        const char* typed;
+        std::string typed;
         std::int16_t endedBy;
-        const char* shown;
+        std::string shown;
         bool changes;
     };
+    const bool bCentral = variant.IsCentral();
+    const std::string inUse = bCentral ? "116" : grid.Text(3, "I-Address");
+    const std::string outputs = grid.Text(10, "O-Address");
+    const std::string outputsInUse = bCentral ? "20" : grid.Text(11, "O-Address");
     std::vector<RefusedEdit> refused;
     const auto connection = table.EditRefused.Connect([&](const RefusedEdit& edit) { refused.push_back(edit); });
     const std::string before = editor.Text();
@@ -156,14 +179,14 @@ TEST_P(RackTable, WritesAnEditedCell)
              Case{"Comment", 4, "Light barriers", vxKeyReturn, "Light barriers", true},
              Case{"Comment", 4, "Light barriers", vxKeyEscape, "", false},
              Case{"Comment", 4, "", vxKeyTab, "", false},
-             Case{"I-Address", 4, "200", vxKeyTab, "200..203", true},
-             Case{"I-Address", 4, "116", vxKeyReturn, "0..3", false},  // in use
-             Case{"I-Address", 4, "0..3", vxKeyReturn, "0..3", false}, // as it was
-             Case{"I-Address", 4, "abc", vxKeyReturn, "0..3", false},
+             Case{"I-Address", 4, "200", vxKeyTab, bCentral ? "200..203" : "200", true},
+             Case{"I-Address", 4, inUse, vxKeyReturn, inputs, false},
+             Case{"I-Address", 4, inputs, vxKeyReturn, inputs, false}, // as it was
+             Case{"I-Address", 4, "abc", vxKeyReturn, inputs, false},
              Case{"I-Address", 5, "20", vxKeyReturn, "T1016", false}, // sub-modules have addresses of their own
              Case{"I-Address", 10, "20", vxKeyReturn, "", false},     // no inputs
-             Case{"O-Address", 10, "20", vxKeyReturn, "128..135", false},
-             Case{"Module", 4, "Name", vxKeyReturn, "Bottle sensors", false},
+             Case{"O-Address", 10, outputsInUse, vxKeyReturn, outputs, false},
+             Case{"Module", 4, "Name", vxKeyReturn, module, false},
          }) {
         SCOPED_TRACE(std::string(edit.key) + " " + std::to_string(edit.row) + " " + edit.typed);
         refused.clear();
@@ -180,8 +203,8 @@ TEST_P(RackTable, WritesAnEditedCell)
         // One edit is one step to undo.
         EXPECT_EQ(editor.history->Undo(), edit.changes);
         EXPECT_EQ(editor.Text(), before);
-        const bool bRefused = edit.row == 4 && !edit.changes && std::string_view(edit.typed) != edit.shown &&
-                              std::string_view(edit.key) == "I-Address";
+        const bool bRefused =
+            edit.row == 4 && !edit.changes && edit.typed != edit.shown && std::string_view(edit.key) == "I-Address";
         ASSERT_EQ(refused.size(), bRefused ? 1 : 0);
         if (bRefused) {
             EXPECT_EQ(refused[0].attribute, "I-ADDRESS");
@@ -226,12 +249,14 @@ TEST_P(RackTable, GivesTheEditorItsKeys)
     grid.MoveMouse({5, 70}, vxButtonLeft);
     grid.MoveMouse({50, 70}, vxButtonLeft);
     EXPECT_EQ(grid.drags, 0);
-    tabs.Hover(1);
-    EXPECT_EQ(table.ActiveRack(), 0);
+    if (auto* tabs = editor.Tabs()) {
+        tabs->Hover(1);
+        EXPECT_EQ(tabs->SelectedTab(), 0);
+    }
     grid.EndEditing(false);
 }
 
-TEST_P(RackTable, MovesTheFocusByKeys)
+TEST_F(CentralTable, MovesTheFocusByKeys)
 {
     struct Case {
         std::int32_t from;
@@ -260,8 +285,12 @@ TEST_P(RackTable, MovesTheFocusByKeys)
         Focus(move.from);
         EXPECT_TRUE(grid.Key(move.key, move.shift));
         EXPECT_EQ(Handler().FocusPosition(), move.to) << move.from << " key " << move.key << " with " << move.shift;
-        EXPECT_EQ(table.ActiveRack(), move.to / 1000);
+        EXPECT_EQ(racks.ActiveRack(), move.to / 1000);
     }
+}
+
+TEST_P(RackTable, LeavesTheFocusToItsKeys)
+{
     Select(4, 8);
     Focus(10);
     EXPECT_TRUE(grid.Key(vxKeySpace));
@@ -297,11 +326,11 @@ TEST_P(RackTable, ShowsSelectionAndFocusedGap)
     EXPECT_EQ(selectedRows(), "3 ");
 }
 
-TEST_P(RackTable, ChangesTheRackByItsTabs)
+TEST_F(CentralTable, ChangesTheRackByItsTabs)
 {
     Select(4, 8);
     tabs.Hover(1);
-    EXPECT_EQ(table.ActiveRack(), 1);
+    EXPECT_EQ(racks.ActiveRack(), 1);
     EXPECT_EQ(tabs.SelectedTab(), 1);
     EXPECT_EQ(Selection(), "1004 1006 1008 ");
     EXPECT_EQ(Handler().FocusPosition(), 1008);
@@ -310,19 +339,19 @@ TEST_P(RackTable, ChangesTheRackByItsTabs)
     tabs.Click(1);
     EXPECT_EQ(editor.log->lines.size(), calls);
     tabs.Hover(3); // not present
-    EXPECT_EQ(table.ActiveRack(), 1);
+    EXPECT_EQ(racks.ActiveRack(), 1);
 
     // A drag that rests on a tab shows its rack and touches neither selection nor focus.
     tabs.DragHover(0);
-    EXPECT_EQ(table.ActiveRack(), 0);
+    EXPECT_EQ(racks.ActiveRack(), 0);
     EXPECT_EQ(Selection(), "1004 1006 1008 ");
     Focus(1010);
     EXPECT_EQ(tabs.SelectedTab(), 1);
-    table.ActiveRack(0);
+    racks.ActiveRack(0);
     EXPECT_EQ(Selection(), "4 6 8 ");
-    table.ActiveRack(7);
+    racks.ActiveRack(7);
     EXPECT_EQ(editor.host->TakeReports(), std::vector<std::string>{"zqbchwcx.VxHWRackTable.P_ChangeRack"});
-    EXPECT_EQ(table.ActiveRack(), 0);
+    EXPECT_EQ(racks.ActiveRack(), 0);
 }
 
 TEST_P(RackTable, DragsFromTheUsersThreshold)
@@ -351,7 +380,7 @@ TEST_P(RackTable, OpensTheMenuOfTheOverview)
     grid.Click({4, 2}, vxButtonRight);
     EXPECT_EQ(grid.RowText(4), "4||||| *");
     editor.history->Undo();
-    EXPECT_EQ(grid.Text(4, "Module"), "Bottle sensors");
+    EXPECT_EQ(grid.Text(4, "Module"), module);
     for (const auto& [nKey, nShift] : {std::pair<std::int16_t, std::int16_t>{vxKeyApps, 0}, {vxKeyF10, vxShiftMask}}) {
         Select(8, 8);
         grid.Key(nKey, nShift);
@@ -359,17 +388,26 @@ TEST_P(RackTable, OpensTheMenuOfTheOverview)
         editor.history->Undo();
     }
     grid.Key(vxKeyF10);
-    EXPECT_EQ(grid.Text(4, "Module"), "Bottle sensors");
+    EXPECT_EQ(grid.Text(4, "Module"), module);
 }
 
 class SubModules : public RackTable {
 protected:
+    void ShowOtherRack()
+    {
+        if (auto* racks = dynamic_cast<VxHWRackTable*>(&table)) racks->ActiveRack(1);
+        else editor.watched->Usability(0, 20, vxPlaceNotUsable); // arranges the rows anew
+    }
+
     const GridCell button = grid.Cell(5, "I-Address");
     RecordingPopupForm& form = editor.Form();
     const std::string before = editor.Text();
+    const std::vector<reference::ModuleData> subModules =
+        editor.station->Data().racks.front()->places.at(4).module->subModules;
+    const std::int32_t lCount = static_cast<std::int32_t>(subModules.size());
 };
 
-INSTANTIATE_TEST_SUITE_P(Every, SubModules, ::testing::Values(CentralViews), ::testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(Every, SubModules, ::testing::ValuesIn(ViewVariants), ::testing::PrintToStringParamName());
 
 TEST_P(SubModules, OpenUnderTheirColumns)
 {
@@ -380,10 +418,10 @@ TEST_P(SubModules, OpenUnderTheirColumns)
     EXPECT_EQ(form.rect.top, at.y + cell.bottom);
     EXPECT_EQ(form.rect.left, at.x + grid.CellRect(grid.Cell(5, "Module")).left);
     EXPECT_EQ(form.rect.right, at.x + grid.CellRect(grid.Cell(5, "O-Address")).right);
-    EXPECT_EQ(form.rect.height(), 3 * form.TextHeight() + 2);
+    EXPECT_EQ(form.rect.height(), lCount * form.TextHeight() + 2);
     const auto texts = std::count_if(form.lines.begin(), form.lines.end(),
                                      [](const auto& line) { return line.starts_with("LeftText"); });
-    EXPECT_EQ(texts, 9) << "name and two addresses of three axes";
+    EXPECT_EQ(texts, 3 * lCount) << "name and two addresses of each";
     grid.Click(button);
     EXPECT_FALSE(form.Visible());
     // The hook sees the press before the grid does: the click still does not open the form again.
@@ -415,7 +453,7 @@ TEST_P(SubModules, CloseByEveryRule)
              {"space", [&] { grid.Key(vxKeySpace); }, true},
              {"escape", [&] { grid.Key(vxKeyEscape); }, true},
              {"the windowing system", [&] { form.Close(); }, true},
-             {"other rack", [&] { table.ActiveRack(1); }, true},
+             {"other rack or none", [&] { ShowOtherRack(); }, true},
              {"no station", [&] { table.VxHWStation(nullptr); }, true},
          }) {
         SCOPED_TRACE(rule.what);
@@ -436,16 +474,17 @@ TEST_P(SubModules, OpenTheirParameters)
     std::int32_t dialogs = 0;
     editor.parameters = [&](const reference::ModuleData&) { return ++dialogs, std::nullopt; };
     grid.Click(button);
-    form.DoubleClick({10, 3 * form.TextHeight() + 1}); // on the frame
+    form.DoubleClick({10, lCount * form.TextHeight() + 1}); // on the frame
     EXPECT_TRUE(form.Visible());
-    form.DoubleClick({10, 2 * form.TextHeight() + 1});
+    form.DoubleClick({10, (lCount - 1) * form.TextHeight() + 1});
     EXPECT_FALSE(form.Visible());
     EXPECT_EQ(dialogs, 1);
     Focus(10);
     grid.Key(vxKeyDown, vxAltMask);
     for (const std::int16_t nKey : {vxKeyDown, vxKeyDown, vxKeyDown, vxKeyUp}) EXPECT_TRUE(grid.Key(nKey));
     EXPECT_EQ(Handler().FocusPosition(), 10);
-    EXPECT_THAT(form.told, ::testing::StartsWith("Infeed star, ")) << "for screen readers";
+    const std::string& name = subModules.at(subModules.size() - 2).name;
+    EXPECT_THAT(form.told, ::testing::StartsWith(name.empty() ? "" : name + ", ")) << "for screen readers";
     EXPECT_TRUE(grid.Key(vxKeyReturn));
     EXPECT_EQ(dialogs, 2);
 }
@@ -471,12 +510,104 @@ TEST_P(RackTable, TellsTheDiagnosticState)
     for (const char* key : {"RackPlace", "Module", "Basic Address"})
         EXPECT_EQ(grid.Look(grid.Cell(4, key)).backColor, G_Rgb(255, 201, 201)) << key;
     EXPECT_EQ(grid.Tooltip(status), "T6102");
-    EXPECT_EQ(grid.Tooltip(grid.Cell(8, "Status")), "T6105");
+    EXPECT_EQ(grid.Tooltip(grid.Cell(3, "Status")), "T6105");
     EXPECT_EQ(grid.Tooltip(grid.Cell(4, "Module")), "");
     EXPECT_EQ(grid.Look(grid.Cell(5, "Basic Address")).kind, CellKind::PushButton);
-    tabs.Click(1);
-    EXPECT_EQ(grid.Text(7, "Module"), "Check weigher");
-    EXPECT_FALSE(grid.StartEditing(grid.Cell(7, "Basic Address"), std::nullopt));
+    EXPECT_FALSE(grid.StartEditing(grid.Cell(3, "Basic Address"), std::nullopt));
+}
+
+/// A table of which some places have no row: 12, 13 and 30.
+class RowsTable : public RackTable {
+protected:
+    RowsTable()
+    {
+        editor.TableSite().Resize(5760, 3000); // eleven rows are seen
+        changed = rows.TopRowChange.Connect([this] { ++changes; });
+    }
+
+    VxHWRackTableRIO& rows = dynamic_cast<VxHWRackTableRIO&>(table);
+    EventConnection changed;
+    int changes = 0;
+};
+
+INSTANTIATE_TEST_SUITE_P(Distributed, RowsTable, ::testing::Values(ViewVariants[1], ViewVariants[2]),
+                         ::testing::PrintToStringParamName());
+
+TEST_P(RowsTable, HasARowForEachPlaceThatIsNotHidden)
+{
+    ASSERT_EQ(grid.RowCount(), 35);
+    for (const auto& [lRow, lPlace] : {std::pair{1, 1}, {11, 11}, {12, 14}, {27, 29}, {28, 31}, {35, 38}})
+        EXPECT_EQ(grid.Text(lRow, "RackPlace"), std::to_string(lPlace));
+    EXPECT_EQ(grid.scrollBar,
+              variant.eStationType == vxStationTypeDistributed1 ? GridScrollBar::Always : GridScrollBar::WhenNeeded);
+    // What happens in a row happens to its place, and the other way round.
+    grid.Click({12, 2});
+    EXPECT_EQ(Selection(), "28 ");
+    EXPECT_EQ(Handler().FocusPosition(), 28);
+    editor.Manager().SetSingleModuleToCurPos(editor.station->CreateModule(variant.digital));
+    EXPECT_NE(grid.Text(12, "Module"), "");
+    Edit(grid.Cell(12, "Comment"), "In place 14");
+    EXPECT_EQ(editor.station->PlaceAt({0, 14})->Module()->GetAttribute("COMMENT"), "In place 14");
+
+    // A place that is hidden from now on closes the rows up, in the other style, too.
+    table.Style(vxStyleHWDiag);
+    table.VxHWDiagService(editor.diag);
+    table.VxHWStation(editor.watched);
+    table.Refresh();
+    EXPECT_EQ(grid.Text(12, "RackPlace"), "14");
+    editor.watched->Usability(0, 9, vxPlaceNotUsable);
+    table.Refresh();
+    EXPECT_EQ(grid.RowCount(), 34);
+    EXPECT_EQ(grid.Text(11, "RackPlace"), "14");
+    EXPECT_NE(grid.Text(11, "Module"), "");
+}
+
+TEST_P(RowsTable, StepsOverHiddenPlacesByKeys)
+{
+    struct Case {
+        std::int32_t from;
+        std::int16_t key;
+        std::int16_t shift;
+        std::int32_t to;
+    };
+    for (const Case& move : {
+             Case{22, vxKeyDown, 0, 28},
+             Case{28, vxKeyUp, 0, 22},
+             Case{21, vxKeyDown, 0, 27}, // from gap to gap
+             Case{27, vxKeyUp, 0, 21},
+             Case{2, vxKeyUp, 0, 2},
+             Case{76, vxKeyDown, 0, 76},
+             Case{8, vxKeyRight, 0, 8},
+             Case{8, vxKeyLeft, 0, 8},
+             Case{8, vxKeyRight, vxShiftMask, 76},
+             Case{40, vxKeyLeft, vxCtrlMask, 2},
+             Case{8, vxKeyUp, vxAltMask, 8},
+         }) {
+        Focus(move.from);
+        EXPECT_TRUE(grid.Key(move.key, move.shift));
+        EXPECT_EQ(Handler().FocusPosition(), move.to) << move.from << " key " << move.key << " with " << move.shift;
+    }
+}
+
+TEST_P(RowsTable, BringsTheRowOfTheFocusIntoViewAndTellsItsTopRow)
+{
+    EXPECT_EQ(rows.TopRow(), 1);
+    Focus(28);
+    EXPECT_EQ(std::pair(rows.TopRow(), changes), std::pair(2, 1)) << "row 12 is the eleventh that is seen";
+    Focus(22);
+    EXPECT_EQ(changes, 1) << "it was in view";
+    grid.ScrollTo(20);
+    EXPECT_EQ(std::pair(rows.TopRow(), changes), std::pair(20, 2));
+    Focus(24); // hidden: the row of the place that follows it
+    EXPECT_EQ(std::pair(rows.TopRow(), changes), std::pair(12, 3));
+    EXPECT_EQ(grid.CurrentCell().lRow, 12);
+    Focus(76);
+    EXPECT_EQ(rows.TopRow(), 25);
+    editor.watched->Empty(0, 38);
+    editor.watched->Usability(0, 38, vxPlaceNotUsable);
+    Focus(2);
+    Focus(76); // nothing follows: the last row
+    EXPECT_EQ(rows.TopRow(), 24);
 }
 
 } // namespace
