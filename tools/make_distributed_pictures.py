@@ -241,7 +241,8 @@ def self_contained():
         "IDB_RIOB_MODULE_EPSILON": box(GREEN, GREEN_DARK, *plate(*wave), *sockets("#4CC489", 3, 36.5, 11)),
         "IDB_RIOB_MODULE_ZETA": box(GREEN, GREEN_DARK, *plate(*steps), *sockets("#4CC489", 3, 36.5, 11)),
         "IDB_RIOB_MODULE_ETA": box(TEAL, TEAL_DARK, *plate(*waves), *m12(11, 41, "#5CC9BF", 5), *m12(11, 56, "#5CC9BF", 5)),
-        "IDB_RIOB_PLACESTART_ACTIVE": svg(1, HEIGHT, rect(0, 0, 1, HEIGHT, "#B4BEC8")),
+        # Only the corners: a line beside a housing with round shoulders would belong to nothing.
+        "IDB_RIOB_PLACESTART_ACTIVE": svg(1, HEIGHT, *(rect(0, y, 1, 3, "#B4BEC8") for y in (0, HEIGHT - 3))),
     }
 
 

@@ -37,8 +37,9 @@ QByteArray PngOf(const reference::StationPtr& station, const PictureContent& con
     QImage image(grid.Edge(layout.Size().width()), grid.Edge(layout.Size().height()), QImage::Format_RGB32);
     image.fill(palette.color(QPalette::Base));
     QPainter painter(&image);
+    // The picture ends where the station does; the views may be higher.
     const auto draw = [&](const QRect& rect, const QImage& pixels) {
-        painter.drawImage(grid.Edge(rect.left()), grid.Edge(rect.top()), pixels);
+        painter.drawImage(grid.Edge(rect.left()), grid.Edge(rect.top()), pixels, 0, 0, -1, grid.Edge(rect.height()));
     };
     if (content.HasOverview()) {
         const auto overview = MakeOverview(station, selection, layout.Overview().size());

@@ -55,7 +55,9 @@ PaperViews::~PaperViews() = default;
 void PaperViews::Paint(QPainter& painter) const
 {
     if (moSite) moSite->Paint(painter);
-    if (moTable) moTable->render(&painter, mLayout.Table().topLeft(), {}, QWidget::DrawChildren);
+    if (moTable)
+        moTable->render(&painter, mLayout.Table().topLeft(), QRect(QPoint(), mLayout.Table().size()),
+                        QWidget::DrawChildren);
     painter.save();
     painter.translate(mLayout.CaptionCorner());
     mLayout.Caption().Paint(painter, Qt::black);

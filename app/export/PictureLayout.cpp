@@ -19,21 +19,19 @@ struct Heights {
     int table;
 };
 
-/// Of views that show all rows.
+/// Of what is in views that show all rows. The views may need more height than the rows of a small station.
 Heights HeightsOf(const zqbchwcx::reference::Station& station)
 {
     if (station.StationKind() == zqbchwcx::vxStationKindCentral) return {392, 206};
-    constexpr int usualRows = 4;
-    constexpr int usualOverview = 414;
-    constexpr int smallestTable = 200;
+    constexpr int aroundRows = 30;
     constexpr int tableRow = 15;
     using zqbchwcx::RowsLayout;
     const auto& all = station.Data().racks.front()->places;
     const int places = static_cast<int>(std::count_if(
         all.begin(), all.end(), [](const auto& place) { return place.usability != zqbchwcx::vxPlaceNotUsable; }));
     const int rows = (places + RowsLayout::PlacesInRow - 1) / RowsLayout::PlacesInRow;
-    return {usualOverview + std::max(rows - usualRows, 0) * RowsLayout::RowHeight,
-            std::max(zqbchwcx::VxHWRackTableRIO::HeaderBottom + places * tableRow + 1, smallestTable)};
+    return {aroundRows + rows * RowsLayout::RowHeight,
+            zqbchwcx::VxHWRackTableRIO::HeaderBottom + places * tableRow + 1};
 }
 
 } // namespace

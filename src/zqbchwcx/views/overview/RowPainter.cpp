@@ -48,6 +48,8 @@ void RowPainter::EraseMarks(const PositionInfo& position)
     const std::int32_t lTop = RowsLayout::PlaceTop(cell->lRow);
     for (const std::int32_t lStripTop : {lTop - StripHeight, lTop + mStyle.place.height})
         surface.FillBox(MakeRect(StripLeft, lStripTop, StripWidth, StripHeight), mContext.backColor);
+    // The stem of the first gap's mark, of which the place start may leave something uncovered.
+    surface.FillBox(MakeRect(PlaceStartLeft, lTop, 1, mStyle.place.height), mContext.backColor);
     DrawRow(cell->lRow);
 }
 
