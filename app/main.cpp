@@ -3,6 +3,7 @@
 #include "app/commandline/OpenStations.h"
 #include "app/commandline/ParseCommandLine.h"
 #include "app/commandline/RunCommand.h"
+#include "app/commandline/RunCompare.h"
 #include "app/commandline/RunDiagnose.h"
 #include "app/commandline/RunRender.h"
 #include "app/commandline/RunSimulate.h"
@@ -59,15 +60,22 @@ public:
     }
 };
 
+/// Draws, but shows no window.
+bool drawsOnly(const CommandLine& line)
+{
+    return line.command == Command::Render || (line.command == Command::Compare && !line.html.empty());
+}
+
 int runApplication(const CommandLine& line, const CommandStreams& streams, char** argv)
 {
     languageOfStart = LanguageOf(line);
-    if (line.command == Command::Render) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (drawsOnly(line)) qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(endWithoutDisplay);
     // The arguments have been read; the application gets none of them.
     int count = 1;
     const Application application(count, argv);
-    qInstallMessageHandler(line.command == Command::Render ? keepQuiet : nullptr);
+    qInstallMessageHandler(drawsOnly(line) ? keepQuietAboutTheDesktop : nullptr);
+    if (line.command == Command::Compare) return RunCompare(line, streams);
     return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
 }
 
@@ -101,8 +109,9 @@ int run(int argc, char** argv)
     }
 
     nameProgram();
-    if (line.command == Command::Open || line.command == Command::Render) return runApplication(line, streams, argv);
+    if (line.command == Command::Open || drawsOnly(line)) return runApplication(line, streams, argv);
     if (line.command == Command::Diagnose || line.command == Command::Simulate) return runInLoop(line, streams, argv);
+    if (line.command == Command::Compare) return RunCompare(line, streams);
     return EndOutput(streams, LanguageOf(line), RunCommand(line, streams));
 }
 

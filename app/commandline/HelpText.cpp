@@ -16,6 +16,7 @@ Usage:
   quillon-ed convert IN OUT             write a station to another file or format
   quillon-ed diagnose STATION           tell what the modules of the plant report
   quillon-ed simulate STATION           be a plant whose modules fail and recover
+  quillon-ed compare A B                tell how two stations differ
 
 "quillon-ed COMMAND --help" tells more about a command. Only opening needs a display.
 
@@ -29,6 +30,7 @@ Exit codes:
   1  "check" found broken rules, "diagnose" a faulty module
   2  the command line is wrong; "diagnose" and "simulate": whatever else kept them from working
   3  a file could not be read or written, or there is no display for the window
+"compare" has the codes of diff: 0 same, 1 different, 2 trouble.
 )",
             R"(Quillon Ed: die Hardware-Konfiguration von Stationen speicherprogrammierbarer Steuerungen
 
@@ -40,6 +42,7 @@ Aufruf:
   quillon-ed convert EIN AUS            eine Station in eine andere Datei oder Form schreiben
   quillon-ed diagnose STATION           sagen, was die Baugruppen der Anlage melden
   quillon-ed simulate STATION           eine Anlage sein, deren Baugruppen ausfallen und wiederkommen
+  quillon-ed compare A B                sagen, worin sich zwei Stationen unterscheiden
 
 "quillon-ed BEFEHL --help" sagt mehr zu einem Befehl. Nur das Öffnen braucht einen Bildschirm.
 
@@ -53,6 +56,7 @@ Rückgabewerte:
   1  "check" hat verletzte Regeln gefunden, "diagnose" eine gestörte Baugruppe
   2  die Befehlszeile ist falsch; "diagnose" und "simulate": was immer sie sonst gehindert hat
   3  eine Datei ließ sich nicht lesen oder schreiben, oder dem Fenster fehlt ein Bildschirm
+"compare" hat die Werte von diff: 0 gleich, 1 unterschiedlich, 2 Fehler.
 )"};
 }
 
@@ -104,7 +108,7 @@ Der Rückgabewert ist 0, wenn es keine gibt, 1, wenn es eine gibt, und 3, wenn s
 
 LocalizedText listText()
 {
-    return {R"(Usage: quillon-ed list STATION [--csv|--json|--md] [-o FILE] [--lang de|en]
+    return {R"(Usage: quillon-ed list STATION [--csv|--json|--md|--details] [-o FILE] [--lang de|en]
 
 Lists the modules of the station: rack, place, module, order number, addresses, comment.
 Without a format the columns are aligned for reading.
@@ -112,9 +116,10 @@ Without a format the columns are aligned for reading.
   --csv               comma-separated values (RFC 4180)
   --json              JSON
   --md                a Markdown table
+  --details           everything that the station holds, a line for each thing
   -o, --output FILE   write to the file instead of to standard output
 )",
-            R"(Aufruf: quillon-ed list STATION [--csv|--json|--md] [-o DATEI] [--lang de|en]
+            R"(Aufruf: quillon-ed list STATION [--csv|--json|--md|--details] [-o DATEI] [--lang de|en]
 
 Listet die Baugruppen der Station auf: Träger, Platz, Baugruppe, Bestellnummer, Adressen, Kommentar.
 Ohne Angabe einer Form sind die Spalten zum Lesen ausgerichtet.
@@ -122,6 +127,7 @@ Ohne Angabe einer Form sind die Spalten zum Lesen ausgerichtet.
   --csv               durch Komma getrennte Werte (RFC 4180)
   --json              JSON
   --md                eine Markdown-Tabelle
+  --details           alles, was die Station enthält, je eine Zeile
   -o, --output DATEI  in die Datei schreiben statt in die Standardausgabe
 )"};
 }
@@ -204,6 +210,41 @@ Standardeingabe ändern das; "quit" beendet sie.
 )"};
 }
 
+LocalizedText compareText()
+{
+    return {R"(Usage: quillon-ed compare A B [--text|--json|--md|--html FILE] [--ignore WHAT,...] [--lang de|en]
+       quillon-ed compare --git REVISION STATION [the same options]
+
+Tells how the station B differs from A, place by place, down to single parameters. One of them may be "-": standard
+input. With --git, A is an earlier revision of the station, by any name that git knows: HEAD, a tag, a commit.
+
+  --text          for reading (if nothing else is given); lines are broken to fit the terminal
+  --json          JSON
+  --md            a Markdown table
+  --html FILE     a page with pictures of both stations; FILE is replaced
+  --git REVISION  compare the station with its own earlier revision
+  --ignore WHAT   what counts as equal: name, comment, addresses, parameters, submodules, usability, lock
+
+Exits with 0 when the stations are the same, with 1 when they differ, and with 2 in trouble.
+)",
+            R"(Aufruf: quillon-ed compare A B [--text|--json|--md|--html DATEI] [--ignore WAS,...] [--lang de|en]
+        quillon-ed compare --git REVISION STATION [dieselben Optionen]
+
+Sagt, worin sich die Station B von A unterscheidet, Platz für Platz bis zum einzelnen Parameter. Eine von beiden darf
+"-" sein: die Standardeingabe. Mit --git ist A eine frühere Revision der Station, unter jedem Namen, den git kennt:
+HEAD, ein Tag, ein Commit.
+
+  --text          zum Lesen (ohne andere Angabe); Zeilen werden für das Terminal umbrochen
+  --json          JSON
+  --md            eine Markdown-Tabelle
+  --html DATEI    eine Seite mit Bildern beider Stationen; DATEI wird ersetzt
+  --git REVISION  die Station mit ihrer eigenen früheren Revision vergleichen
+  --ignore WAS    was als gleich gilt: name, comment, addresses, parameters, submodules, usability, lock
+
+Der Rückgabewert ist 0 bei gleichen, 1 bei unterschiedlichen Stationen und 2 bei einem Fehler.
+)"};
+}
+
 LocalizedText textOf(Command command)
 {
     switch (command) {
@@ -219,6 +260,8 @@ LocalizedText textOf(Command command)
         return diagnoseText();
     case Command::Simulate:
         return simulateText();
+    case Command::Compare:
+        return compareText();
     case Command::Open:
         break;
     }

@@ -32,7 +32,8 @@ constexpr std::array CommandRules{
     CommandRule{Command::Open, "", 0, AnyNumber},       CommandRule{Command::Render, "render", 1, 1},
     CommandRule{Command::Check, "check", 1, AnyNumber}, CommandRule{Command::List, "list", 1, 1},
     CommandRule{Command::Convert, "convert", 2, 2},     CommandRule{Command::Diagnose, "diagnose", 1, 1},
-    CommandRule{Command::Simulate, "simulate", 1, 1},
+    CommandRule{Command::Simulate, "simulate", 1, 1},   CommandRule{Command::Convert, "convert", 2, 2},
+    CommandRule{Command::Compare, "compare", 1, 2},
 };
 
 const CommandRule& RuleOf(Command command)
@@ -136,11 +137,47 @@ Reason setRack(CommandLine& line, const std::string& value)
 
 Reason setFormat(CommandLine& line, ListFormat format)
 {
-    if (line.format && *line.format != format)
-        return LocalizedText{"only one of --csv, --json and --md can be given",
-                             "nur eines von --csv, --json und --md kann angegeben werden"};
+    if (line.format && *line.format != format) {
+        const std::string all = line.command == Command::Compare ? "--text, --json" : "--csv, --json";
+        return LocalizedText{"only one of " + all + " and --md can be given",
+                             "nur eines von " + all + " und --md kann angegeben werden"};
+    }
     line.format = format;
     return {};
+}
+
+struct IgnorableRule {
+    std::string_view name;
+    bool zqbchwcx::reference::CompareOptions::*flag;
+};
+
+using zqbchwcx::reference::CompareOptions;
+constexpr std::array Ignorable{
+    IgnorableRule{"name", &CompareOptions::ignoreNames},
+    IgnorableRule{"comment", &CompareOptions::ignoreComments},
+    IgnorableRule{"addresses", &CompareOptions::ignoreAddresses},
+    IgnorableRule{"parameters", &CompareOptions::ignoreParameters},
+    IgnorableRule{"submodules", &CompareOptions::ignoreSubModules},
+    IgnorableRule{"usability", &CompareOptions::ignoreUsability},
+    IgnorableRule{"lock", &CompareOptions::ignoreLock},
+};
+
+Reason setIgnored(CommandLine& line, const std::string& value)
+{
+    std::string names;
+    for (const IgnorableRule& rule : Ignorable) names.append(names.empty() ? "" : ", ").append(rule.name);
+    for (std::string_view rest = value;;) {
+        const std::size_t end = std::min(rest.find(','), rest.size());
+        const std::string_view name = rest.substr(0, end);
+        const auto rule = std::find_if(Ignorable.begin(), Ignorable.end(),
+                                       [name](const IgnorableRule& each) { return each.name == name; });
+        if (rule == Ignorable.end())
+            return LocalizedText{"'" + std::string(name) + "' cannot be ignored; these can: " + names,
+                                 "'" + std::string(name) + "' lässt sich nicht übergehen; dies lässt sich: " + names};
+        line.ignored.*rule->flag = true;
+        if (end == rest.size()) return {};
+        rest.remove_prefix(end + 1);
+    }
 }
 
 struct OptionRule {
@@ -165,9 +202,9 @@ constexpr std::array OptionRules{
                [](CommandLine& line, const std::string& value) { return setNamed(line.colors, value, Palettes); }},
     OptionRule{"--csv", 0, false, bit(Command::List) | bit(Command::Diagnose),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Csv); }},
-    OptionRule{"--json", 0, false, bit(Command::List) | bit(Command::Diagnose),
+    OptionRule{"--json", 0, false, bit(Command::List) | bit(Command::Diagnose) | bit(Command::Compare),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Json); }},
-    OptionRule{"--md", 0, false, bit(Command::List),
+    OptionRule{"--md", 0, false, bit(Command::List) | bit(Command::Compare),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Markdown); }},
     OptionRule{"--source", 0, true, bit(Command::Diagnose), setText<&CommandLine::source>},
     OptionRule{"--record", 0, true, bit(Command::Diagnose), setText<&CommandLine::record>},
@@ -176,6 +213,12 @@ constexpr std::array OptionRules{
     OptionRule{"--listen", 0, true, bit(Command::Simulate), setText<&CommandLine::listen>},
     OptionRule{"--script", 0, true, bit(Command::Simulate), setText<&CommandLine::script>},
     OptionRule{"--random", 0, true, bit(Command::Simulate), setSeed},
+    OptionRule{"--text", 0, false, bit(Command::Compare),
+               [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Plain); }},
+    OptionRule{"--html", 0, true, bit(Command::Compare), setText<&CommandLine::html>},
+    OptionRule{"--git", 0, true, bit(Command::Compare), setText<&CommandLine::revision>},
+    OptionRule{"--ignore", 0, true, bit(Command::Compare), setIgnored},
+    OptionRule{"--details", 0, false, bit(Command::List), setFlag<&CommandLine::details>},
 };
 
 std::vector<std::string> optionNames(Command command)
@@ -293,6 +336,9 @@ private:
             return LocalizedText{"'" + extra + "' is one file too many for '" + word + "'",
                                  "'" + extra + "' ist eine Datei zu viel für '" + word + "'"};
         }
+        if (line.command == Command::Compare) return checkComparison();
+        if (line.details && line.format)
+            return LocalizedText{"'--details' has no other format", "'--details' hat keine andere Form"};
         if (line.command == Command::Render && line.output.empty())
             return LocalizedText{"'render' needs the file to write: -o FILE.png",
                                  "'render' braucht die Datei, die geschrieben wird: -o DATEI.png"};
@@ -316,6 +362,23 @@ private:
         if (line.map && (line.watch || !line.record.empty()))
             return LocalizedText{"'--map' does not go with '--watch' or '--record'",
                                  "'--map' geht nicht mit '--watch' oder '--record'"};
+        return {};
+    }
+
+    Reason checkComparison() const
+    {
+        const bool bRevision = !line.revision.empty();
+        if (bRevision && line.files.size() > 1)
+            return LocalizedText{"with '--git' only one station is given: it is compared with its revision",
+                                 "mit '--git' wird nur eine Station angegeben: sie wird mit ihrer Revision verglichen"};
+        if (!bRevision && line.files.size() < 2)
+            return LocalizedText{"'compare' needs two stations, or '--git REVISION' and one",
+                                 "'compare' braucht zwei Stationen, oder '--git REVISION' und eine"};
+        if (line.files.front() == "-" && (bRevision || line.files.back() == "-"))
+            return LocalizedText{"standard input can be only one of two stations",
+                                 "die Standardeingabe kann nur eine von zwei Stationen sein"};
+        if (!line.html.empty() && line.format)
+            return LocalizedText{"'--html' has no other format beside it", "neben '--html' gibt es keine andere Form"};
         return {};
     }
 

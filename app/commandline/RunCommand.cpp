@@ -6,6 +6,7 @@
 #include "app/host/ShippedData.h"
 #include "zqbchwcx/reference/commands/CheckReport.h"
 #include "zqbchwcx/reference/commands/Convert.h"
+#include "zqbchwcx/reference/commands/ModuleDetails.h"
 #include "zqbchwcx/reference/files/AtomicWrite.h"
 #include "zqbchwcx/reference/files/StationReader.h"
 #include "zqbchwcx/reference/model/rules/CheckStation.h"
@@ -45,8 +46,9 @@ int listModules(const CommandLine& line, const CommandStreams& streams)
     const Catalogue catalogue = ShippedCatalogue();
     const Language language = LanguageOf(line);
     const StationData station = LoadStation(line.files[0], catalogue).data;
-    const std::string list =
-        WriteModuleList(ListModules(station, catalogue, language), line.format.value_or(ListFormat::Plain), language);
+    const std::string list = line.details ? WriteStationDetails(station, catalogue, language)
+                                          : WriteModuleList(ListModules(station, catalogue, language),
+                                                            line.format.value_or(ListFormat::Plain), language);
     if (line.output.empty()) streams.out << list;
     else AtomicWrite(SystemFiles(), line.output, list);
     return ExitClean;

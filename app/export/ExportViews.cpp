@@ -55,22 +55,6 @@ QByteArray PngOf(const reference::StationPtr& station, const PictureContent& con
     return image.save(&buffer, "PNG") ? buffer.data() : QByteArray();
 }
 
-QByteArray SvgOf(const reference::StationPtr& station, const PictureContent& content, const QString& title)
-{
-    const PaperViews views(station, content);
-    QBuffer buffer;
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setTitle(title);
-    generator.setSize(views.Size().toSize());
-    generator.setViewBox(QRectF(QPointF(), views.Size()));
-    QPainter painter;
-    if (!painter.begin(&generator)) return {};
-    painter.fillRect(generator.viewBoxF(), Qt::white);
-    views.Paint(painter);
-    return painter.end() ? buffer.data() : QByteArray();
-}
-
 QByteArray PdfOf(const reference::StationPtr& station, const PictureContent& content, const PageHeader& header)
 {
     const PaperViews views(station, content);
@@ -86,6 +70,22 @@ QByteArray PdfOf(const reference::StationPtr& station, const PictureContent& con
 }
 
 } // namespace
+
+QByteArray SvgPictureOf(const reference::StationPtr& station, const PictureContent& content, const QString& title)
+{
+    const PaperViews views(station, content);
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setTitle(title);
+    generator.setSize(views.Size().toSize());
+    generator.setViewBox(QRectF(QPointF(), views.Size()));
+    QPainter painter;
+    if (!painter.begin(&generator)) return {};
+    painter.fillRect(generator.viewBoxF(), Qt::white);
+    views.Paint(painter);
+    return painter.end() ? buffer.data() : QByteArray();
+}
 
 std::optional<PictureFormat> PictureFormatOf(const QString& fileName)
 {
@@ -107,7 +107,7 @@ void ExportViews(const reference::StationPtr& station, const PictureContent& con
     case PictureFormat::Png:
         return WriteBytes(fileName, PngOf(station, content, scale));
     case PictureFormat::Svg:
-        return WriteBytes(fileName, SvgOf(station, content, header.stationName));
+        return WriteBytes(fileName, SvgPictureOf(station, content, header.stationName));
     case PictureFormat::Pdf:
         return WriteBytes(fileName, PdfOf(station, content, header));
     }

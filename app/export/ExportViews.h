@@ -4,6 +4,7 @@
 #include "app/export/StationPages.h"
 #include "zqbchwcx/reference/model/contract/Station.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -21,6 +22,10 @@ std::optional<PictureFormat> PictureFormatOf(const QString& fileName);
 /// Throws FileError when the file name has another ending or the file cannot be written; it is then as it was.
 void ExportViews(const zqbchwcx::reference::StationPtr& station, const PictureContent& content,
                  const PageHeader& header, double scale, const QString& fileName);
+
+/// The vector picture that `ExportViews` writes.
+QByteArray SvgPictureOf(const zqbchwcx::reference::StationPtr& station, const PictureContent& content,
+                        const QString& title);
 
 /// Why the station has no such picture, as a sentence without a full stop; nothing when it has.
 std::optional<zqbchwcx::reference::LocalizedText> AgainstContent(const zqbchwcx::reference::StationData& station,

@@ -34,9 +34,7 @@ std::string ValueOfStation(const StationData& station, const StationDifference& 
     const RackData* rack = difference.at.rack < 0 ? nullptr : RackOf(station, difference.at.rack);
     switch (difference.aspect) {
     case StationAspect::Kind:
-        if (station.kind == 0) return LocalizedText{"central", "zentral"}.In(language);
-        return LocalizedText{"distributed, variant ", "dezentral, Variante "}.In(language) +
-               (station.kind == 1 ? "A" : "B");
+        return StationKindText(station.kind).In(language);
     case StationAspect::Name:
         return station.name;
     case StationAspect::Lock:
@@ -185,6 +183,13 @@ std::vector<DifferenceText> DescribeDifferences(const ModuleData& first, const M
     std::vector<DifferenceText> texts;
     for (const ModuleFinding& finding : findings) texts.push_back(describer.Describe(first, second, finding));
     return texts;
+}
+
+LocalizedText StationKindText(std::int32_t kind)
+{
+    if (kind == 0) return {"central", "zentral"};
+    if (kind == 1) return {"distributed, variant A", "dezentral, Variante A"};
+    return {"distributed, variant B", "dezentral, Variante B"};
 }
 
 DifferenceText DescribeDifference(const StationData& first, const StationData& second,

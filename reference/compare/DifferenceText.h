@@ -32,6 +32,9 @@ std::vector<DifferenceText> DescribeDifferences(const ModuleData& first, const M
                                                 const std::vector<ModuleFinding>& findings, const Catalogue& catalogue,
                                                 Language language);
 
+/// "central", or the variant of a distributed station.
+LocalizedText StationKindText(std::int32_t kind);
+
 /// A difference of these two stations beside their modules.
 DifferenceText DescribeDifference(const StationData& first, const StationData& second,
                                   const StationDifference& difference, Language language);
