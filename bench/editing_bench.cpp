@@ -1,6 +1,7 @@
 // How long editing takes, in a full four-rack station that is shown, and opening and saving of the largest station
 // against one of a hundredth of its size. Ends with the ratios; fails when a limit is exceeded.
 
+#include "bench/LargeStation.h"
 #include "bench/Ratios.h"
 #include "bench/Stage.h"
 #include "zqbchwcx/foundation/ConfigTextCodec.h"
@@ -81,32 +82,10 @@ void PassOverRacks(Drag& drag)
         for (std::int32_t lCode = FirstOver; lCode <= LastOver; ++lCode) drag.Over(lRack * vxRackFactor + lCode);
 }
 
-/// A station of full racks, as large as racks can be.
-reference::StationData LargeStation(std::int32_t lRacks)
-{
-    reference::StationData data;
-    data.name = "Large";
-    std::int32_t lAddress = 0;
-    for (std::int32_t lRack = 0; lRack < lRacks; ++lRack) {
-        auto rack = std::make_shared<reference::RackData>();
-        rack->places.resize(reference::MaxPlaces);
-        for (auto& place : rack->places) {
-            reference::ModuleData module;
-            module.orderNumber = "Q3-DI16-A";
-            module.name = "Sensors";
-            module.inputAddress = lAddress;
-            lAddress += 2;
-            place.module = std::make_shared<const reference::ModuleData>(std::move(module));
-        }
-        data.racks.push_back(std::move(rack));
-    }
-    return data;
-}
-
 void RegisterFiles(const reference::Catalogue& catalogue, const std::string& fileName, std::int32_t lRacks,
                    const std::string& suffix)
 {
-    const auto data = std::make_shared<const reference::StationData>(LargeStation(lRacks));
+    const auto data = std::make_shared<const reference::StationData>(quillon_ed::bench::LargeStation(lRacks));
     benchmark::RegisterBenchmark(("Save" + suffix).c_str(), [=](benchmark::State& state) {
         for (auto step : state) reference::SaveStation(*data, fileName);
     });
