@@ -111,6 +111,15 @@ TEST(ParseCommandLine, RefusesTheRestAndSaysWhy)
         {{"render", "a", "-o", "b.bmp"}, "the name of the picture 'b.bmp' must end in .png, .svg or .pdf"},
         {{"convert", "a", "json"}, "the name of the new file 'json' must end in .json, .csv or .md"},
         {{"convert", "a", "b.md"}, "accepted"},
+        {{"diagnose", "a"}, "'diagnose' needs a source: --source modbus-tcp://HOST:PORT"},
+        {{"diagnose", "a", "--source", "x", "--watch", "--csv", "--record=r"}, "accepted"},
+        {{"diagnose", "a", "--map", "--json"}, "accepted"},
+        {{"diagnose", "a", "--map", "--source=x"}, "'--map' needs no source"},
+        {{"diagnose", "a", "--map", "--watch"}, "'--map' does not go with '--watch' or '--record'"},
+        {{"simulate", "a", "--random", "7", "--listen=localhost:0", "--script=s"}, "accepted"},
+        {{"simulate", "a", "--random", "-7"}, "the seed '-7' is not a number from 0 to 4294967295"},
+        {{"simulate", "a", "--source", "x"}, "'simulate' has no option '--source'"},
+        {{"diagonse", "a"}, "unknown command 'diagonse'; did you mean 'diagnose'?"},
     };
     for (const auto& [arguments, reason] : cases) EXPECT_EQ(Refusal(arguments), reason);
     for (const std::string scale : {"", "two", "2x", "0", "0.4", "9", "-1", "nan", "inf"})
