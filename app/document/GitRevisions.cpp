@@ -16,11 +16,7 @@ using namespace zqbchwcx::reference;
 
 namespace {
 
-/// What separates the fields of a revision, and begins one: neither stands in what git prints of an author or message.
-constexpr char FieldEnd = '\x1f';
-constexpr char RevisionBegin = '\x1e';
-
-QString Unfollowed(const QString& fileName)
+QString NameAlone(const QString& fileName)
 {
     return QFileInfo(fileName).fileName();
 }
@@ -28,6 +24,9 @@ QString Unfollowed(const QString& fileName)
 /// Runs git in the file's folder and returns what it prints.
 QByteArray Git(const std::string& fileName, const QStringList& arguments)
 {
+    const QString folder = QFileInfo(ToQString(fileName)).absolutePath();
+    if (!QFileInfo(folder).isDir())
+        throw FileError(fileName, {}, "there is no such file", "die Datei fehlt");
     QProcess git;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     // Messages are shown to the user, and reading must leave no lock behind.
@@ -35,7 +34,7 @@ QByteArray Git(const std::string& fileName, const QStringList& arguments)
     environment.insert(QStringLiteral("GIT_TERMINAL_PROMPT"), QStringLiteral("0"));
     environment.insert(QStringLiteral("GIT_LITERAL_PATHSPECS"), QStringLiteral("1"));
     git.setProcessEnvironment(environment);
-    git.setWorkingDirectory(QFileInfo(ToQString(fileName)).absolutePath());
+    git.setWorkingDirectory(folder);
     git.setStandardInputFile(QProcess::nullDevice());
     git.start(QStringLiteral("git"), QStringList{QStringLiteral("--no-pager")} + arguments);
     if (!git.waitForStarted())
@@ -48,27 +47,30 @@ QByteArray Git(const std::string& fileName, const QStringList& arguments)
                     said.empty() ? "git ist gescheitert" : "git: " + said);
 }
 
-/// "<begin>id<end>date<end>author<end>message", and with a name behind a line end and a zero.
-Revision RevisionFrom(const QByteArray& record)
-{
-    const QByteArrayList parts = record.split('\0');
-    const QByteArrayList fields = parts.value(0).split(FieldEnd);
-    return {fields.value(0).toStdString(), fields.value(1).toStdString(), fields.value(2).toStdString(),
-            fields.value(3).trimmed().toStdString(), parts.value(1).trimmed().toStdString()};
-}
+/// No author and no message holds a zero.
+const QString FourFields = QStringLiteral("--format=%H%x00%aI%x00%an%x00%s");
+constexpr qsizetype FieldsWithName = 5;
 
-const QString Format = QStringLiteral("--format=%x1e%H%x1f%aI%x1f%an%x1f%s");
+Revision RevisionFrom(const QByteArrayList& fields)
+{
+    // The name stands in a line of its own.
+    return {fields.value(0).toStdString(), fields.value(1).toStdString(), fields.value(2).toStdString(),
+            fields.value(3).toStdString(), fields.value(4).mid(1).toStdString()};
+}
 
 } // namespace
 
 std::vector<Revision> GitRevisions::Of(const std::string& fileName)
 {
-    const QByteArray log =
+    // Of a merge, git names files only when it is told what to compare it with.
+    const QByteArrayList fields =
         Git(fileName, {QStringLiteral("log"), QStringLiteral("--follow"), QStringLiteral("--name-only"),
-                       QStringLiteral("-z"), Format, QStringLiteral("--"), Unfollowed(ToQString(fileName))});
+                       QStringLiteral("--diff-merges=first-parent"), QStringLiteral("-z"), FourFields,
+                       QStringLiteral("--"), NameAlone(ToQString(fileName))})
+            .split('\0');
     std::vector<Revision> revisions;
-    for (const QByteArray& record : log.split(RevisionBegin))
-        if (!record.trimmed().isEmpty() && record != QByteArray(1, '\0')) revisions.push_back(RevisionFrom(record));
+    for (qsizetype begin = 0; begin + FieldsWithName <= fields.size(); begin += FieldsWithName)
+        revisions.push_back(RevisionFrom(fields.mid(begin, FieldsWithName)));
     return revisions;
 }
 
@@ -77,11 +79,11 @@ Revision GitRevisions::Find(const std::string& fileName, const std::string& name
     const QByteArray id = Git(fileName, {QStringLiteral("rev-parse"), QStringLiteral("--verify"),
                                          QStringLiteral("--end-of-options"), ToQString(name) + "^{commit}"})
                               .trimmed();
-    const QByteArray record = Git(
-        fileName, {QStringLiteral("log"), QStringLiteral("-1"), Format, QString::fromLatin1(id), QStringLiteral("--")});
-    Revision revision = RevisionFrom(record.mid(record.indexOf(RevisionBegin) + 1));
+    Revision revision = RevisionFrom(Git(fileName, {QStringLiteral("log"), QStringLiteral("-1"), QStringLiteral("-z"),
+                                                    FourFields, QString::fromLatin1(id), QStringLiteral("--")})
+                                         .split('\0'));
     const QByteArray prefix = Git(fileName, {QStringLiteral("rev-parse"), QStringLiteral("--show-prefix")});
-    revision.path = prefix.trimmed().toStdString() + Unfollowed(ToQString(fileName)).toStdString();
+    revision.path = prefix.chopped(1).toStdString() + NameAlone(ToQString(fileName)).toStdString();
     return revision;
 }
 

@@ -2,6 +2,8 @@
 
 #include "zqbchwcx/reference/model/editing/ModuleAttributes.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace zqbchwcx::reference {
@@ -20,7 +22,7 @@ CompareReport ReportOf(const StationData& first, const StationData& second, cons
                        const Catalogue& catalogue, const CompareOptions& options, Language language)
 {
     const StationComparison comparison = CompareStations(first, second, catalogue, options);
-    CompareReport report{files, {first.name, second.name}, comparison.AreSame(), {}, {}, {}};
+    CompareReport report{files, {first.name, second.name}, comparison.AreSame(), first.kind == second.kind, {}, {}, {}};
     for (const StationDifference& each : comparison.stationDifferences)
         report.station.push_back(DescribeDifference(first, second, each, language));
     for (const PlaceDifference& each : comparison.placeDifferences) {
@@ -109,18 +111,34 @@ std::string FullName(const DifferenceText& text)
 std::string Summary(const CompareReport& report, Language language)
 {
     if (report.same) return LocalizedText{"The stations are the same.", "Die Stationen sind gleich."}.In(language);
-    const std::size_t count = report.places.size();
-    const std::string number = std::to_string(count);
-    if (count == 0)
-        return LocalizedText{"The stations differ, but not in their modules.",
-                             "Die Stationen sind unterschiedlich, aber nicht in ihren Baugruppen."}
+    if (!report.placesCompared)
+        return LocalizedText{"The stations are of different kinds; their places were not compared.",
+                             "Die Stationen sind von unterschiedlicher Art; ihre Plätze wurden nicht verglichen."}
             .In(language);
-    if (count == 1)
-        return LocalizedText{"The stations differ in 1 place.", "Die Stationen sind an 1 Stelle unterschiedlich."}.In(
-            language);
-    return LocalizedText{"The stations differ in " + number + " places.",
-                         "Die Stationen sind an " + number + " Stellen unterschiedlich."}
-        .In(language);
+    const auto uncertain = static_cast<std::size_t>(
+        std::count_if(report.places.begin(), report.places.end(),
+                      [](const ReportedPlace& place) { return place.result == CompareResult::PotentiallyEqual; }));
+    const std::size_t certain = report.places.size() - uncertain;
+    const auto places = [](std::size_t count) {
+        const std::string number = std::to_string(count);
+        return count == 1 ? LocalizedText{"1 place", "1 Stelle"}
+                          : LocalizedText{number + " places", number + " Stellen"};
+    };
+    std::string text;
+    if (certain > 0)
+        text = LocalizedText{"The stations differ in " + places(certain).en + ".",
+                             "Die Stationen sind an " + places(certain).de + " unterschiedlich."}
+                   .In(language);
+    else if (!report.station.empty())
+        text = LocalizedText{"The stations differ, but not in their modules.",
+                             "Die Stationen sind unterschiedlich, aber nicht in ihren Baugruppen."}
+                   .In(language);
+    if (uncertain == 0) return text;
+    if (!text.empty()) text += " ";
+    return text +
+           LocalizedText{"In " + places(uncertain).en + ", it cannot be told whether the modules are equal.",
+                         "An " + places(uncertain).de + " lässt sich nicht sagen, ob die Baugruppen gleich sind."}
+               .In(language);
 }
 
 } // namespace zqbchwcx::reference

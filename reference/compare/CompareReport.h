@@ -23,6 +23,7 @@ struct CompareReport {
     std::array<std::string, 2> files; ///< what the user calls the stations
     std::array<std::string, 2> names; ///< what the stations call themselves
     bool same = true;
+    bool placesCompared = true;          ///< False for stations of different kinds
     std::vector<DifferenceText> station; ///< beside the modules
     std::vector<ReportedPlace> places;
     std::vector<std::string> moved; ///< hints, a sentence each without a full stop
@@ -40,7 +41,7 @@ LocalizedText ResultText(CompareResult result);
 std::string_view ResultId(CompareResult result);
 /// "Axis 2: Feed constant", with the type and slot of a sub-module before the name.
 std::string FullName(const DifferenceText& text);
-/// What the report comes to, as a sentence: "The stations differ in 3 places."
+/// What the report comes to, in a sentence or two: "The stations differ in 3 places."
 std::string Summary(const CompareReport& report, Language language);
 
 } // namespace zqbchwcx::reference

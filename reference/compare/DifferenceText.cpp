@@ -181,6 +181,7 @@ std::vector<DifferenceText> DescribeDifferences(const ModuleData& first, const M
 {
     const Describer describer(catalogue, language);
     std::vector<DifferenceText> texts;
+    texts.reserve(findings.size());
     for (const ModuleFinding& finding : findings) texts.push_back(describer.Describe(first, second, finding));
     return texts;
 }

@@ -2,6 +2,7 @@
 
 #include "tests/support/MemoryClipboard.h"
 #include "tests/support/model/SampleModel.h"
+#include "zqbchwcx/reference/compare/CompareService.h"
 #include "zqbchwcx/reference/model/contract/ModelFactory.h"
 #include "zqbchwcx/reference/model/contract/TypeExchange.h"
 
@@ -34,6 +35,11 @@ ContractHost ReferenceHost(std::int32_t kind, ContractStation wanted)
     };
     ContractHost host;
     host.station = station;
+    host.compareWithItself = [context, station] {
+        return std::make_shared<reference::CompareService>(
+            station, std::make_shared<reference::Station>(context, station->Data()),
+            reference::ComparePair::ProjectAndComparison);
+    };
     host.factory = std::make_shared<reference::ModelFactory>(context);
     host.firstPlace = 4;
     host.lastPlace = 11;

@@ -399,6 +399,41 @@ void ClipboardCarriesModules(const ContractHost& host)
     ExpectSameModules(*block, *read, host.textAttribute);
 }
 
+void ComparingTellsWhatChangedByTheLastCompare(const ContractHost& host)
+{
+    if (!host.compareWithItself) GTEST_SKIP() << "the host compares no stations";
+    Fill(host, "a b c");
+    const auto compare = host.compareWithItself();
+    compare->Compare();
+    EXPECT_GE(compare->CompareType(), 0);
+    EXPECT_LE(compare->CompareType(), 2);
+    const VxHWRackPlacePtr changed = PlaceOf(host, host.firstPlace);
+    const VxHWRackPlacePtr emptied = PlaceOf(host, host.firstPlace + 1);
+    EXPECT_TRUE(host.station->SetModuleAttribute(changed, host.textAttribute, "new"));
+    host.station->DeleteModules(PlacesOf(host, {host.firstPlace + 1}));
+    for (const VxHWRackPlacePtr& place : AllPlaces(*host.station))
+        EXPECT_EQ(compare->PlaceResult(place), vxCompareEqual) << place->Key() << ", before it is compared again";
+    compare->Compare();
+    EXPECT_EQ(compare->PlaceResult(emptied), vxCompareOnlyOther);
+    EXPECT_EQ(compare->PlaceResult(PlaceOf(host, host.firstPlace + 2)), vxCompareEqual);
+    EXPECT_GE(compare->PlaceResult(changed), vxCompareParametersDiffer);
+    EXPECT_LE(compare->PlaceResult(changed), vxCompareParametersDiffer2);
+
+    const ParameterDifferencesPtr differences = compare->ParameterDifferencesOf(changed);
+    ASSERT_TRUE(differences);
+    std::int32_t count = 0;
+    std::set<std::string> values;
+    for (const ParameterDifferencePtr& each : differences) {
+        EXPECT_EQ(each->Path(), differences->Item(++count)->Path());
+        EXPECT_TRUE(each->Kind() >= vxDifferenceOther && each->Kind() <= vxDifferenceAddress) << each->Kind();
+        values.insert(each->Value1() + " -> " + each->Value2());
+    }
+    EXPECT_TRUE(values.contains("new -> a"));
+    EXPECT_EQ(count, differences->Count());
+    EXPECT_ANY_THROW(differences->Item(0));
+    EXPECT_ANY_THROW(differences->Item(count + 1));
+}
+
 /// One rule of the contract and the test of it.
 struct Rule {
     const char* name;
@@ -430,6 +465,7 @@ constexpr Rule Rules[] = {
     {"DamagedConfigTextGivesNoModules", DamagedConfigTextGivesNoModules},
     {"ExchangeObjectCarriesModules", ExchangeObjectCarriesModules},
     {"ClipboardCarriesModules", ClipboardCarriesModules},
+    {"ComparingTellsWhatChangedByTheLastCompare", ComparingTellsWhatChangedByTheLastCompare},
 };
 
 class ContractCase : public ::testing::Test {

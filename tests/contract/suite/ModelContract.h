@@ -1,5 +1,6 @@
 #pragma once
 
+#include "zqbchwcx/foundation/model/VxHWCompareService.h"
 #include "zqbchwcx/foundation/model/VxHWModelFactory.h"
 #include "zqbchwcx/foundation/model/VxHWStation.h"
 
@@ -27,6 +28,8 @@ struct ContractHost {
     /// Takes the reason that the user was told for the last refusal; empty when there was none since. Empty: the host
     /// tells no reasons.
     std::function<std::string()> takeReason;
+    /// Compares `station` with another one that is what `station` was at the call; empty: the host compares nothing.
+    std::function<std::shared_ptr<VxHWCompareService>()> compareWithItself;
     std::string textAttribute = "COMMENT"; ///< one that every sample module has and that takes any text
 };
 
