@@ -5,10 +5,12 @@
 #include "zqbchwcx/reference/json/FileError.h"
 
 #include <QByteArrayList>
-#include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStringList>
+
+#include <filesystem>
+#include <system_error>
 
 namespace quillon_ed {
 
@@ -16,16 +18,23 @@ using namespace zqbchwcx::reference;
 
 namespace {
 
-QString NameAlone(const QString& fileName)
+/// A name that begins with a colon would mean something to the toolkit, but is a file's as any other.
+std::filesystem::path PathOf(const std::string& fileName)
 {
-    return QFileInfo(fileName).fileName();
+    return std::filesystem::absolute(fileName);
+}
+
+QString NameAlone(const std::string& fileName)
+{
+    return ToQString(PathOf(fileName).filename().string());
 }
 
 /// Runs git in the file's folder and returns what it prints.
 QByteArray Git(const std::string& fileName, const QStringList& arguments)
 {
-    const QString folder = QFileInfo(ToQString(fileName)).absolutePath();
-    if (!QFileInfo(folder).isDir())
+    const std::filesystem::path folder = PathOf(fileName).parent_path();
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(folder, ignored))
         throw FileError(fileName, {}, "there is no such file", "die Datei fehlt");
     QProcess git;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -34,7 +43,7 @@ QByteArray Git(const std::string& fileName, const QStringList& arguments)
     environment.insert(QStringLiteral("GIT_TERMINAL_PROMPT"), QStringLiteral("0"));
     environment.insert(QStringLiteral("GIT_LITERAL_PATHSPECS"), QStringLiteral("1"));
     git.setProcessEnvironment(environment);
-    git.setWorkingDirectory(folder);
+    git.setWorkingDirectory(ToQString(folder.string()));
     git.setStandardInputFile(QProcess::nullDevice());
     git.start(QStringLiteral("git"), QStringList{QStringLiteral("--no-pager")} + arguments);
     if (!git.waitForStarted())
@@ -66,7 +75,7 @@ std::vector<Revision> GitRevisions::Of(const std::string& fileName)
     const QByteArrayList fields =
         Git(fileName, {QStringLiteral("log"), QStringLiteral("--follow"), QStringLiteral("--name-only"),
                        QStringLiteral("--diff-merges=first-parent"), QStringLiteral("-z"), FourFields,
-                       QStringLiteral("--"), NameAlone(ToQString(fileName))})
+                       QStringLiteral("--"), NameAlone(fileName)})
             .split('\0');
     std::vector<Revision> revisions;
     for (qsizetype begin = 0; begin + FieldsWithName <= fields.size(); begin += FieldsWithName)
@@ -83,7 +92,7 @@ Revision GitRevisions::Find(const std::string& fileName, const std::string& name
                                                     FourFields, QString::fromLatin1(id), QStringLiteral("--")})
                                          .split('\0'));
     const QByteArray prefix = Git(fileName, {QStringLiteral("rev-parse"), QStringLiteral("--show-prefix")});
-    revision.path = prefix.chopped(1).toStdString() + NameAlone(ToQString(fileName)).toStdString();
+    revision.path = prefix.chopped(1).toStdString() + NameAlone(fileName).toStdString();
     return revision;
 }
 

@@ -26,7 +26,6 @@ class Usage(Home):
                                   (["render", "x.json", "--sclae", "2"], "did you mean '--scale'?"),
                                   (["chekc", "x.json"], "did you mean 'check'?"),
                                   (["compare", "x.json"], "'compare' needs two stations"),
-                                  (["compare", "x.json", "y.json", "--ignore", "name,foo"], "'foo' cannot be ignored"),
                                   (["list", "x.json", "--lang", "fr"], "there is no language 'fr'")):
             done = self.run_command(*arguments)
             self.assertEqual((done.returncode, done.stdout), (USAGE, ""))

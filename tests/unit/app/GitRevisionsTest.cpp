@@ -43,7 +43,7 @@ protected:
     }
 
     QTemporaryDir mDirectory;
-    QString msFile = mDirectory.filePath(":(top)* \"ä\".json");
+    QString msFile = mDirectory.path() + "/:(top)* \"ä\".json";
     GitRevisions revisions;
 };
 

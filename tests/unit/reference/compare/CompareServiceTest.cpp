@@ -5,6 +5,7 @@
 #include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
+#include "zqbchwcx/reference/compare/CompareReport.h"
 #include "zqbchwcx/reference/model/contract/Module.h"
 
 #include <gmock/gmock.h>
@@ -220,6 +221,45 @@ TEST(CompareStations, TellsOtherKindsAndSizesAsSuch)
     third.racks[0] = rack;
     EXPECT_EQ(told(Station1({input}, 3), third),
               "Rack 0: present: yes / no; Place 3 of rack 0: usability: active / not usable; 111");
+}
+
+TEST(CompareStations, LeavesOutWhatIsIgnored)
+{
+    const StationData first = Station1({Positioning()});
+    StationData second = Station1({Positioning([](ModuleData& module) {
+        module.name = module.comment = "other";
+        module.outputAddress = 8;
+        module.parameters["coupled"] = true;
+        module.subModules.pop_back();
+    })});
+    second.name = "other";
+    second.readOnly = true;
+    auto rack = std::make_shared<RackData>(*second.racks[0]);
+    rack->state = 0;
+    second.racks[0] = rack;
+    const std::pair<CompareOptions, const char*> cases[] = {
+        {{},
+         "Name of the station;Locked against changes;Rack 0: present;Name;Comment;Outputs;Axes run coupled;"
+         "Sub-module 3;"},
+        {{.ignoreNames = true},
+         "Locked against changes;Rack 0: present;Comment;Outputs;Axes run coupled;Sub-module 3;"},
+        {{.ignoreComments = true, .ignoreLock = true},
+         "Name of the station;Rack 0: present;Name;Outputs;Axes run coupled;Sub-module 3;"},
+        {{.ignoreAddresses = true, .ignoreParameters = true},
+         "Name of the station;Locked against changes;Rack 0: present;Name;Comment;Sub-module 3;"},
+        {{.ignoreSubModules = true, .ignoreUsability = true},
+         "Name of the station;Locked against changes;Name;Comment;Outputs;Axes run coupled;"},
+        {{true, true, true, true, true, true, true}, ""},
+    };
+    for (const auto& [options, expected] : cases) {
+        const CompareReport report = ReportOf(first, second, {}, ShippedCatalogue(), options, Language::English);
+        std::string told;
+        for (const DifferenceText& each : report.station) told += each.name + ";";
+        for (const ReportedPlace& place : report.places)
+            for (const DifferenceText& each : place.details) told += FullName(each) + ";";
+        EXPECT_EQ(told, expected);
+        EXPECT_EQ(report.same, told.empty());
+    }
 }
 
 TEST(CompareStations, HintsAtWhatMoved)
