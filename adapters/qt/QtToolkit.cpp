@@ -5,6 +5,7 @@
 #include "zqbchwcx/qt/PlainText.h"
 #include "zqbchwcx/qt/QtButton.h"
 #include "zqbchwcx/qt/QtGrid.h"
+#include "zqbchwcx/qt/QtInfoControls.h"
 #include "zqbchwcx/qt/QtPictureBox.h"
 #include "zqbchwcx/qt/QtPopupForm.h"
 #include "zqbchwcx/qt/QtPopupMenu.h"
@@ -128,6 +129,50 @@ TabStripPtr QtToolkit::CreateTabStrip(UserControl& parent, std::string_view name
 PopupFormPtr QtToolkit::CreatePopupForm(UserControl& parent, std::string_view name)
 {
     return std::make_unique<QtPopupForm>(*new PopupFormWidget(WindowOf(parent), ToQString(name)));
+}
+
+PanelPtr QtToolkit::CreatePanel(UserControl& parent, std::string_view name, const Rect& rect)
+{
+    ControlWidget& window = WindowOf(parent);
+    auto* widget = new PanelWidget(window, ToQString(name));
+    window.HoldsInput();
+    auto panel = std::make_unique<QtPanel>(*widget);
+    panel->Move(rect);
+    widget->show();
+    return panel;
+}
+
+LabelPtr QtToolkit::CreateLabel(UserControl& parent, std::string_view name, const Rect& rect)
+{
+    auto* widget = new QLabel(&WindowOf(parent));
+    widget->setObjectName(ToQString(name));
+    widget->setTextFormat(Qt::PlainText);
+    auto label = std::make_unique<QtLabel>(*widget);
+    label->Move(rect);
+    widget->show();
+    return label;
+}
+
+InfoBoxPtr QtToolkit::CreateInfoBox(UserControl& parent, std::string_view name, const Rect& rect)
+{
+    ControlWidget& window = WindowOf(parent);
+    auto* widget = new InfoBoxWidget(window, ToQString(name));
+    auto box = std::make_unique<QtInfoBox>(*widget);
+    box->Move(rect);
+    widget->show();
+    OfferFocus(window, *widget);
+    return box;
+}
+
+CommandButtonPtr QtToolkit::CreateCommandButton(UserControl& parent, std::string_view name, const Rect& rect)
+{
+    auto* widget = new QPushButton(&WindowOf(parent));
+    widget->setObjectName(ToQString(name));
+    widget->setAutoDefault(false);
+    auto button = std::make_unique<QtCommandButton>(*widget);
+    button->Move(rect);
+    widget->show();
+    return button;
 }
 
 WindowSpyPtr QtToolkit::CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler)

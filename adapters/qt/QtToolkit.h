@@ -22,6 +22,10 @@ public:
     TabStripPtr CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect,
                                std::int32_t lTabs) override;
     PopupFormPtr CreatePopupForm(UserControl& parent, std::string_view name) override;
+    PanelPtr CreatePanel(UserControl& parent, std::string_view name, const Rect& rect) override;
+    LabelPtr CreateLabel(UserControl& parent, std::string_view name, const Rect& rect) override;
+    InfoBoxPtr CreateInfoBox(UserControl& parent, std::string_view name, const Rect& rect) override;
+    CommandButtonPtr CreateCommandButton(UserControl& parent, std::string_view name, const Rect& rect) override;
     WindowSpyPtr CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler) override;
     MouseHookPtr CreateMouseHook(MouseHookHandler handler) override;
     SysInfoPtr CreateSysInfo(UserControl& parent) override;

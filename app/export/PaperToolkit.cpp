@@ -146,6 +146,26 @@ PopupFormPtr PaperToolkit::CreatePopupForm(UserControl& /*parent*/, std::string_
     throw NotOnPaper(name);
 }
 
+PanelPtr PaperToolkit::CreatePanel(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+{
+    throw NotOnPaper(name);
+}
+
+LabelPtr PaperToolkit::CreateLabel(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+{
+    throw NotOnPaper(name);
+}
+
+InfoBoxPtr PaperToolkit::CreateInfoBox(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+{
+    throw NotOnPaper(name);
+}
+
+CommandButtonPtr PaperToolkit::CreateCommandButton(UserControl& /*parent*/, std::string_view name, const Rect& /*rect*/)
+{
+    throw NotOnPaper(name);
+}
+
 WindowSpyPtr PaperToolkit::CreateWindowSpy(std::intptr_t /*hWnd*/, WindowSpyHandler /*handler*/)
 {
     return std::make_unique<WindowSpy>();

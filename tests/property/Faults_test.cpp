@@ -4,6 +4,7 @@
 #include "zqbchwcx/managers/VxHWDiagManager.h"
 #include "zqbchwcx/platform/Input.h"
 #include "zqbchwcx/reference/model/configtext/ConfigText.h"
+#include "zqbchwcx/views/diag/VxHWDiagPanel.h"
 #include "zqbchwcx/views/overview/OverviewControl.h"
 #include "zqbchwcx/views/table/TableControl.h"
 
@@ -56,6 +57,13 @@ public:
         if (eMode == Mode::Compare)
             compManager.Initialize(view->StationType(), view, compareView, compareView, watched, watched, compare, {});
     }
+    /// Whether the panel tells nothing about a module.
+    bool IsPanelEmpty() const
+    {
+        for (const auto& [name, box] : toolkit->infoBoxes)
+            if (!box->text.empty()) return false;
+        return toolkit->grids.at("vxgrd_InfoVersion")->RowCount() == 0;
+    }
     void EndMode()
     {
         if (meMode == Mode::Config) Manager().Terminate();
@@ -72,11 +80,12 @@ public:
         Initialize();
     }
 
+    RecordingControl panelSite{log};
+    std::shared_ptr<VxHWDiagPanel> panel = std::make_shared<VxHWDiagPanel>(panelSite);
     VxHWDiagManager diagManager;
     VxHWCompManager compManager;
 
 private:
-    std::shared_ptr<RecordingView> panel = std::make_shared<RecordingView>(log, "panel");
     std::shared_ptr<RecordingCompareView> compareView = std::make_shared<RecordingCompareView>(log, "compare");
     Mode meMode = Mode::Config;
 };
@@ -298,6 +307,7 @@ Step In(Mode eMode)
         for (const char* picture : {"IDB_DIAG_FAILURE", "IDB_COMP_PARAMDIFF"})
             editor.host->pictures[picture] = std::make_shared<FakeImage>(picture);
         modes.Enter(eMode);
+        editor.host->components = {{"Firmware", "V 1.2"}, {"Loader", ""}};
         editor.view->VxHWSelectionHandler()->FocusPosition(Digital);
     };
 }
@@ -313,6 +323,12 @@ void RefreshPlace(Editor& editor)
     const auto oPlace = Watch(editor.log, editor.watched->Place(0, 4));
     dynamic_cast<OverviewControl&>(*editor.view).RefreshPlace(oPlace);
     dynamic_cast<TableControl&>(*editor.table).RefreshPlace(oPlace);
+    static_cast<ModesEditor&>(editor).panel->RefreshPlace(oPlace);
+}
+
+Step FocusInMode(std::int32_t lPosition)
+{
+    return [=](Editor& editor) { editor.view->VxHWSelectionHandler()->FocusPosition(lPosition); };
 }
 
 Step Hover(std::int32_t lPosition)
@@ -528,7 +544,21 @@ std::vector<Operation> CommonOperations()
         {"DiagRefresh", In(Mode::Diag), CommandOf(&ModesEditor::diagManager, &VxHWDiagManager::Refresh),
          Draws | Connects},
         {"DiagTerminate", In(Mode::Diag), CommandOf(&ModesEditor::diagManager, &VxHWDiagManager::Terminate), Connects},
-        {"DiagRefreshPlace", In(Mode::Diag), &RefreshPlace, Connects, "overview.RefreshPlace table.RefreshPlace"},
+        {"DiagRefreshPlace", In(Mode::Diag), &RefreshPlace, Connects,
+         "overview.RefreshPlace table.RefreshPlace panel.RefreshPlace"},
+        {"DiagFocus", Then(In(Mode::Diag), FocusInMode(Empty)), FocusInMode(Digital), Connects,
+         "panel.Refresh panel.P_SetModuleInfo panel.P_FillVersionInfoGrid"},
+        {"DiagFocusController", In(Mode::Diag), FocusInMode(G_PlacePosition(0, 2)), Connects, "panel.P_GetVxPlcInfo"},
+        {"DiagButton", In(Mode::Diag),
+         [](Editor& editor) { editor.toolkit->commandButtons.at("vxcmd_AdditionalInfo")->Click(); }, Connects,
+         "panel.vxcmd_AdditionalInfo_Click"},
+        {"DiagVersionKey", In(Mode::Diag),
+         [](Editor& editor) { editor.toolkit->grids.at("vxgrd_InfoVersion")->Key(vxKeyDown); }, Connects},
+        {"DiagColors", In(Mode::Diag), [](Editor& editor) { editor.toolkit->sysColorsChanged(); }, Connects,
+         "panel.sysinf_Main_SysColorsChanged"},
+        {"DiagResize", In(Mode::Diag),
+         [](Editor& editor) { static_cast<ModesEditor&>(editor).panelSite.Resize(100, 100); }, Connects,
+         "panel.UserControl_Resize panel.P_SizeModuleInfo"},
         {"DiagClick", In(Mode::Diag), Click(Empty + 1), Connects},
         {"DiagDoubleClick", Then(In(Mode::Diag), Press(Digital)), [](Editor& editor) { editor.Mouse().DblClick(); },
          Connects},
@@ -693,6 +723,7 @@ public:
     /// Brackets are closed, and what the user does next works as ever.
     void ExpectSound(bool bEnded)
     {
+        EXPECT_TRUE(!bEnded || mEditor.IsPanelEmpty());
         EndGestures();
         if (mOperation.Has(LeavesDrawingOff)) mEditor.station->IsDrawable(true);
         mEditor.host->reports.clear();
@@ -758,10 +789,12 @@ protected:
         const char* text = std::getenv("QUILLON_FAULT_STRIDE");
         return (text != nullptr ? std::atoi(text) : 1) * (operation.Has(Draws) ? 7 : 1);
     }
-    /// "overview.P_X" by the name of the variant's class.
+    /// "overview.P_X" by the name of the view's class.
     std::string NamedAs(const std::string& procedure) const
     {
-        const char* className = procedure.starts_with("overview.") ? variant.overviewClass : variant.tableClass;
+        const char* className = procedure.starts_with("overview.") ? variant.overviewClass
+                                : procedure.starts_with("table.")  ? variant.tableClass
+                                                                   : "VxHWDiagPanel";
         return className + procedure.substr(procedure.find('.'));
     }
     void ExpectNothingLost(const Attempt& attempt, const std::string& good) const

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zqbchwcx {
 
@@ -94,6 +95,24 @@ public:
 };
 using OptionServicePtr = std::shared_ptr<OptionService>;
 
+/// A part of a controller that has a version of its own.
+struct ControllerComponent {
+    std::string name;
+    std::string version;
+
+    bool operator==(const ControllerComponent&) const = default;
+};
+
+/// What a host knows about the station's controller beyond its order number.
+class ControllerInfo {
+public:
+    virtual ~ControllerInfo() = default;
+
+    /// In the order in which they are shown. A name or version that is not known is empty.
+    virtual std::vector<ControllerComponent> Components() const = 0;
+};
+using ControllerInfoPtr = std::shared_ptr<ControllerInfo>;
+
 /// Makes the host's own helper objects.
 class ObjectFactory {
 public:
@@ -102,6 +121,8 @@ public:
     virtual ObjectLookupPtr CreateObjectLookup() = 0;
     virtual ExchangeDataPtr CreateExchangeData() = 0;
     virtual OptionServicePtr CreateOptionService() = 0;
+    /// Null when the host knows nothing about the controller.
+    virtual ControllerInfoPtr CreateControllerInfo() = 0;
 };
 
 } // namespace zqbchwcx

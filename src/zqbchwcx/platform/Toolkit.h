@@ -2,6 +2,7 @@
 
 #include "zqbchwcx/platform/Button.h"
 #include "zqbchwcx/platform/Grid.h"
+#include "zqbchwcx/platform/InfoControls.h"
 #include "zqbchwcx/platform/PictureBox.h"
 #include "zqbchwcx/platform/PopupForm.h"
 #include "zqbchwcx/platform/PopupMenu.h"
@@ -38,6 +39,10 @@ public:
     virtual TabStripPtr CreateTabStrip(UserControl& parent, std::string_view name, const Rect& rect,
                                        std::int32_t lTabs) = 0;
     virtual PopupFormPtr CreatePopupForm(UserControl& parent, std::string_view name) = 0;
+    virtual PanelPtr CreatePanel(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual LabelPtr CreateLabel(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual InfoBoxPtr CreateInfoBox(UserControl& parent, std::string_view name, const Rect& rect) = 0;
+    virtual CommandButtonPtr CreateCommandButton(UserControl& parent, std::string_view name, const Rect& rect) = 0;
     virtual WindowSpyPtr CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler) = 0;
     virtual MouseHookPtr CreateMouseHook(MouseHookHandler handler) = 0;
     virtual SysInfoPtr CreateSysInfo(UserControl& parent) = 0;

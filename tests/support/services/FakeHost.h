@@ -21,6 +21,7 @@ class FakeHost : public SettingsReader,
                  public ObjectLookup,
                  public ObjectFactory,
                  public OptionService,
+                 public ControllerInfo,
                  public VxHWModelFactory,
                  public Logged,
                  public std::enable_shared_from_this<FakeHost> {
@@ -116,6 +117,12 @@ public:
         return Answer("ExchangeData.Create", std::make_shared<WatchedExchange>(moLog, clipboard));
     }
     OptionServicePtr CreateOptionService() override { return Answer("OptionService.Create", shared_from_this()); }
+    ControllerInfoPtr CreateControllerInfo() override { return Answer("ControllerInfo.Create", shared_from_this()); }
+    std::vector<ControllerComponent> Components() const override
+    {
+        Call("ControllerInfo.Components");
+        return components;
+    }
     std::string Read(std::string_view parameter) override
     {
         Call("OptionService.Read");
@@ -146,7 +153,8 @@ public:
     reference::ModelContextPtr context;
     std::map<std::pair<std::string, std::string>, std::string> settings; ///< by key path and name
     std::map<std::string, std::string, std::less<>> options;
-    std::map<std::int32_t, std::string> texts; ///< a number without a text gives "T" and the number
+    std::vector<ControllerComponent> components; ///< of the controller
+    std::map<std::int32_t, std::string> texts;   ///< a number without a text gives "T" and the number
     std::map<std::string, ImagePtr> pictures;
     std::int32_t openTexts = 0;
     std::vector<VxError> reports;

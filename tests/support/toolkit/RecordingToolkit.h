@@ -6,6 +6,7 @@
 #include "tests/support/toolkit/RecordingControl.h"
 #include "tests/support/toolkit/RecordingGrid.h"
 #include "tests/support/toolkit/RecordingImageList.h"
+#include "tests/support/toolkit/RecordingInfoControls.h"
 #include "tests/support/toolkit/RecordingPictureBox.h"
 #include "tests/support/toolkit/RecordingPopupForm.h"
 #include "tests/support/toolkit/RecordingPopupMenu.h"
@@ -65,6 +66,22 @@ public:
     {
         return Made<RecordingPopupForm>(popupForms[std::string(name)]);
     }
+    PanelPtr CreatePanel(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingPanel>(panels[std::string(name)], rect);
+    }
+    LabelPtr CreateLabel(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingLabel>(labels[std::string(name)].emplace_back(), rect);
+    }
+    InfoBoxPtr CreateInfoBox(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingInfoBox>(infoBoxes[std::string(name)], rect);
+    }
+    CommandButtonPtr CreateCommandButton(UserControl&, std::string_view name, const Rect& rect) override
+    {
+        return Made<RecordingCommandButton>(commandButtons[std::string(name)], rect);
+    }
     WindowSpyPtr CreateWindowSpy(std::intptr_t hWnd, WindowSpyHandler handler) override
     {
         return watch.CreateSpy(hWnd, std::move(handler));
@@ -93,6 +110,10 @@ public:
     std::map<std::string, RecordingPopupMenu*> menus;
     std::map<std::string, RecordingScrollBar*> scrollBars;
     std::map<std::string, RecordingButton*> buttons;
+    std::map<std::string, RecordingPanel*> panels;
+    std::map<std::string, std::vector<RecordingLabel*>> labels;
+    std::map<std::string, RecordingInfoBox*> infoBoxes;
+    std::map<std::string, RecordingCommandButton*> commandButtons;
     ShapesByName shapes;
     // The test calls these.
     std::function<void()> sysColorsChanged;

@@ -43,20 +43,27 @@ std::string_view CpuStatePicture(std::int32_t lCpuState)
     }
 }
 
+std::vector<std::int32_t> Failures(const VxHWDiagService& oDiagService, const VxHWRackPlacePtr& oPlace,
+                                   std::int32_t lTextWithoutFailure)
+{
+    std::vector<std::int32_t> texts;
+    if (oDiagService.HasFailure(oPlace) == 0) {
+        if (lTextWithoutFailure != NoText) texts.push_back(lTextWithoutFailure);
+        return texts;
+    }
+    for (const Category& category : Categories)
+        if (oDiagService.HasDiagState(oPlace, category.lCategory)) texts.push_back(category.lText);
+    return texts;
+}
+
 std::string Description(const VxHWDiagService& oDiagService, const VxHWRackPlacePtr& oPlace, TextModule& texts,
                         std::int32_t lTextWithoutFailure)
 {
     std::string text;
-    const auto append = [&](std::int32_t lText) {
-        if (lText != NoText) G_AppendLine(text, texts.Text(lText));
-    };
-    append(CpuStateText(oDiagService.CpuState(oPlace)));
-    if (oDiagService.HasFailure(oPlace) == 0) {
-        append(lTextWithoutFailure);
-        return text;
-    }
-    for (const Category& category : Categories)
-        if (oDiagService.HasDiagState(oPlace, category.lCategory)) append(category.lText);
+    const std::int32_t lCpuState = CpuStateText(oDiagService.CpuState(oPlace));
+    if (lCpuState != NoText) text = texts.Text(lCpuState);
+    for (const std::int32_t lText : Failures(oDiagService, oPlace, lTextWithoutFailure))
+        G_AppendLine(text, texts.Text(lText));
     return text;
 }
 

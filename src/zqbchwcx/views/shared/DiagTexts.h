@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zqbchwcx {
 
@@ -21,9 +22,13 @@ std::string_view CpuStatePicture(std::int32_t lCpuState);
 
 inline constexpr std::string_view FailurePicture = "IDB_DIAG_FAILURE";
 
-/// What the service says about a module, a line each ("\r\n" between them): the operating state of a controller, then,
-/// if it reports a failure, the categories 1, 4 and 2 in that order, else `lTextWithoutFailure` unless that is
-/// `NoText`.
+/// The numbers of the texts about what fails in the place: of the categories 1, 4 and 2, in that order, that the
+/// service reports; of `lTextWithoutFailure` alone, unless that is `NoText`, when it reports no failure.
+std::vector<std::int32_t> Failures(const VxHWDiagService& oDiagService, const VxHWRackPlacePtr& oPlace,
+                                   std::int32_t lTextWithoutFailure);
+
+/// What the service says about a module, a line each ("\r\n" between them): the operating state of a controller, then
+/// the `Failures`.
 std::string Description(const VxHWDiagService& oDiagService, const VxHWRackPlacePtr& oPlace, TextModule& texts,
                         std::int32_t lTextWithoutFailure);
 
