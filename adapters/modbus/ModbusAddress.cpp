@@ -28,6 +28,11 @@ QUrl ToUrl(const QString& text)
 
 } // namespace
 
+std::string HostText(const ModbusAddress& address)
+{
+    return address.host.find(':') == std::string::npos ? address.host : "[" + address.host + "]";
+}
+
 std::variant<ModbusAddress, LocalizedText> ParseModbusAddress(std::string_view text)
 {
     const std::string quoted = "'" + std::string(text) + "'";

@@ -18,6 +18,9 @@ struct ModbusAddress {
     bool operator==(const ModbusAddress&) const = default;
 };
 
+/// The host as it stands before a colon and a port: in brackets when it has colons of its own.
+std::string HostText(const ModbusAddress& address);
+
 inline constexpr std::string_view ModbusScheme = "modbus-tcp";
 
 /// Reads "modbus-tcp://HOST:PORT", with "?unit=N" (0 to 255) behind it for another unit than 1; or why it is none.

@@ -28,9 +28,10 @@ LocalizedText LostText(const QModbusDevice& client)
                       socket ? socket->errorString() : QString());
 }
 
-LocalizedText TimeoutText(std::chrono::milliseconds time)
+LocalizedText TimeoutText(bool isConnected, std::chrono::milliseconds time)
 {
     const std::string text = std::to_string(time.count()) + " ms";
+    if (!isConnected) return {"no connection within " + text, "keine Verbindung innerhalb von " + text};
     return {"no answer within " + text, "keine Antwort innerhalb von " + text};
 }
 
@@ -53,8 +54,10 @@ ModbusSource::ModbusSource(ModbusAddress address, PlantPtr oPlant, ModbusTimes t
     moNext.setSingleShot(true);
     moWaiting.setSingleShot(true);
     QObject::connect(&moNext, &QTimer::timeout, &moContext, [this] { GoOn(); });
-    QObject::connect(&moWaiting, &QTimer::timeout, &moContext,
-                     [this] { Fail(ConnectionKind::NotReachable, TimeoutText(moWaiting.intervalAsDuration())); });
+    QObject::connect(&moWaiting, &QTimer::timeout, &moContext, [this] {
+        const bool isConnected = moClient->state() == QModbusDevice::ConnectedState;
+        Fail(ConnectionKind::NotReachable, TimeoutText(isConnected, moWaiting.intervalAsDuration()));
+    });
 }
 
 ModbusSource::~ModbusSource()
@@ -96,7 +99,8 @@ void ModbusSource::Connect()
 {
     mnChangeCounter.reset();
     moClient = new QModbusTcpClient(&moContext);
-    moClient->setConnectionParameter(QModbusDevice::NetworkAddressParameter, QString::fromStdString(moAddress.host));
+    moClient->setConnectionParameter(QModbusDevice::NetworkAddressParameter,
+                                     QString::fromStdString(HostText(moAddress)));
     moClient->setConnectionParameter(QModbusDevice::NetworkPortParameter, moAddress.port);
     moClient->setNumberOfRetries(0);
     QObject::connect(moClient, &QModbusDevice::stateChanged, &moContext, [this](QModbusDevice::State state) {

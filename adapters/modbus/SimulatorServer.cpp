@@ -68,7 +68,7 @@ SimulatorServer::~SimulatorServer()
 
 std::optional<std::string> SimulatorServer::Listen(const ModbusAddress& address)
 {
-    setConnectionParameter(NetworkAddressParameter, QString::fromStdString(address.host));
+    setConnectionParameter(NetworkAddressParameter, QString::fromStdString(HostText(address)));
     setConnectionParameter(NetworkPortParameter, address.port);
     setServerAddress(address.unit);
     if (connectDevice()) return {};

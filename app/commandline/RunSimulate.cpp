@@ -55,8 +55,8 @@ int simulate(const CommandLine& line, const CommandStreams& streams)
         Complain(streams.err, line.listen + ": " + *reason);
         return ExitTrouble;
     }
-    streams.out << LocalizedText{"Listening on ", "Erreichbar unter "}.In(language) << "modbus-tcp://" << address.host
-                << ":" << server.Port() << '\n';
+    streams.out << LocalizedText{"Listening on ", "Erreichbar unter "}.In(language) << "modbus-tcp://"
+                << HostText(address) << ":" << server.Port() << '\n';
     if (const int trouble = EndOutput(streams, language, ExitClean)) return trouble;
 
     QElapsedTimer elapsed;

@@ -16,9 +16,10 @@ SYSTEM_PYTHON = "/usr/bin/python3"  # the one that knows the packages of the sys
 
 # A Modbus server as the package's users write one: arguments are the port and the registers.
 FOREIGN_SERVER = """
-import json, sys
+import json, logging, sys
 from pymodbus.datastore import ModbusSequentialDataBlock, ModbusServerContext, ModbusSlaveContext
 from pymodbus.server import StartTcpServer
+logging.disable(logging.CRITICAL)
 registers = ModbusSequentialDataBlock(0, json.loads(sys.argv[2]))
 context = ModbusServerContext(slaves=ModbusSlaveContext(hr=registers, zero_mode=True), single=True)
 StartTcpServer(context=context, address=("127.0.0.1", int(sys.argv[1])))

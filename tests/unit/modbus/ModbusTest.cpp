@@ -19,6 +19,7 @@ TEST(ModbusAddress, IsReadStrictly)
         {"modbus-tcp://[::1]:502?unit=0", {"::1", 502, 0}},
     };
     for (const auto& [text, address] : right) EXPECT_EQ(std::get<0>(ParseModbusAddress(text)), address) << text;
+    EXPECT_EQ(HostText(right[2].second), "[::1]");
     for (const char* wrong : {"", "10.0.0.7:502", "modbus-tcp://10.0.0.7", "modbus-tcp://:502", "http://a:502",
                               "modbus-tcp://a:0", "modbus-tcp://a:70000", "modbus-tcp://a:502/x",
                               "modbus-tcp://a:502?unit=256", "modbus-tcp://a:502?slave=1", "modbus-tcp://me@a:502"})
