@@ -126,6 +126,11 @@ void MoveFocus(Stage& stage, std::int32_t lPlace)
     stage.Focus(G_PlacePosition(0, lPlace));
 }
 
+void ScrollStep(Stage& stage, bool bOdd)
+{
+    stage.InOverview<QScrollBar>("scb_Main").setValue(bOdd ? 1 : 0);
+}
+
 void MoveFocusInRow(Stage& stage, bool bOdd)
 {
     MoveFocus(stage, bOdd ? 4 : 5);
@@ -144,11 +149,12 @@ int main(int argc, char** argv)
         for (auto step : state) bareLoop.Draw();
     });
     Register("Refresh", [](Stage& stage, bool) { stage.View().Refresh(); });
-    Register("ScrollStep",
-             [](Stage& stage, bool bOdd) { stage.InOverview<QScrollBar>("scb_Main").setValue(bOdd ? 1 : 0); });
+    Register("ScrollStep", ScrollStep);
     // From the first row to the fifth, which is below the viewport, and back.
     Register("ScrollingFocusMove", [](Stage& stage, bool bOdd) { MoveFocus(stage, bOdd ? 36 : 4); });
     Register("PlaceEvent", [](Stage& stage, bool) { stage.ChangePlace(); });
+    RegisterShown("RefreshShown", {}, [](Stage& stage, bool) { stage.View().Refresh(); });
+    RegisterShown("ScrollStepShown", {}, ScrollStep);
     RegisterShown("FocusMove", {}, MoveFocusInRow);
     RegisterShown("FocusMoveIn499", Enlarge, MoveFocusInRow);
     benchmark::Initialize(&argc, argv);
@@ -159,6 +165,7 @@ int main(int argc, char** argv)
     bKept = times.Check("ScrollStep", "Refresh", 0.2) && bKept;
     bKept = times.Check("ScrollingFocusMove", "Refresh", 0.3) && bKept;
     bKept = times.Check("PlaceEvent", "Refresh", 0.05) && bKept;
+    bKept = times.Check("ScrollStepShown", "RefreshShown", 1.0) && bKept;
     bKept = times.Check("FocusMoveIn499", "FocusMove", 1.3) && bKept;
     return bKept ? 0 : 1;
 }

@@ -44,6 +44,11 @@ PictureLayout::PictureLayout(const zqbchwcx::reference::Station& station, const 
              HeightsOf(station).table),
       mCaption(PartShownText(station, content), First().width())
 {
+    // No step in the ground below the rows of the shorter view.
+    if (station.StationKind() == zqbchwcx::vxStationKindCentral || mOverview.isEmpty() || mTable.isEmpty()) return;
+    const int height = std::max(mOverview.height(), mTable.height());
+    mOverview.setHeight(height);
+    mTable.setHeight(height);
 }
 
 QSize PictureLayout::Size() const

@@ -135,7 +135,7 @@ private:
                 if (const auto member = cursor.OptionalMember(name)) member->Fail("sub-modules do not have this");
             return;
         }
-        type.picture = cursor.Member("picture").Text(1, MaxTextBytes);
+        if (const auto picture = cursor.OptionalMember("picture")) type.picture = picture->Text(1, MaxTextBytes);
         if (const auto places = cursor.OptionalMember("places")) type.placeCount = places->Integer32(1, MaxPlaces);
 
         std::set<std::int32_t> kinds;

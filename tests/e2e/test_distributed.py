@@ -1,10 +1,13 @@
 """Distributed stations, used as a user does: rows of places that scroll, and drags that cross them."""
+import json
+
 from desk.rows import Rows
 from desk.screen_reader import WithScreenReader, flat
 from desk.stations import EXAMPLE as CENTRAL
-from desk.stations import VALVES, numbers_by_place
+from desk.stations import EMPTY, VALVES, numbers_by_place
 from desk.waiting import stays, until
 
+RESERVATION = "QX-RS04-A"  # which every kind of station takes
 LEFT, RIGHT = (0, 40, 1000, 900), (1040, 40, 1000, 900)
 
 
@@ -85,8 +88,30 @@ class Exchange(Distributed):
     def setUp(self):
         super().setUp()
         self.central_path = self.station(CENTRAL)
+        self.reserve(self.central_path, 10)
         self.central, self.racks = self.open(self.central_path, area=LEFT)
         self.rows = self.show("assembly-cell", area=RIGHT)
+
+    @staticmethod
+    def reserve(path, place):
+        """Puts a module that fits everywhere into the place of rack 0."""
+        data = json.loads(path.read_text(encoding="utf-8"))
+        places = [item for item in data["racks"][0]["places"] if item["place"] != place]
+        module = {"orderNumber": RESERVATION, "inputAddress": 900, "outputAddress": 900}
+        data["racks"][0]["places"] = sorted(places + [{"place": place, "module": module}], key=lambda at: at["place"])
+        path.write_text(json.dumps(data), encoding="utf-8")
+
+    def test_what_every_kind_takes_is_copied_there_and_back(self):
+        for start, end, target in ((self.racks.point((0, 10)), self.rows.point(9), self.program),
+                                   (self.rows.point(9), self.racks.point(EMPTY), self.central)):
+            self.take(start)
+            self.rest(end, lambda target=target: any("copied" in text or "empty" in text
+                                                     for text in self.status(target)), "the drag is at its target")
+            self.drop()
+            until(target.is_unsaved, "the station has changed")
+        self.assertEqual(self.saved(self.program, self.path), {**self.before, (0, 9): RESERVATION})
+        central = numbers_by_place(self.modules(self.central_path))
+        self.assertEqual(self.saved(self.central, self.central_path), {**central, EMPTY: RESERVATION})
 
     def test_what_the_other_kind_does_not_take_is_refused_with_the_reason(self):
         in_central = self.racks.point((0, 11))

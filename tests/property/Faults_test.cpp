@@ -648,9 +648,9 @@ std::vector<Operation> RowOperations()
              editor.Mouse().MouseMove(vxButtonLeft, 0, 20, 450);
              editor.toolkit->clock.Advance(250);
          },
-         0, "overview.P_ScrollOnRubberBand"},
-        {"ScrollByFocus", one, Focus(Last), 0, "overview.P_SetArrow table.P_EnsureVisibleFocus"},
-        {"ScrollTable", one, [](Editor& editor) { editor.Grid().ScrollTo(5); }, 0, "overview.P_SetArrow"},
+         0, "overview.P_RubberBand overview.P_Scroll"},
+        {"ScrollByFocus", one, Focus(Last)},
+        {"ScrollTable", one, [](Editor& editor) { editor.Grid().ScrollTo(5); }},
         {"RowHidden", one,
          [](Editor& editor) {
              editor.watched->ChangePlace(0, 20, [](auto& place) { place.usability = vxPlaceNotUsable; });

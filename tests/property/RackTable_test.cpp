@@ -1,6 +1,7 @@
 #include "tests/property/Editor.h"
 #include "tests/support/model/FakeModelServices.h"
 #include "zqbchwcx/foundation/mdl_Main.h"
+#include "zqbchwcx/foundation/mdl_VarConst.h"
 
 #include <gmock/gmock.h>
 
@@ -560,6 +561,11 @@ TEST_P(RowsTable, HasARowForEachPlaceThatIsNotHidden)
     EXPECT_EQ(grid.RowCount(), 34);
     EXPECT_EQ(grid.Text(11, "RackPlace"), "14");
     EXPECT_NE(grid.Text(11, "Module"), "");
+
+    editor.watched->Change([](auto& data) { data.displayMode = vxDisplayModeOnline1; });
+    table.VxHWStation(editor.watched);
+    grid.RowCount(35);
+    EXPECT_EQ(grid.Look({35, 2}).backColor, G_ColorOnlineBackground) << "below the rows, too";
 }
 
 TEST_P(RowsTable, StepsOverHiddenPlacesByKeys)

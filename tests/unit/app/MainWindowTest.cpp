@@ -1,16 +1,20 @@
 #include "tests/unit/app/AppStage.h"
 
+#include "app/dialogs/NewStationDialog.h"
 #include "app/document/JournalDirectory.h"
 #include "app/window/MainWindow.h"
+#include "app/window/ModuleInserter.h"
 #include "app/window/Notice.h"
 #include "app/window/StationView.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
+#include "zqbchwcx/qt/RackOverviewRIOWidget.h"
 #include "zqbchwcx/qt/RackOverviewWidget.h"
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QDropEvent>
@@ -112,6 +116,33 @@ TEST_F(MainWindowTest, OffersOnlyWhatCanBeDone)
     Action("Undo delete")->trigger();
     EXPECT_TRUE(IsEnabled("Redo delete"));
     EXPECT_FALSE(window->isWindowModified());
+}
+
+TEST_F(MainWindowTest, MakesNewStationsOfEveryKindReadyForTheirHeads)
+{
+    const char* firstModules[] = {"Q3-PS02-A", "QT-HD10-A", "QA-HD10-A"};
+    for (int kind = 0; kind < 3; ++kind) {
+        SCOPED_TRACE(kind);
+        QTimer chooser;
+        QObject::connect(&chooser, &QTimer::timeout, &chooser, [&] {
+            auto* dialog = qobject_cast<NewStationDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            chooser.stop();
+            dialog->findChild<QComboBox*>()->setCurrentIndex(kind);
+            dialog->accept();
+        });
+        chooser.start(1);
+        Action("New station…")->trigger();
+        Document& document = *window->Files().Current();
+        auto& view = *window->findChild<StationView*>();
+        EXPECT_EQ(document.Station()->StationKind(), kind);
+        EXPECT_EQ(view.findChild<zqbchwcx::qt::RackOverviewRIOWidget*>() != nullptr, kind != 0);
+        view.Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 1));
+        for (int other = 0; other < 3; ++other)
+            EXPECT_EQ(InsertModule(services, document, view, QString::fromLatin1(firstModules[other])).isEmpty(),
+                      other == kind);
+        document.History().Undo();
+    }
 }
 
 TEST_F(MainWindowTest, WhatIsGreyInAnOnlineStationIsRefusedByKeysToo)

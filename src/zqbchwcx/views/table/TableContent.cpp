@@ -31,6 +31,7 @@ void TableContent::InitializeGrid() noexcept
         auto& grid = Grid();
         const RedrawOff redrawOff(mContext.className, grid);
         grid.Reset();
+        grid.BackColor(mContext.backColor); // below the rows, too
         if (!mContext.oStation) return;
         mRowFill.ReadTexts();
         G_AddColumns(grid, Columns(), *mTexts);
