@@ -28,7 +28,9 @@ figure { margin: 0; flex: 1 1 17rem; min-width: 0; }
 figcaption { margin-bottom: .4rem; }
 figcaption small { display: block; }
 img { max-width: 100%; height: auto; background: #ffffff; border: 1px solid var(--line); }
-table { width: 100%; border-collapse: collapse; margin-top: 1rem; }
+table { width: 100%; table-layout: fixed; border-collapse: collapse; margin-top: 1rem; }
+thead th:nth-child(1) { width: 18%; }
+thead th:nth-child(2) { width: 24%; }
 th, td { border: 1px solid var(--line); padding: .3rem .5rem; text-align: left; vertical-align: top; }
 thead th { background: var(--head); }
 tr.place { background: var(--mark); }
