@@ -1,6 +1,5 @@
 #include "zqbchwcx/reference/compare/CompareService.h"
 #include "tests/support/Samples.h"
-#include "zqbchwcx/foundation/VxError.h"
 #include "zqbchwcx/foundation/model/VxHWRack.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlace.h"
 #include "zqbchwcx/foundation/model/VxHWRackPlaces.h"
@@ -33,7 +32,7 @@ ModuleDataPtr Make(const char* orderNumber, const std::map<std::string, Paramete
 }
 
 /// One rack of that many places with modules from place 1 on.
-StationData Station1(const std::vector<ModuleDataPtr>& modules, std::size_t places = 8, std::int32_t kind = 0)
+StationData OneRack(const std::vector<ModuleDataPtr>& modules, std::size_t places = 8, std::int32_t kind = 0)
 {
     auto rack = std::make_shared<RackData>();
     rack->places.resize(places);
@@ -47,12 +46,9 @@ StationData Station1(const std::vector<ModuleDataPtr>& modules, std::size_t plac
 /// Two stations of the shipped catalogue and the service between them.
 class Pair {
 public:
-    Pair(StationData first, StationData second, Language language = Language::English,
-         const CompareOptions& options = {})
+    Pair(StationData first, StationData second, Language language = Language::English)
         : oFirst(Make(std::move(first), language)), oSecond(Make(std::move(second), language))
     {
-        service.Ignore(options);
-        service.Compare();
     }
 
     /// A digit for each place of the first station's rack.
@@ -90,7 +86,7 @@ private:
     }
 };
 
-TEST(CompareService, TellsHowAPlaceDiffersAndTheSameWithSidesExchanged)
+TEST(CompareService, TellsHowAPlaceDiffers)
 {
     const ModuleDataPtr input = Make("Q3-DI16-A");
     const ModuleDataPtr unknown = Make("UNKNOWN", {{"a", std::int64_t{1}}});
@@ -98,16 +94,14 @@ TEST(CompareService, TellsHowAPlaceDiffersAndTheSameWithSidesExchanged)
         const char* what;
         std::vector<ModuleDataPtr> first, second;
         const char* results;
-        const char* exchanged;
     } cases[] = {
-        {"nothing", {nullptr, input}, {nullptr, input}, "11111111", "11111111"},
-        {"one side", {input, nullptr}, {nullptr, input}, "34111111", "43111111"},
-        {"another type of another length", {Positioning()}, {input}, "53311111", "54411111"},
-        {"another part of a long module", {nullptr, Positioning()}, {Positioning()}, "45531111", "35541111"},
+        {"nothing", {nullptr, input}, {nullptr, input}, "11111111"},
+        {"one side", {input, nullptr}, {nullptr, input}, "34111111"},
+        {"another type of another length", {Positioning()}, {input}, "53311111"},
+        {"another part of a long module", {nullptr, Positioning()}, {Positioning()}, "45531111"},
         {"another sub-module",
          {Positioning()},
          {Positioning([](ModuleData& module) { module.subModules.pop_back(); })},
-         "66611111",
          "66611111"},
         {"a parameter and a name",
          {Positioning()},
@@ -115,32 +109,25 @@ TEST(CompareService, TellsHowAPlaceDiffersAndTheSameWithSidesExchanged)
              module.name = "Mixer";
              module.subModules[1].parameters["feedConstant"] = 20.5;
          })},
-         "77711111",
          "77711111"},
         {"a comment of a sub-module",
          {Positioning()},
          {Positioning([](ModuleData& module) { module.subModules[1].comment = "left"; })},
-         "88811111",
          "88811111"},
         {"a default that a file spells out",
          {Make("Q3-PS05-D")},
          {Make("Q3-PS05-D",
                {{"alarmContact", FindParameter(*ShippedCatalogue().Find("Q3-PS05-D"), "alarmContact")->defaultValue}})},
-         "11111111",
          "11111111"},
-        {"what an unknown type may have by default", {unknown}, {Make("UNKNOWN")}, "21111111", "21111111"},
+        {"what an unknown type may have by default", {unknown}, {Make("UNKNOWN")}, "21111111"},
         {"what differs in an unknown type",
          {unknown},
          {Make("UNKNOWN", {{"a", std::int64_t{2}}, {"b", true}})},
-         "71111111",
          "71111111"},
-        {"another way to write a number", {unknown}, {Make("UNKNOWN", {{"a", 1.0}})}, "11111111", "11111111"},
+        {"another way to write a number", {unknown}, {Make("UNKNOWN", {{"a", 1.0}})}, "11111111"},
     };
-    for (const auto& each : cases) {
-        SCOPED_TRACE(each.what);
-        EXPECT_EQ(Pair(Station1(each.first), Station1(each.second)).Results(), each.results);
-        EXPECT_EQ(Pair(Station1(each.second), Station1(each.first)).Results(), each.exchanged);
-    }
+    for (const auto& each : cases)
+        EXPECT_EQ(Pair(OneRack(each.first), OneRack(each.second)).Results(), each.results) << each.what;
 }
 
 TEST(CompareService, GivesValuesAsPeopleReadThemByGroupAndChannel)
@@ -153,9 +140,9 @@ TEST(CompareService, GivesValuesAsPeopleReadThemByGroupAndChannel)
         module.subModules[1].parameters["feedConstant"] = 20.5;
     };
     const StationData first =
-        Station1({Positioning(), nullptr, nullptr, Make("Q3-DI16-F"), Make("UNKNOWN", {{"a", true}})});
-    const StationData second = Station1({Positioning(changed), nullptr, nullptr,
-                                         Make("Q3-DI16-F", {{"inputDelay", std::string("0.5")}}), Make("UNKNOWN")});
+        OneRack({Positioning(), nullptr, nullptr, Make("Q3-DI16-F"), Make("UNKNOWN", {{"a", true}})});
+    const StationData second = OneRack({Positioning(changed), nullptr, nullptr,
+                                        Make("Q3-DI16-F", {{"inputDelay", std::string("0.5")}}), Make("UNKNOWN")});
     const Pair english(first, second);
     EXPECT_THAT(english.Differences(1),
                 ElementsAre("0 ||Name:  / A|B", "2 ||Outputs:  / 8..71", "1 ||Axes run coupled: off / on",
@@ -167,25 +154,18 @@ TEST(CompareService, GivesValuesAsPeopleReadThemByGroupAndChannel)
     EXPECT_THAT(german.Differences(4), ElementsAre("1 ||Eingangsverzögerung: 3 ms / 0,5 ms"));
 }
 
-TEST(CompareService, AnswersForTheLastCompareUntilTheNext)
+TEST(CompareService, DescribesAPlaceAndLetsTheHostShowIt)
 {
-    Pair pair(Station1({Make("Q3-DI16-A")}), Station1({Make("Q3-DI16-A")}));
-    pair.oSecond->SetModuleAttribute(pair.oSecond->PlaceAt({0, 1}), "COMMENT", "new");
-    EXPECT_EQ(pair.Results(), "11111111");
-    pair.service.Compare();
-    EXPECT_EQ(pair.Results(), "81111111");
-    EXPECT_EQ(pair.service.PlaceText(pair.oSecond->PlaceAt({0, 1})), "DI 16xDC24V\r\nComment:  / new");
+    Pair pair(OneRack({Make("Q3-DI16-A")}), OneRack({Make("Q3-DI16-A")}));
     const auto place = pair.oFirst->PlaceAt({0, 1});
-    const auto differences = pair.service.ParameterDifferencesOf(place);
-    EXPECT_THROW(differences->Item(0), VxError);
-    EXPECT_THROW(differences->Item(2), VxError);
-    pair.service.ShowParameterDifferences(place, differences->Item(1));
+    pair.oFirst->SetModuleAttribute(place, "COMMENT", "new");
+    pair.service.Compare();
+    EXPECT_EQ(pair.service.PlaceText(place), "DI 16xDC24V\r\nComment: new / ");
+    pair.service.ShowParameterDifferences(place, pair.service.ParameterDifferencesOf(place)->Item(1));
     pair.service.ShowParameterDifferences(place, {});
     EXPECT_THAT(pair.shown, ElementsAre("1||Comment", "1"));
-
     pair.service.Ignore({.ignoreComments = true});
     pair.service.Compare();
-    EXPECT_EQ(pair.Results(), "11111111");
     EXPECT_FALSE(pair.service.ParameterDifferencesOf(place));
 }
 
@@ -203,30 +183,30 @@ TEST(CompareStations, TellsOtherKindsAndSizesAsSuch)
         return text;
     };
     const ModuleDataPtr input = Make("Q3-DI16-A");
-    EXPECT_EQ(told(Station1({input}), Station1({nullptr, input}, 8, 2)),
+    EXPECT_EQ(told(OneRack({input}), OneRack({nullptr, input}, 8, 2)),
               "Kind of station: central / distributed, variant B; ")
         << "and no guess about the places";
-    StationData second = Station1({input, nullptr, nullptr, input}, 4);
+    StationData second = OneRack({input, nullptr, nullptr, input}, 4);
     second.readOnly = true;
     auto more = std::make_shared<RackData>();
     more->places.resize(2);
     more->places[1].module = input;
     second.racks.push_back(more);
-    EXPECT_EQ(told(Station1({input}, 3), second), "Locked against changes: no / yes; Number of racks: 1 / 2; "
-                                                  "Rack 0: number of places: 3 / 4; 111404");
-    StationData third = Station1({input}, 3);
+    EXPECT_EQ(told(OneRack({input}, 3), second), "Locked against changes: no / yes; Number of racks: 1 / 2; "
+                                                 "Rack 0: number of places: 3 / 4; 111404");
+    StationData third = OneRack({input}, 3);
     auto rack = std::make_shared<RackData>(*third.racks[0]);
     rack->state = 0;
     rack->places[2].usability = -1;
     third.racks[0] = rack;
-    EXPECT_EQ(told(Station1({input}, 3), third),
+    EXPECT_EQ(told(OneRack({input}, 3), third),
               "Rack 0: present: yes / no; Place 3 of rack 0: usability: active / not usable; 111");
 }
 
 TEST(CompareStations, LeavesOutWhatIsIgnored)
 {
-    const StationData first = Station1({Positioning()});
-    StationData second = Station1({Positioning([](ModuleData& module) {
+    const StationData first = OneRack({Positioning()});
+    StationData second = OneRack({Positioning([](ModuleData& module) {
         module.name = module.comment = "other";
         module.outputAddress = 8;
         module.parameters["coupled"] = true;
@@ -266,7 +246,7 @@ TEST(CompareStations, HintsAtWhatMoved)
 {
     const auto hints = [](std::vector<ModuleDataPtr> first, std::vector<ModuleDataPtr> second) {
         std::vector<std::string> texts;
-        for (const auto& moved : CompareStations(Station1(first), Station1(second), ShippedCatalogue()).moved)
+        for (const auto& moved : CompareStations(OneRack(first), OneRack(second), ShippedCatalogue()).moved)
             texts.push_back(DescribeMoved(moved, Language::English));
         return texts;
     };
