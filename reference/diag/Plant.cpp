@@ -63,7 +63,7 @@ void Plant::Take(std::size_t first, std::span<const std::uint16_t> values)
         if (address >= MapHead::FirstItem && !change.connection)
             change.items.push_back(moMap.Items()[address - MapHead::FirstItem]);
     }
-    TellUnlessNothing(std::move(change));
+    TellUnlessNothing(change);
 }
 
 void Plant::Lose(ConnectionKind kind, LocalizedText reason)
@@ -75,10 +75,10 @@ void Plant::Lose(ConnectionKind kind, LocalizedText reason)
     else if (connection.reason.en == reason.en) return;
     connection.reason = std::move(reason);
     change.connection = true;
-    TellUnlessNothing(std::move(change));
+    TellUnlessNothing(change);
 }
 
-void Plant::TellUnlessNothing(PlantChange change)
+void Plant::TellUnlessNothing(const PlantChange& change)
 {
     if (change.connection || !change.registers.empty()) Changed.Raise(change);
 }

@@ -48,7 +48,7 @@ public:
     Event<const PlantChange&> Changed;
 
 private:
-    void TellUnlessNothing(PlantChange change);
+    void TellUnlessNothing(const PlantChange& change);
 
     RegisterMap moMap;
     Clock moClock;

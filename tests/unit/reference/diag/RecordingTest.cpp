@@ -147,7 +147,8 @@ TEST(Script, RefusesALineAndSaysWhy)
         {"+1s repeat\ncpu run", "nothing follows 'repeat'"},
     };
     for (const auto& [line, reason] : lines) {
-        const FileError error = ErrorOf([&] { ParseScript(std::string("cpu run\n") + line, "s.txt", map); });
+        const std::string text = std::string("cpu run\n") + line;
+        const FileError error = ErrorOf([&] { ParseScript(text, "s.txt", map); });
         EXPECT_THAT(error.reason, ::testing::HasSubstr(reason)) << line;
         EXPECT_THAT(error.fileName, ::testing::StartsWith("s.txt:")) << line;
     }
