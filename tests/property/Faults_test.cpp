@@ -669,6 +669,8 @@ struct Case {
     ViewVariant variant;
     Operation operation;
     Fault fault;
+    /// Of its calls, one in so many is tried.
+    std::int32_t stride = 1;
 };
 
 void PrintTo(const Case& attempt, std::ostream* stream)
@@ -679,13 +681,18 @@ void PrintTo(const Case& attempt, std::ostream* stream)
 std::vector<Case> Cases()
 {
     std::vector<Case> cases;
-    for (const ViewVariant& variant : ViewVariants) {
-        auto operations = CommonOperations();
-        const auto more = variant.IsCentral() ? RackOperations() : RowOperations();
-        operations.insert(operations.end(), more.begin(), more.end());
+    // What the kinds have in common runs through the same code: the first variant that has it tries every call.
+    constexpr std::int32_t Sparse = 5;
+    const auto add = [&](const ViewVariant& variant, const std::vector<Operation>& operations, bool bEveryCall) {
         for (const Operation& operation : operations)
             for (const Fault fault : {Fault::Fails, Fault::AnswersNothing, Fault::EndsTheMode})
-                cases.push_back({variant, operation, fault});
+                cases.push_back({variant, operation, fault, bEveryCall ? 1 : Sparse});
+    };
+    for (const ViewVariant& variant : ViewVariants) {
+        const bool bCentral = variant.IsCentral();
+        add(variant, CommonOperations(), bCentral);
+        add(variant, bCentral ? RackOperations() : RowOperations(),
+            bCentral || variant.eStationType == vxStationTypeDistributed1);
     }
     return cases;
 }
@@ -787,7 +794,7 @@ protected:
     std::int32_t Stride() const
     {
         const char* text = std::getenv("QUILLON_FAULT_STRIDE");
-        return (text != nullptr ? std::atoi(text) : 1) * (operation.Has(Draws) ? 7 : 1);
+        return (text != nullptr ? std::atoi(text) : 1) * (operation.Has(Draws) ? 7 : 1) * GetParam().stride;
     }
     /// "overview.P_X" by the name of the view's class.
     std::string NamedAs(const std::string& procedure) const
@@ -845,7 +852,7 @@ TEST_P(EveryCall, MayGoWrong)
 std::string NameOf(const ::testing::TestParamInfo<Case>& instance)
 {
     const char* faults[] = {"Fails", "AnswersNothing", "EndsTheMode"};
-    const auto& [variant, operation, fault] = instance.param;
+    const auto& [variant, operation, fault, stride] = instance.param;
     return std::string(variant.name) + operation.name + faults[static_cast<int>(fault)];
 }
 
