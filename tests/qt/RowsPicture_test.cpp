@@ -9,6 +9,7 @@
 #include "zqbchwcx/selection/VxHWSelectionHandler.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace zqbchwcx::testing {
 namespace {

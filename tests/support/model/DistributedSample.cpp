@@ -31,7 +31,7 @@ reference::StationData DistributedSample(VxEnumStationType eKind, const std::arr
     const auto addresses = reference::AddressesOf(data, catalogue);
     data = reference::PlaceBlock({data, catalogue, addresses}, G_PlacePosition(0, 1), block).Result().data;
     rack = std::make_shared<reference::RackData>(*data.racks.front());
-    for (const std::size_t hidden : {12, 13, 30}) rack->places[hidden - 1].usability = vxPlaceNotUsable;
+    for (const std::size_t hidden : {12U, 13U, 30U}) rack->places[hidden - 1].usability = vxPlaceNotUsable;
     data.racks.front() = std::move(rack);
     return data;
 }
