@@ -26,7 +26,15 @@ inline Size ToSize(QSize size)
 class QtPanel : public QtControl<Panel> {
 public:
     explicit QtPanel(PanelWidget& widget) : QtControl(widget) {}
-    ~QtPanel() override { delete Widget(); }
+    ~QtPanel() override
+    {
+        auto* widget = Widget();
+        if (widget == nullptr) return;
+        // It may end in the middle of an event of a window in it.
+        widget->hide();
+        widget->setObjectName({});
+        widget->deleteLater();
+    }
     QtPanel(const QtPanel&) = delete;
     QtPanel& operator=(const QtPanel&) = delete;
 

@@ -50,9 +50,17 @@ protected:
     }
 
     TestServices services{SampleContext(), std::make_shared<qt::QtToolkit>()};
-    WatchedStationPtr station = std::make_shared<WatchedStation>(
-        services.log, std::make_shared<reference::Station>(SampleContext(), EmptyStation(vxStationKindCentral, 1),
-                                                           reference::StationServices{}));
+    WatchedStationPtr MakeStation()
+    {
+        reference::StationServices asked;
+        asked.moduleDiagnostics = [this](reference::PlaceRef, std::int32_t) { onOpen(); };
+        return std::make_shared<WatchedStation>(
+            services.log, std::make_shared<reference::Station>(SampleContext(), EmptyStation(vxStationKindCentral, 1),
+                                                               std::move(asked)));
+    }
+
+    std::function<void()> onOpen = [] {};
+    WatchedStationPtr station = MakeStation();
     std::shared_ptr<FakeDiagService> diag = std::make_shared<FakeDiagService>(services.log);
     std::shared_ptr<RecordingView> view = std::make_shared<RecordingView>(services.log, "view");
     QWidget window;
@@ -115,6 +123,10 @@ TEST_F(DiagPanelWidget, itsButtonTellsWhyItIsOffAndLivesThroughWhatItOpens)
     services.Lines().clear();
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(services.Lines(), std::vector<std::string>{"ShowModuleDiagnostics 0/2"});
+    onOpen = [&] { manager.Terminate(); };
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(Box("vxinf_Status").toPlainText(), "") << "the mode is over";
+    EXPECT_EQ(services.host->reports.size(), 0U);
 }
 
 } // namespace

@@ -3,9 +3,11 @@
 #include "tests/support/services/CallLog.h"
 #include "zqbchwcx/platform/Tooltips.h"
 
+#include <map>
+
 namespace zqbchwcx::testing {
 
-/// Knows who connected last, and whether that is still so.
+/// Knows who connected last to each window, and whether the last one of all still is.
 class RecordingTooltips : public TooltipService, public Logged {
 public:
     using Logged::Logged;
@@ -15,15 +17,16 @@ public:
         Call("TooltipService.Connect");
         auto connection = std::make_unique<Connection>();
         connection->callback = std::make_shared<TooltipCallback*>(&callback);
-        mpCallback = connection->callback;
-        mhWnd = hWnd;
+        mpCallback = mcolCallbacks[hWnd] = connection->callback;
         return connection;
     }
 
     bool IsConnected() const { return !mpCallback.expired(); }
     Tooltip Hover(std::intptr_t hWnd, Point at) const
     {
-        return hWnd == mhWnd ? (*mpCallback.lock())->GetTooltip(at) : Tooltip{"another window", {}};
+        const auto found = mcolCallbacks.find(hWnd);
+        const auto callback = found == mcolCallbacks.end() ? nullptr : found->second.lock();
+        return callback ? (*callback)->GetTooltip(at) : Tooltip{"nobody's window", {}};
     }
 
 private:
@@ -32,7 +35,7 @@ private:
     };
 
     std::weak_ptr<TooltipCallback*> mpCallback;
-    std::intptr_t mhWnd = 0;
+    std::map<std::intptr_t, std::weak_ptr<TooltipCallback*>> mcolCallbacks;
 };
 
 } // namespace zqbchwcx::testing
