@@ -74,7 +74,7 @@ int runApplication(const CommandLine& line, const CommandStreams& streams, char*
     // The arguments have been read; the application gets none of them.
     int count = 1;
     const Application application(count, argv);
-    qInstallMessageHandler(drawsOnly(line) ? keepQuietAboutTheDesktop : nullptr);
+    qInstallMessageHandler(drawsOnly(line) ? keepQuiet : nullptr);
     if (line.command == Command::Compare) return RunCompare(line, streams);
     return line.command == Command::Render ? RunRender(line, streams) : OpenStations(line);
 }
