@@ -32,9 +32,10 @@ struct CommandLine {
     std::optional<std::int32_t> rack;            ///< Render: the table's; none: rack 0
     double scale = 1;                            ///< Render: device pixels to a logical pixel
     std::optional<Colors> colors;                ///< Render to PNG; none: light
+    bool diagnostics = false;                    ///< Render: the state of the plant instead of the configuration
     std::optional<ListFormat> format;            ///< List, Diagnose; Compare: all but Csv; none: for reading
     bool details = false;                        ///< List: everything that a station holds instead of a table
-    std::string source;                          ///< Diagnose: where the plant's state comes from
+    std::string source;                          ///< Diagnose, Render: where the plant's state comes from
     std::string record;                          ///< Diagnose: the recording to write; empty for none
     bool watch = false;                          ///< Diagnose: tell every change, without an end
     bool map = false;                            ///< Diagnose: only the register map

@@ -63,7 +63,7 @@ Rückgabewerte:
 LocalizedText renderText()
 {
     return {R"(Usage: quillon-ed render STATION -o FILE [--view overview|table|both] [--rack NUMBER] [--scale NUMBER]
-                         [--palette light|dark|contrast] [--lang de|en]
+                         [--palette light|dark|contrast] [--mode diagnostics --source SOURCE] [--lang de|en]
 
 Draws views of the station without a display. The ending of FILE says what is written: .png (pixels), .svg or
 .pdf (vectors; a PDF page has a header with the station's name, the date and the page number).
@@ -74,9 +74,11 @@ Draws views of the station without a display. The ending of FILE says what is wr
   --rack NUMBER       the rack in the table; 0 if not given
   --scale NUMBER      PNG: device pixels to a logical pixel, from 0.5 to 8; 1 if not given
   --palette PALETTE   PNG: light (if not given), dark or contrast
+  --mode diagnostics  the state of the plant instead of the configuration
+  --source SOURCE     where it comes from: as of "diagnose", or simulated:SEED
 )",
             R"(Aufruf: quillon-ed render STATION -o DATEI [--view overview|table|both] [--rack ZAHL] [--scale ZAHL]
-                          [--palette light|dark|contrast] [--lang de|en]
+                          [--palette light|dark|contrast] [--mode diagnostics --source QUELLE] [--lang de|en]
 
 Zeichnet Ansichten der Station ohne Bildschirm. Die Endung von DATEI sagt, was geschrieben wird: .png (Bildpunkte),
 .svg oder .pdf (Vektoren; eine PDF-Seite hat eine Kopfzeile mit Stationsname, Datum und Seitenzahl).
@@ -87,6 +89,8 @@ Zeichnet Ansichten der Station ohne Bildschirm. Die Endung von DATEI sagt, was g
   --rack ZAHL         der Träger in der Tabelle; ohne Angabe 0
   --scale ZAHL        PNG: Gerätepunkte je logischem Bildpunkt, von 0.5 bis 8; ohne Angabe 1
   --palette PALETTE   PNG: light (hell; ohne Angabe), dark (dunkel) oder contrast (hoher Kontrast)
+  --mode diagnostics  der Zustand der Anlage statt der Projektierung
+  --source QUELLE     woher er kommt: wie bei "diagnose", oder simulated:STARTWERT
 )"};
 }
 

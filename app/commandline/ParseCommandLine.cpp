@@ -68,6 +68,8 @@ const NamedValues<PictureView, 3> Views{
     {"no view", "keine Ansicht"},
     {"views", "Ansichten"},
     {{{"overview", PictureView::Overview}, {"table", PictureView::Table}, {"both", PictureView::Both}}}};
+const NamedValues<bool, 2> Modes{
+    {"no mode", "keine Betriebsart"}, {"modes", "Betriebsarten"}, {{{"configuration", false}, {"diagnostics", true}}}};
 const NamedValues<Colors, 3> Palettes{
     {"no palette", "keine Palette"},
     {"palettes", "Paletten"},
@@ -198,6 +200,8 @@ constexpr std::array OptionRules{
     OptionRule{"--view", 0, true, bit(Command::Render),
                [](CommandLine& line, const std::string& value) { return setNamed(line.view, value, Views); }},
     OptionRule{"--rack", 0, true, bit(Command::Render), setRack},
+    OptionRule{"--mode", 0, true, bit(Command::Render),
+               [](CommandLine& line, const std::string& value) { return setNamed(line.diagnostics, value, Modes); }},
     OptionRule{"--palette", 0, true, bit(Command::Render),
                [](CommandLine& line, const std::string& value) { return setNamed(line.colors, value, Palettes); }},
     OptionRule{"--csv", 0, false, bit(Command::List) | bit(Command::Diagnose),
@@ -206,7 +210,7 @@ constexpr std::array OptionRules{
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Json); }},
     OptionRule{"--md", 0, false, bit(Command::List) | bit(Command::Compare),
                [](CommandLine& line, const std::string&) { return setFormat(line, ListFormat::Markdown); }},
-    OptionRule{"--source", 0, true, bit(Command::Diagnose), setText<&CommandLine::source>},
+    OptionRule{"--source", 0, true, bit(Command::Diagnose) | bit(Command::Render), setText<&CommandLine::source>},
     OptionRule{"--record", 0, true, bit(Command::Diagnose), setText<&CommandLine::record>},
     OptionRule{"--watch", 0, false, bit(Command::Diagnose), setFlag<&CommandLine::watch>},
     OptionRule{"--map", 0, false, bit(Command::Diagnose), setFlag<&CommandLine::map>},
@@ -355,6 +359,9 @@ private:
             return LocalizedText{"the name of the new file '" + line.files[1] + "' must end in .json, .csv or .md",
                                  "der Name der neuen Datei '" + line.files[1] +
                                      "' muss auf .json, .csv oder .md enden"};
+        if (line.command == Command::Render && line.diagnostics == line.source.empty())
+            return LocalizedText{"'--mode diagnostics' and '--source' need each other",
+                                 "'--mode diagnostics' und '--source' brauchen einander"};
         if (line.command == Command::Diagnose && line.map == !line.source.empty())
             return line.map ? LocalizedText{"'--map' needs no source", "'--map' braucht keine Quelle"}
                             : LocalizedText{"'diagnose' needs a source: --source modbus-tcp://HOST:PORT",

@@ -5,6 +5,7 @@
 #include "app/commandline/EndBySignal.h"
 #include "app/commandline/TellErrors.h"
 #include "app/host/ShippedData.h"
+#include "app/plant/LocalTime.h"
 #include "zqbchwcx/reference/commands/Diagnosis.h"
 #include "zqbchwcx/reference/diag/RecordedSource.h"
 #include "zqbchwcx/reference/diag/RecordingFile.h"
@@ -24,17 +25,12 @@ namespace {
 
 constexpr std::string_view RecordingPrefix = "recording:";
 
-Time systemTime()
-{
-    return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
-}
-
 /// A diagnosis that goes on while a source tells the plant.
 class Diagnosing {
 public:
     Diagnosing(const CommandLine& line, const CommandStreams& streams)
         : moLine(line), moStreams(streams), meLanguage(LanguageOf(line)), moCatalogue(ShippedCatalogue()),
-          moStation(LoadStation(line.files[0], moCatalogue).data), moLog(moStation, moCatalogue, meLanguage)
+          moStation(LoadStation(line.files[0], moCatalogue).data), moLog(moStation, moCatalogue)
     {
     }
 
@@ -52,7 +48,7 @@ public:
 
     int ReadPlant(const ModbusAddress& address)
     {
-        Listen(systemTime);
+        Listen(SystemTime);
         ModbusSource source(address, moPlant);
         const EndBySignal ending;
         source.Open();

@@ -30,6 +30,8 @@ QList<QStringList> Shortcuts()
         {ShortcutTexts::tr("Ctrl + Z, Ctrl + Y"), ShortcutTexts::tr("Undo, redo")},
         {ShortcutTexts::tr("Ctrl + A"), ShortcutTexts::tr("Select all places of the rack")},
         {ShortcutTexts::tr("Ctrl + F"), ShortcutTexts::tr("Find a module type; Enter inserts it at the focus")},
+        {ShortcutTexts::tr("Ctrl + 1, Ctrl + 2"), ShortcutTexts::tr("Configuration, diagnostics")},
+        {ShortcutTexts::tr("F5"), ShortcutTexts::tr("Read the state of the plant anew")},
         {ShortcutTexts::tr("Menu key, Shift + F10"), ShortcutTexts::tr("Menu of the focused place")},
         {ShortcutTexts::tr("Drag a module"),
          ShortcutTexts::tr("Move it to a place or a gap; Ctrl on the way copies it")},

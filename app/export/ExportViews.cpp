@@ -42,11 +42,11 @@ QByteArray PngOf(const reference::StationPtr& station, const PictureContent& con
         painter.drawImage(grid.Edge(rect.left()), grid.Edge(rect.top()), pixels, 0, 0, -1, grid.Edge(rect.height()));
     };
     if (content.HasOverview()) {
-        const auto overview = MakeOverview(station, selection, layout.Overview().size());
+        const auto overview = MakeOverview(station, content, selection, layout.Overview().size());
         draw(layout.Overview(), overview->RenderToImage(scale));
     }
     if (content.HasTable())
-        draw(layout.Table(), MakeTable(station, content.rack, selection, layout.Table().size())->RenderToImage(scale));
+        draw(layout.Table(), MakeTable(station, content, selection, layout.Table().size())->RenderToImage(scale));
     painter.scale(scale, scale);
     painter.translate(layout.CaptionCorner());
     layout.Caption().Paint(painter, palette.color(QPalette::Text));

@@ -42,11 +42,11 @@ PaperViews::PaperViews(const reference::StationPtr& station, const PictureConten
         const PaperBracket paper;
         const QSize size = mLayout.Overview().size();
         moSite = std::make_unique<PaperSite>(nullptr, MakeRect(0, 0, size.width(), size.height()));
-        moOverview = MakeOverview(*moSite, station, selection);
+        moOverview = MakeOverview(*moSite, station, content, selection);
     }
     if (content.HasTable()) {
         // A grid has its own way of being painted on any device.
-        moTable = MakeTable(station, content.rack, selection, mLayout.Table().size());
+        moTable = MakeTable(station, content, selection, mLayout.Table().size());
     }
 }
 

@@ -29,10 +29,12 @@ bool IsCentral(const VxHWStationPtr& station)
     return station->StationKind() == vxStationKindCentral;
 }
 
-void Show(IVxHWControl& view, const VxHWStationPtr& station, const VxHWSelectionHandlerPtr& selection)
+void Show(IVxHWControl& view, const VxHWStationPtr& station, const PictureContent& content,
+          const VxHWSelectionHandlerPtr& selection)
 {
     view.StationType(static_cast<VxEnumStationType>(station->StationKind()));
-    view.Style(vxStyleHWConfig);
+    view.Style(content.diagnostics ? vxStyleHWDiag : vxStyleHWConfig);
+    view.VxHWDiagService(content.diagnostics);
     view.VxHWStation(station);
     view.VxHWSelectionHandler(selection);
     view.VxHWDragDropController(std::make_shared<VxHWConfigROCtrlDD>());
@@ -51,11 +53,11 @@ void ShowAllRows(VxHWRackOverviewRIO& view)
 
 template <class View>
 std::unique_ptr<OverviewControl> MakeView(UserControl& site, const VxHWStationPtr& station,
-                                          const VxHWSelectionHandlerPtr& selection)
+                                          const PictureContent& content, const VxHWSelectionHandlerPtr& selection)
 {
     auto view = std::make_unique<View>(site);
     ShowAllRows(*view);
-    Show(*view, station, selection);
+    Show(*view, station, content, selection);
     return view;
 }
 
@@ -68,12 +70,12 @@ std::unique_ptr<Widget> MakeWidget(QSize size)
 }
 
 template <class Widget>
-std::unique_ptr<qt::OverviewWidget> MakeOverviewWidget(const VxHWStationPtr& station,
+std::unique_ptr<qt::OverviewWidget> MakeOverviewWidget(const VxHWStationPtr& station, const PictureContent& content,
                                                        const VxHWSelectionHandlerPtr& selection, QSize size)
 {
     auto widget = MakeWidget<Widget>(size);
     ShowAllRows(*widget->Control());
-    Show(*widget->Control(), station, selection);
+    Show(*widget->Control(), station, content, selection);
     return widget;
 }
 
@@ -95,31 +97,31 @@ VxHWSelectionHandlerPtr SelectionOf(const VxHWStationPtr& station, const Picture
 }
 
 std::unique_ptr<OverviewControl> MakeOverview(UserControl& site, const VxHWStationPtr& station,
-                                              const VxHWSelectionHandlerPtr& selection)
+                                              const PictureContent& content, const VxHWSelectionHandlerPtr& selection)
 {
-    return IsCentral(station) ? MakeView<VxHWRackOverview>(site, station, selection)
-                              : MakeView<VxHWRackOverviewRIO>(site, station, selection);
+    return IsCentral(station) ? MakeView<VxHWRackOverview>(site, station, content, selection)
+                              : MakeView<VxHWRackOverviewRIO>(site, station, content, selection);
 }
 
-std::unique_ptr<qt::OverviewWidget> MakeOverview(const VxHWStationPtr& station,
+std::unique_ptr<qt::OverviewWidget> MakeOverview(const VxHWStationPtr& station, const PictureContent& content,
                                                  const VxHWSelectionHandlerPtr& selection, QSize size)
 {
-    return IsCentral(station) ? MakeOverviewWidget<qt::RackOverviewWidget>(station, selection, size)
-                              : MakeOverviewWidget<qt::RackOverviewRIOWidget>(station, selection, size);
+    return IsCentral(station) ? MakeOverviewWidget<qt::RackOverviewWidget>(station, content, selection, size)
+                              : MakeOverviewWidget<qt::RackOverviewRIOWidget>(station, content, selection, size);
 }
 
-std::unique_ptr<qt::TableWidget> MakeTable(const VxHWStationPtr& station, std::int32_t rack,
+std::unique_ptr<qt::TableWidget> MakeTable(const VxHWStationPtr& station, const PictureContent& content,
                                            const VxHWSelectionHandlerPtr& selection, QSize size)
 {
     std::unique_ptr<qt::TableWidget> table;
     if (IsCentral(station)) {
         auto central = MakeWidget<qt::RackTableWidget>(size);
-        Show(*central->Control(), station, selection);
-        central->Control()->ActiveRack(rack);
+        Show(*central->Control(), station, content, selection);
+        central->Control()->ActiveRack(content.rack);
         table = std::move(central);
     } else {
         auto distributed = MakeWidget<qt::RackTableRIOWidget>(size);
-        Show(*distributed->Control(), station, selection);
+        Show(*distributed->Control(), station, content, selection);
         table = std::move(distributed);
     }
     table->ArrangeForPicture();

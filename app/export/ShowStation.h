@@ -27,12 +27,16 @@ zqbchwcx::VxHWSelectionHandlerPtr SelectionOf(const zqbchwcx::VxHWStationPtr& st
 /// and nothing can be dragged.
 std::unique_ptr<zqbchwcx::OverviewControl> MakeOverview(zqbchwcx::UserControl& site,
                                                         const zqbchwcx::VxHWStationPtr& station,
+                                                        const PictureContent& content,
                                                         const zqbchwcx::VxHWSelectionHandlerPtr& selection);
-std::unique_ptr<zqbchwcx::qt::OverviewWidget>
-MakeOverview(const zqbchwcx::VxHWStationPtr& station, const zqbchwcx::VxHWSelectionHandlerPtr& selection, QSize size);
+std::unique_ptr<zqbchwcx::qt::OverviewWidget> MakeOverview(const zqbchwcx::VxHWStationPtr& station,
+                                                           const PictureContent& content,
+                                                           const zqbchwcx::VxHWSelectionHandlerPtr& selection,
+                                                           QSize size);
 
-/// A table of the station's kind that shows the rack, which the station has.
-std::unique_ptr<zqbchwcx::qt::TableWidget> MakeTable(const zqbchwcx::VxHWStationPtr& station, std::int32_t rack,
+/// A table of the station's kind that shows the content's rack, which the station has.
+std::unique_ptr<zqbchwcx::qt::TableWidget> MakeTable(const zqbchwcx::VxHWStationPtr& station,
+                                                     const PictureContent& content,
                                                      const zqbchwcx::VxHWSelectionHandlerPtr& selection, QSize size);
 
 } // namespace quillon_ed

@@ -101,7 +101,7 @@ void AppServices::Install()
         [clipboard = moClipboard] {
             return std::make_shared<reference::TypeExchange>(qt::ClipboardFormatNumber(ExchangeFormatName), clipboard);
         },
-        stored);
+        stored, [this] { return mMakeControllerInfo ? mMakeControllerInfo() : nullptr; });
     root.modelFactory = std::make_shared<reference::ModelFactory>(moContext);
     root.libraryDirectory = ResourceRoot;
     G_InstallServiceRoot([root] { return root; });

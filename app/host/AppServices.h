@@ -4,6 +4,7 @@
 #include "app/host/PlainLabels.h"
 #include "app/host/ReadableColors.h"
 #include "app/host/UiTranslation.h"
+#include "zqbchwcx/platform/HostServices.h"
 #include "zqbchwcx/reference/catalogue/Catalogue.h"
 #include "zqbchwcx/reference/model/contract/ModelContext.h"
 #include "zqbchwcx/reference/model/contract/StationServices.h"
@@ -12,7 +13,9 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 class QSettings;
 
@@ -39,6 +42,11 @@ public:
     zqbchwcx::reference::ErrorLog& Errors() { return *moErrors; }
     ModulePictures& Pictures() { return *moPictures; }
     QSettings& Settings() { return moSettings; }
+    /// Who tells what is known of the controller; nothing is without it.
+    void ControllerInfoFrom(std::function<zqbchwcx::ControllerInfoPtr()> make)
+    {
+        mMakeControllerInfo = std::move(make);
+    }
     /// A text of the library's text module.
     QString Text(std::int32_t lId) const;
 
@@ -67,6 +75,7 @@ private:
     zqbchwcx::reference::ModelContextPtr moContext;
     zqbchwcx::reference::ClipboardPtr moClipboard;
     std::unique_ptr<ModulePictures> moPictures;
+    std::function<zqbchwcx::ControllerInfoPtr()> mMakeControllerInfo;
 };
 
 } // namespace quillon_ed

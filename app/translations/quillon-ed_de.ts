@@ -28,6 +28,17 @@
     </message>
 </context>
 <context>
+    <name>quillon_ed::CatalogueModel</name>
+    <message>
+        <source>Module</source>
+        <translation>Baugruppe</translation>
+    </message>
+    <message>
+        <source>Order number</source>
+        <translation>Bestellnummer</translation>
+    </message>
+</context>
+<context>
     <name>quillon_ed::CataloguePanel</name>
     <message>
         <source>Drag a module onto a place, or double-click it to insert it at the focus.</source>
@@ -62,14 +73,115 @@
     </message>
 </context>
 <context>
-    <name>quillon_ed::CatalogueModel</name>
+    <name>quillon_ed::ConfigurationView</name>
     <message>
-        <source>Module</source>
-        <translation>Baugruppe</translation>
+        <source>&quot;%1&quot; was not taken: %2</source>
+        <translation>„%1“ wurde nicht übernommen: %2</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::ConnectDialog</name>
+    <message>
+        <source>A &amp;device on the network</source>
+        <translation>Ein &amp;Gerät im Netz</translation>
     </message>
     <message>
-        <source>Order number</source>
-        <translation>Bestellnummer</translation>
+        <source>A &amp;recording</source>
+        <translation>Eine &amp;Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>A &amp;simulated plant</source>
+        <translation>Eine &amp;simulierte Anlage</translation>
+    </message>
+    <message>
+        <source>Connect to a plant</source>
+        <translation>Mit einer Anlage verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Used last:</source>
+        <translation>&amp;Zuletzt benutzt:</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Host:</source>
+        <translation>&amp;Rechner:</translation>
+    </message>
+    <message>
+        <source>&amp;Port:</source>
+        <translation>&amp;Port:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Einheit:</translation>
+    </message>
+    <message>
+        <source>Modbus TCP; the registers are those that “quillon-ed diagnose --map” prints.</source>
+        <translation>Modbus TCP; die Register sind die, die „quillon-ed diagnose --map“ ausgibt.</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Datei:</translation>
+    </message>
+    <message>
+        <source>Open recording</source>
+        <translation>Aufzeichnung öffnen</translation>
+    </message>
+    <message>
+        <source>Recordings (*.jsonl);;All files (*)</source>
+        <translation>Aufzeichnungen (*.jsonl);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>S&amp;eed:</source>
+        <translation>S&amp;tartwert:</translation>
+    </message>
+    <message>
+        <source>Modules fail and recover at random, the same way for each seed.</source>
+        <translation>Baugruppen fallen zufällig aus und kommen wieder, bei gleichem Startwert auf gleiche Weise.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::DetailsWindow</name>
+    <message>
+        <source>Diagnostics of place %1</source>
+        <translation>Diagnose von Steckplatz %1</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message>
+        <source>Since</source>
+        <translation>Seit</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Was zu tun ist</translation>
+    </message>
+    <message>
+        <source>Nothing to report: the module is in order.</source>
+        <translation>Keine Meldung: Die Baugruppe ist in Ordnung.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n report(s):</source>
+        <translation>
+            <numerusform>%n Meldung:</numerusform>
+            <numerusform>%n Meldungen:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sub-module %1: %2</source>
+        <translation>Submodul %1: %2</translation>
     </message>
 </context>
 <context>
@@ -157,6 +269,60 @@
         <source>The station was printed.</source>
         <translation>Die Station wurde gedruckt.</translation>
     </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Als CSV speichern</translation>
+    </message>
+    <message>
+        <source>The file cannot be written.</source>
+        <translation>Die Datei kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::FaultLogDock</name>
+    <message>
+        <source>Faults that came and went</source>
+        <translation>Gekommene und gegangene Fehler</translation>
+    </message>
+    <message>
+        <source>&amp;Fault log</source>
+        <translation>&amp;Fehlerprotokoll</translation>
+    </message>
+    <message>
+        <source>Filter by place, module or fault</source>
+        <translation>Nach Steckplatz, Baugruppe oder Fehler filtern</translation>
+    </message>
+    <message>
+        <source>Save as CSV…</source>
+        <translation>Als CSV speichern…</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::FaultLogModel</name>
+    <message>
+        <source>Gone: %1</source>
+        <translation>Gegangen: %1</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platz</translation>
+    </message>
+    <message>
+        <source>Module</source>
+        <translation>Baugruppe</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
 </context>
 <context>
     <name>quillon_ed::FileCommands</name>
@@ -201,7 +367,7 @@
         <translation>„%1“ wurde von einem anderen Programm geändert.</translation>
     </message>
     <message>
-        <source>Saving replaces that program's changes by yours.</source>
+        <source>Saving replaces that program&apos;s changes by yours.</source>
         <translation>Das Speichern ersetzt dessen Änderungen durch Ihre.</translation>
     </message>
     <message>
@@ -526,6 +692,47 @@
     </message>
 </context>
 <context>
+    <name>quillon_ed::PlantCommands</name>
+    <message>
+        <source>There is no diagnostics for this station.</source>
+        <translation>Für diese Station gibt es keine Diagnose.</translation>
+    </message>
+    <message>
+        <source>Quillon Ed</source>
+        <translation>Quillon Ed</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be used.</source>
+        <translation>„%1“ lässt sich nicht verwenden.</translation>
+    </message>
+    <message>
+        <source>“%1” was written.</source>
+        <translation>„%1“ wurde geschrieben.</translation>
+    </message>
+    <message>
+        <source>Record the plant</source>
+        <translation>Anlage aufzeichnen</translation>
+    </message>
+    <message>
+        <source>Recordings (*.jsonl)</source>
+        <translation>Aufzeichnungen (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::RackBadges</name>
+    <message numerus="yes">
+        <source>%n module(s) of rack %1 not in order</source>
+        <translation>
+            <numerusform>%n Baugruppe von Träger %1 nicht in Ordnung</numerusform>
+            <numerusform>%n Baugruppen von Träger %1 nicht in Ordnung</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>quillon_ed::RecoveryDialog</name>
     <message>
         <source>&amp;Recover</source>
@@ -702,6 +909,22 @@
         <source>What it does</source>
         <translation>Wirkung</translation>
     </message>
+    <message>
+        <source>Ctrl + 1, Ctrl + 2</source>
+        <translation>Strg + 1, Strg + 2</translation>
+    </message>
+    <message>
+        <source>Configuration, diagnostics</source>
+        <translation>Konfiguration, Diagnose</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
+    </message>
+    <message>
+        <source>Read the state of the plant anew</source>
+        <translation>Den Zustand der Anlage neu lesen</translation>
+    </message>
 </context>
 <context>
     <name>quillon_ed::StartPage</name>
@@ -877,6 +1100,61 @@
         <source>&amp;Redo %1</source>
         <translation>&amp;Wiederholen: %1</translation>
     </message>
+    <message>
+        <source>&amp;Plant</source>
+        <translation>An&amp;lage</translation>
+    </message>
+    <message>
+        <source>S&amp;peed</source>
+        <translation>&amp;Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>&amp;Configuration</source>
+        <translation>&amp;Konfiguration</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>&amp;Diagnose</translation>
+    </message>
+    <message>
+        <source>&amp;Connect…</source>
+        <translation>&amp;Verbinden…</translation>
+    </message>
+    <message>
+        <source>&amp;Disconnect</source>
+        <translation>&amp;Trennen</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Rec&amp;ord…</source>
+        <translation>Auf&amp;zeichnen…</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation>A&amp;bspielen</translation>
+    </message>
+    <message>
+        <source>&amp;Step</source>
+        <translation>&amp;Schritt</translation>
+    </message>
+</context>
+<context>
+    <name>zqbchwcx::qt::DiagPanelWidget</name>
+    <message>
+        <source>Diagnostics panel</source>
+        <translation>Diagnosefeld</translation>
+    </message>
+    <message>
+        <source>State and versions of the module that has the focus</source>
+        <translation>Zustand und Versionen der Baugruppe, die den Fokus hat</translation>
+    </message>
+    <message>
+        <source>Versions</source>
+        <translation>Versionen</translation>
+    </message>
 </context>
 <context>
     <name>zqbchwcx::qt::PositionText</name>
@@ -963,13 +1241,6 @@
     <message>
         <source>Places of a rack with their modules and addresses; the arrow keys move the focus</source>
         <translation>Plätze eines Baugruppenträgers mit ihren Baugruppen und Adressen; die Pfeiltasten bewegen den Fokus</translation>
-    </message>
-</context>
-<context>
-    <name>quillon_ed::StationView</name>
-    <message>
-        <source>&quot;%1&quot; was not taken: %2</source>
-        <translation>„%1“ wurde nicht übernommen: %2</translation>
     </message>
 </context>
 </TS>

@@ -65,4 +65,24 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>quillon_ed::DetailsWindow</name>
+    <message numerus="yes">
+        <source>%n report(s):</source>
+        <translation>
+            <numerusform>%n report:</numerusform>
+            <numerusform>%n reports:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>quillon_ed::RackBadges</name>
+    <message numerus="yes">
+        <source>%n module(s) of rack %1 not in order</source>
+        <translation>
+            <numerusform>%n module of rack %1 not in order</numerusform>
+            <numerusform>%n modules of rack %1 not in order</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -6,6 +6,7 @@
 #include "app/export/ExportModuleList.h"
 #include "app/export/ExportViews.h"
 #include "app/export/PrintStation.h"
+#include "app/export/WriteBytes.h"
 #include "app/host/AppServices.h"
 #include "app/host/PlainText.h"
 #include "app/host/Strings.h"
@@ -85,14 +86,14 @@ QString Export(const QString& file, AppServices& services, QWidget* parent, cons
 
 } // namespace
 
-QString ExportPicture(AppServices& services, const Document& document, QWidget* parent)
+QString ExportPicture(AppServices& services, const Document& document, const PictureContent& content, QWidget* parent)
 {
     const QString file = AskFileName(document, services, ExportTexts::tr("Export picture"),
                                      {ExportTexts::tr("Page (*.pdf)"), ExportTexts::tr("Picture (*.png)"),
                                       ExportTexts::tr("Vector picture (*.svg)")},
                                      parent);
     return Export(file, services, parent, ExportTexts::tr("The picture cannot be exported."),
-                  [&] { ExportViews(document.Station(), {}, HeaderOf(document), PictureScale, file); });
+                  [&] { ExportViews(document.Station(), content, HeaderOf(document), PictureScale, file); });
 }
 
 QString ExportList(AppServices& services, const Document& document, QWidget* parent)
@@ -103,6 +104,14 @@ QString ExportList(AppServices& services, const Document& document, QWidget* par
     return Export(file, services, parent, ExportTexts::tr("The module list cannot be exported."), [&] {
         ExportModuleList(document.Station()->Data(), services.Catalogue(), services.CurrentLanguage(), file);
     });
+}
+
+QString ExportText(AppServices& services, const Document& document, const QByteArray& csv, QWidget* parent)
+{
+    const QString file = AskFileName(document, services, ExportTexts::tr("Save as CSV"),
+                                     {ExportTexts::tr("Comma-separated values (*.csv)")}, parent);
+    return Export(file, services, parent, ExportTexts::tr("The file cannot be written."),
+                  [&] { WriteBytes(file, csv); });
 }
 
 QString Print(AppServices& services, const Document& document, QWidget* parent)

@@ -36,20 +36,17 @@ QString ReasonOf(const FileError& error, Language language)
 
 } // namespace
 
-FileCommands::FileCommands(AppServices& services, RecentFiles& recentFiles, ParameterDialog parameterDialog,
-                           QWidget& window)
-    : moServices(services), moRecentFiles(recentFiles), moParameterDialog(std::move(parameterDialog)), moWindow(window)
+FileCommands::FileCommands(AppServices& services, RecentFiles& recentFiles, StationServices asked, QWidget& window)
+    : moServices(services), moRecentFiles(recentFiles), moAsked(std::move(asked)), moWindow(window)
 {
+    moAsked.clipboard = services.Clipboard();
 }
 
 FileCommands::~FileCommands() = default;
 
 std::unique_ptr<Document> FileCommands::MakeDocument(StationData data, JournalOrigin origin) const
 {
-    StationServices asked;
-    asked.clipboard = moServices.Clipboard();
-    asked.parameterDialog = moParameterDialog;
-    return std::make_unique<Document>(moServices.Context(), std::move(data), std::move(origin), std::move(asked));
+    return std::make_unique<Document>(moServices.Context(), std::move(data), std::move(origin), moAsked);
 }
 
 void FileCommands::Adopt(std::unique_ptr<Document> document)

@@ -20,10 +20,10 @@ class FileCommands : public QObject {
     Q_OBJECT
 
 public:
-    using ParameterDialog = decltype(zqbchwcx::reference::StationServices::parameterDialog);
-
-    /// All outlive the commands. The window is the parent of the dialogs.
-    FileCommands(AppServices& services, RecentFiles& recentFiles, ParameterDialog parameterDialog, QWidget& window);
+    /// The first two outlive the commands. What stations ask of the window is given without a clipboard. The window is
+    /// the parent of the dialogs.
+    FileCommands(AppServices& services, RecentFiles& recentFiles, zqbchwcx::reference::StationServices asked,
+                 QWidget& window);
     ~FileCommands() override;
 
     /// Null while no station is open.
@@ -71,7 +71,7 @@ private:
 
     AppServices& moServices;
     RecentFiles& moRecentFiles;
-    ParameterDialog moParameterDialog;
+    zqbchwcx::reference::StationServices moAsked;
     QWidget& moWindow;
     std::unique_ptr<Document> moDocument;
     std::unique_ptr<AutoSave> moAutoSave;

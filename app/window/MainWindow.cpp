@@ -9,14 +9,17 @@
 #include "app/host/ShippedData.h"
 #include "app/host/Strings.h"
 #include "app/host/SvgIcon.h"
+#include "app/plant/FaultLogDock.h"
 #include "app/window/AfterFirstPaint.h"
+#include "app/window/ConfigurationView.h"
+#include "app/window/DiagnosticsView.h"
 #include "app/window/DroppedFiles.h"
 #include "app/window/EditParameters.h"
 #include "app/window/ExportCommands.h"
 #include "app/window/MessagesDock.h"
 #include "app/window/ModuleInserter.h"
 #include "app/window/StartPage.h"
-#include "app/window/StationView.h"
+#include "app/window/StationViews.h"
 #include "app/window/StatusLine.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
 #include "zqbchwcx/foundation/mdl_Main.h"
@@ -24,6 +27,7 @@
 #include "zqbchwcx/foundation/model/VxHWRacks.h"
 #include "zqbchwcx/selection/EditCommands.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -56,14 +60,8 @@ QString InSentence(const QString& step, Language language)
 
 MainWindow::MainWindow(AppServices& services)
     : PaintedFrame(services.Settings().value(GeometryKey).toByteArray()), moServices(services),
-      moRecentFiles(services.Settings(), nullptr),
-      moFiles(
-          services, moRecentFiles,
-          [this](const reference::ModuleData& module, reference::PlaceRef place) {
-              return EditParameters(moServices, *moFiles.Current()->Station(), module, place, this);
-          },
-          *this),
-      moActions(*this), moPages(new QStackedWidget(this)),
+      moRecentFiles(services.Settings(), nullptr), moFiles(services, moRecentFiles, StationHooks(), *this),
+      moPlant(services, *this), moActions(*this), moPages(new QStackedWidget(this)),
       moStartPage(new StartPage(moActions.fileNew, moActions.fileOpen, this)),
       moCatalogueDock(new QDockWidget(tr("Catalogue"), this)), moStatusLine(new StatusLine(this))
 {
@@ -77,6 +75,8 @@ MainWindow::MainWindow(AppServices& services)
     ConnectFileActions();
     ConnectEditActions();
     ConnectViewActions();
+    ConnectPlantActions();
+    moPlant.Log().ShowLanguage(services.CurrentLanguage());
     moActions.ShowLanguage(services.CurrentLanguage());
     FillRecentMenu();
     FillExamples();
@@ -85,13 +85,31 @@ MainWindow::MainWindow(AppServices& services)
     QCoreApplication::sendPostedEvents();
     restoreState(services.Settings().value(StateKey).toByteArray());
     moMessages->hide();
+    moFaultLog->hide();
+    mbCatalogueHidden = moCatalogueDock->isHidden();
+    connect(moCatalogueDock->toggleViewAction(), &QAction::triggered, this, [this](bool bShown) {
+        if (!Diagnosing()) mbCatalogueHidden = !bShown;
+    });
     OpenDroppedFiles(*this, [this](const QString& file) { moFiles.OpenFile(file); });
     UpdateActions();
 }
 
 MainWindow::~MainWindow()
 {
-    CloseView();
+    CloseDocument();
+}
+
+reference::StationServices MainWindow::StationHooks()
+{
+    reference::StationServices hooks;
+    hooks.parameterDialog = [this](const reference::ModuleData& module, reference::PlaceRef place) {
+        return EditParameters(moServices, *moFiles.Current()->Station(), module, place, this);
+    };
+    hooks.moduleDiagnostics = [this](reference::PlaceRef place, std::int32_t subModule) {
+        moPlant.ShowDetails({place, subModule});
+    };
+    hooks.refreshDiagnostics = [this] { moPlant.Poll(); };
+    return hooks;
 }
 
 void MainWindow::Start(const QString& file)
@@ -120,6 +138,9 @@ void MainWindow::AddDocks()
 
     moMessages = new MessagesDock(moServices.Errors(), this);
     addDockWidget(Qt::BottomDockWidgetArea, moMessages);
+    moFaultLog = new FaultLogDock(moPlant.Log(), this);
+    addDockWidget(Qt::BottomDockWidgetArea, moFaultLog);
+    tabifyDockWidget(moMessages, moFaultLog);
     resizeDocks({moMessages}, {120}, Qt::Vertical);
 }
 
@@ -160,11 +181,11 @@ void MainWindow::ConnectFileActions()
     on(moActions.fileClose, &moFiles, &FileCommands::Close);
     on(moActions.fileRecover, &moFiles, [this] { moFiles.OfferRecovery(true); });
     on(moActions.exportPicture, this,
-       [this] { moStatusLine->Tell(ExportPicture(moServices, *moFiles.Current(), this)); });
+       [this] { moStatusLine->Tell(ExportPicture(moServices, *moFiles.Current(), ShownContent(), this)); });
     on(moActions.exportList, this, [this] { moStatusLine->Tell(ExportList(moServices, *moFiles.Current(), this)); });
     on(moActions.filePrint, this, [this] { moStatusLine->Tell(Print(moServices, *moFiles.Current(), this)); });
     on(moActions.fileQuit, this, &QWidget::close);
-    connect(&moFiles, &FileCommands::aboutToClose, this, &MainWindow::CloseView);
+    connect(&moFiles, &FileCommands::aboutToClose, this, &MainWindow::CloseDocument);
     connect(&moFiles, &FileCommands::opened, this, &MainWindow::ShowDocument);
     connect(&moFiles, &FileCommands::changed, this, &MainWindow::UpdateActions);
     connect(&moFiles, &FileCommands::warned, this, &MainWindow::Warn);
@@ -180,11 +201,11 @@ void MainWindow::ConnectEditActions()
     const auto on = [this](QAction& action, auto step) { connect(&action, &QAction::triggered, this, step); };
     on(moActions.editUndo, [this] { Step(&reference::History::Undo); });
     on(moActions.editRedo, [this] { Step(&reference::History::Redo); });
-    on(moActions.editCut, [this] { moView->Manager().Cut(); });
-    on(moActions.editCopy, [this] { moView->Manager().Copy(); });
+    on(moActions.editCut, [this] { Editable()->Manager().Cut(); });
+    on(moActions.editCopy, [this] { Editable()->Manager().Copy(); });
     on(moActions.editPaste, [this] { Paste(); });
-    on(moActions.editDelete, [this] { moView->Manager().Delete(); });
-    on(moActions.editParameters, [this] { moView->Manager().EditModuleParams(); });
+    on(moActions.editDelete, [this] { Editable()->Manager().Delete(); });
+    on(moActions.editParameters, [this] { Editable()->Manager().EditModuleParams(); });
     on(moActions.editSelectRack, [this] { SelectRack(); });
     on(moActions.findInCatalogue, [this] { FindInCatalogue(); });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] {
@@ -197,6 +218,7 @@ void MainWindow::ConnectViewActions()
 {
     moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moCatalogueDock->toggleViewAction());
     moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moMessages->toggleViewAction());
+    moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moFaultLog->toggleViewAction());
     moActions.viewMenu->insertAction(moActions.languageMenu->menuAction(), moActions.toolBar->toggleViewAction());
     moActions.viewMenu->insertSeparator(moActions.languageMenu->menuAction());
     connect(&moActions.languageEnglish, &QAction::triggered, this,
@@ -207,9 +229,50 @@ void MainWindow::ConnectViewActions()
     connect(&moActions.helpAbout, &QAction::triggered, this, [this] { ShowAbout(this); });
 }
 
+void MainWindow::ConnectPlantActions()
+{
+    const auto on = [this](QAction& action, auto step) { connect(&action, &QAction::triggered, this, step); };
+    on(moActions.modeConfiguration, [this] { ShowMode(Mode::Configuration); });
+    on(moActions.modeDiagnostics, [this] { ShowMode(Mode::Diagnostics); });
+    on(moActions.plantConnect, [this] { moPlant.AskForSource(); });
+    on(moActions.plantDisconnect, [this] { moPlant.Disconnect(); });
+    on(moActions.plantRefresh, [this] { Diagnosing()->Refresh(); });
+    on(moActions.plantRecord, [this](bool bOn) { moPlant.Record(bOn); });
+    on(moActions.plantPlay, [this](bool bOn) { moPlant.Play(bOn); });
+    on(moActions.plantStep, [this] { moPlant.Step(); });
+    auto* speeds = new QActionGroup(this);
+    for (const double speed : {0.1, 1.0, 10.0, 100.0, 1000.0}) {
+        QAction* action = moActions.speedMenu->addAction(QStringLiteral("%1 ×").arg(QLocale().toString(speed)));
+        action->setCheckable(true);
+        action->setChecked(speed == 1.0);
+        speeds->addAction(action);
+        connect(action, &QAction::triggered, this, [this, speed] { moPlant.Speed(speed); });
+    }
+    connect(&moPlant, &PlantCommands::changed, this, &MainWindow::UpdateActions);
+    connect(&moPlant, &PlantCommands::told, moStatusLine, &StatusLine::Tell);
+    connect(&moPlant, &PlantCommands::warned, this, &MainWindow::Warn);
+    connect(moFaultLog, &FaultLogDock::placeChosen, this, [this](const reference::PlantItem& item) {
+        if (auto* view = Diagnosing()) view->GoTo(item.place);
+    });
+    connect(moFaultLog, &FaultLogDock::saveRequested, this, &MainWindow::SaveFaultLog);
+}
+
+PictureContent MainWindow::ShownContent()
+{
+    PictureContent content;
+    if (Diagnosing()) content.diagnostics = moPlant.Session().Service();
+    return content;
+}
+
+void MainWindow::SaveFaultLog()
+{
+    moStatusLine->Tell(ExportText(moServices, *moFiles.Current(), moFaultLog->Csv(), this));
+}
+
 void MainWindow::RetranslateUi()
 {
     moActions.Retranslate();
+    moPlant.Log().ShowLanguage(moServices.CurrentLanguage());
     moCatalogueDock->setWindowTitle(tr("Catalogue"));
     moCatalogueDock->toggleViewAction()->setText(tr("&Catalogue"));
     if (moCatalogue) ShowCatalogue();
@@ -247,6 +310,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    moCatalogueDock->setVisible(!mbCatalogueHidden); // as configuration begins
     moServices.Settings().setValue(GeometryKey, saveGeometry());
     moServices.Settings().setValue(StateKey, saveState());
     event->accept();
@@ -279,40 +343,97 @@ void MainWindow::FillExamples()
     moStartPage->Examples(examples);
 }
 
+ConfigurationView* MainWindow::Editable() const
+{
+    return qobject_cast<ConfigurationView*>(moView);
+}
+
+DiagnosticsView* MainWindow::Diagnosing() const
+{
+    return qobject_cast<DiagnosticsView*>(moView);
+}
+
 void MainWindow::CloseView()
+{
+    delete std::exchange(moView, nullptr);
+}
+
+void MainWindow::CloseDocument()
 {
     moRefused = {};
     moClipboardModules.reset();
-    delete std::exchange(moView, nullptr);
+    CloseView();
+    moPlant.Use(nullptr);
 }
 
 void MainWindow::ShowDocument()
 {
     ShowCatalogue();
-    if (Document* document = moFiles.Current()) {
-        moView = new StationView(*document, this);
-        moPages->addWidget(moView);
-        moPages->setCurrentWidget(moView);
-        connect(moView, &StationView::selectionChanged, this, &MainWindow::UpdateActions);
-        connect(moView, &StationView::menuRequested, this, [this](const QPoint& point) {
-            QMenu menu(this);
-            menu.addActions({&moActions.editParameters, &moActions.editCut, &moActions.editCopy, &moActions.editPaste,
-                             &moActions.editDelete});
-            menu.exec(point);
-        });
-        const auto tell = [this](const reference::Refusal& refusal) {
+    Document* document = moFiles.Current();
+    moPlant.Use(document);
+    if (document) {
+        moRefused = document->Station()->Refused.Connect([this](const reference::Refusal& refusal) {
             moStatusLine->Tell(ToQString(refusal.text, moServices.CurrentLanguage()));
-        };
-        connect(moView, &StationView::refused, this, tell);
-        connect(moView, &StationView::dropAllowed, moStatusLine, &StatusLine::EndTelling);
-        moRefused = document->Station()->Refused.Connect(tell);
+        });
         ReadClipboard();
-        moView->FocusStation();
-        GiveViewsRoom();
+        ShowMode(meMode);
     } else {
         moPages->setCurrentWidget(moStartPage);
+        ShowDocks();
+        UpdateActions();
     }
+}
+
+void MainWindow::ShowMode(Mode mode)
+{
+    Document& document = *moFiles.Current();
+    const bool isOther = moView && mode != meMode;
+    if (moView && !isOther) return;
+    if (mode == Mode::Diagnostics && !moPlant.Begin()) mode = Mode::Configuration;
+    std::optional<reference::ViewState> state;
+    std::vector<int> scrolled;
+    if (moView) {
+        state = moView->View();
+        scrolled = moView->Views().Scrolled();
+    }
+    CloseView();
+    if (mode == Mode::Diagnostics) moView = new DiagnosticsView(document, moPlant.Session(), this);
+    else moView = new ConfigurationView(document, this);
+    meMode = mode;
+    UseView();
+    if (state) {
+        document.RestoreView(*state);
+        moView->Views().ScrollTo(scrolled);
+    }
+    ShowDocks();
+    moView->FocusStation();
+    GiveViewsRoom();
     UpdateActions();
+}
+
+void MainWindow::ShowDocks()
+{
+    moCatalogueDock->setVisible(!Diagnosing() && !mbCatalogueHidden);
+    moFaultLog->setVisible(Diagnosing());
+    if (Diagnosing()) moFaultLog->raise();
+}
+
+void MainWindow::UseView()
+{
+    moPages->addWidget(moView);
+    moPages->setCurrentWidget(moView);
+    connect(moView, &StationView::selectionChanged, this, &MainWindow::UpdateActions);
+    connect(moView, &StationView::menuRequested, this, [this](const QPoint& point) {
+        if (!Editable()) return;
+        QMenu menu(this);
+        menu.addActions({&moActions.editParameters, &moActions.editCut, &moActions.editCopy, &moActions.editPaste,
+                         &moActions.editDelete});
+        menu.exec(point);
+    });
+    connect(moView, &StationView::refused, this, [this](const reference::Refusal& refusal) {
+        moStatusLine->Tell(ToQString(refusal.text, moServices.CurrentLanguage()));
+    });
+    connect(moView, &StationView::dropAllowed, moStatusLine, &StatusLine::EndTelling);
 }
 
 void MainWindow::GiveViewsRoom()
@@ -339,23 +460,26 @@ void MainWindow::UpdateActions()
     UpdateTitle();
     Document* document = moView ? moFiles.Current() : nullptr;
     moStatusLine->Show(document, moView);
+    const bool bDiagnosing = Diagnosing() != nullptr;
+    moStatusLine->ShowConnection(bDiagnosing ? moPlant.ConnectionState() : QString());
     for (QAction* action : {&moActions.fileSave, &moActions.fileSaveAs, &moActions.fileClose, &moActions.exportList,
                             &moActions.filePrint, &moActions.editSelectRack}) {
         action->setEnabled(document != nullptr);
     }
-    if (moCatalogue) moCatalogue->InsertEnabled(document && !document->Station()->IsReadOnly());
+    const bool bEditable = Editable() != nullptr;
+    if (moCatalogue) moCatalogue->InsertEnabled(bEditable && !document->Station()->IsReadOnly());
 
     // What is shown changes once and only when it is different: tools that are switched off and on again flicker.
     const reference::History* history = document ? &document->History() : nullptr;
     const auto name = [&](const std::string& step) {
         return InSentence(ToQString(step), moServices.CurrentLanguage());
     };
-    moActions.editUndo.setEnabled(history && history->CanUndo());
-    moActions.editRedo.setEnabled(history && history->CanRedo());
+    moActions.editUndo.setEnabled(bEditable && history->CanUndo());
+    moActions.editRedo.setEnabled(bEditable && history->CanRedo());
     moActions.NameUndo(history ? name(history->UndoName()) : QString(),
                        history ? name(history->RedoName()) : QString());
     EditCommands possible;
-    if (document) {
+    if (bEditable) {
         possible = G_PossibleSelectionCommands(ClassName, document->Station(), moView->Handler());
         // Offered wherever the focus is, as inserting is: what speaks against a place is told when it is tried.
         G_Trap(ClassName, "UpdateActions", [&] {
@@ -369,6 +493,24 @@ void MainWindow::UpdateActions()
     moActions.editPaste.setEnabled(possible.bPaste);
     moActions.editParameters.setEnabled(possible.bEditModuleParams);
     moActions.exportPicture.setEnabled(document != nullptr);
+    UpdatePlantActions();
+}
+
+void MainWindow::UpdatePlantActions()
+{
+    const bool bOpen = moView != nullptr;
+    const bool bDiagnosing = Diagnosing() != nullptr;
+    const bool bSource = bDiagnosing && moPlant.Session().HasSource();
+    for (QAction* action : {&moActions.modeConfiguration, &moActions.modeDiagnostics}) action->setEnabled(bOpen);
+    (meMode == Mode::Diagnostics ? moActions.modeDiagnostics : moActions.modeConfiguration).setChecked(true);
+    for (QAction* action : {&moActions.plantConnect, &moActions.plantRefresh}) action->setEnabled(bDiagnosing);
+    moActions.plantDisconnect.setEnabled(bSource);
+    moActions.plantRecord.setEnabled(bSource && !moPlant.IsPlayed());
+    moActions.plantRecord.setChecked(moPlant.IsRecording());
+    for (QAction* action : {&moActions.plantPlay, &moActions.plantStep})
+        action->setEnabled(bSource && moPlant.IsPlayed());
+    moActions.plantPlay.setChecked(moPlant.IsPlaying());
+    moActions.speedMenu->setEnabled(bSource && moPlant.IsPlayed());
 }
 
 void MainWindow::ReadClipboard()
@@ -387,7 +529,7 @@ void MainWindow::Paste()
                                                                             moClipboardModules, false, nullptr);
         if (objection) refusal = ToQString(objection->text, moServices.CurrentLanguage());
     });
-    if (refusal.isEmpty()) moView->Manager().Paste();
+    if (refusal.isEmpty()) Editable()->Manager().Paste();
     else Refuse(refusal);
 }
 
@@ -409,8 +551,9 @@ void MainWindow::SelectRack()
 void MainWindow::Insert(const QString& orderNumber)
 {
     Document* document = moFiles.Current();
-    if (!document) return;
-    const QString refusal = InsertModule(moServices, *document, *moView, orderNumber);
+    ConfigurationView* view = Editable();
+    if (!document || !view) return;
+    const QString refusal = InsertModule(moServices, *document, *view, orderNumber);
     if (!refusal.isEmpty()) Refuse(refusal);
 }
 

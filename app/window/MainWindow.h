@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/document/RecentFiles.h"
+#include "app/export/PictureContent.h"
+#include "app/plant/PlantCommands.h"
 #include "app/window/FileCommands.h"
 #include "app/window/PaintedFrame.h"
 #include "app/window/WindowActions.h"
@@ -12,6 +14,9 @@ class QStackedWidget;
 namespace quillon_ed {
 
 class CataloguePanel;
+class ConfigurationView;
+class DiagnosticsView;
+class FaultLogDock;
 class MessagesDock;
 class StartPage;
 class StationView;
@@ -31,6 +36,7 @@ public:
     /// Adds to the messages.
     void Warn(const QString& text);
     FileCommands& Files() { return moFiles; }
+    PlantCommands& Plant() { return moPlant; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -38,9 +44,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    zqbchwcx::reference::StationServices StationHooks();
     void ConnectFileActions();
     void ConnectEditActions();
     void ConnectViewActions();
+    void ConnectPlantActions();
     void AddDocks();
     void ShowCatalogue();
     void FindInCatalogue();
@@ -48,12 +56,26 @@ private:
     void FillRecentMenu();
     void FillExamples();
 
+    /// The view, when it can edit the station; else null.
+    ConfigurationView* Editable() const;
+    DiagnosticsView* Diagnosing() const;
     void CloseView();
+    void CloseDocument();
     void ShowDocument();
+    enum class Mode { Configuration, Diagnostics };
+    /// Shows the document in the mode; selection, focus and scroll position come along.
+    void ShowMode(Mode mode);
+    /// Each mode has its own tools beside the station.
+    void ShowDocks();
+    void UseView();
+    /// What an exported picture shows: the mode that is seen.
+    PictureContent ShownContent();
+    void SaveFaultLog();
     /// Takes from the catalogue what the views of the station need to stand side by side.
     void GiveViewsRoom();
     void UpdateTitle();
     void UpdateActions();
+    void UpdatePlantActions();
     void ReadClipboard();
     void Paste();
     /// Tells why something was not done.
@@ -65,6 +87,7 @@ private:
     AppServices& moServices;
     RecentFiles moRecentFiles;
     FileCommands moFiles;
+    PlantCommands moPlant;
     WindowActions moActions;
     QStackedWidget* moPages;
     StartPage* moStartPage;
@@ -72,9 +95,12 @@ private:
     QDockWidget* moCatalogueDock;
     CataloguePanel* moCatalogue = nullptr; ///< none before there is a page to show it beside
     MessagesDock* moMessages = nullptr;
+    FaultLogDock* moFaultLog = nullptr;
     StatusLine* moStatusLine;
     zqbchwcx::VxHWModulesPtr moClipboardModules;
     zqbchwcx::EventConnection moRefused;
+    Mode meMode = Mode::Configuration;
+    bool mbCatalogueHidden = false; ///< by the user, in configuration mode
 };
 
 } // namespace quillon_ed

@@ -3,7 +3,7 @@
 #include "app/document/Document.h"
 #include "app/host/AppServices.h"
 #include "app/host/Strings.h"
-#include "app/window/StationView.h"
+#include "app/window/ConfigurationView.h"
 #include "zqbchwcx/foundation/Brackets.h"
 #include "zqbchwcx/foundation/ConfigTextCodec.h"
 #include "zqbchwcx/foundation/mdl_ErrorHandler.h"
@@ -52,7 +52,7 @@ std::int32_t FirstTargetPosition(const VxHWSelectionHandler& handler)
 
 } // namespace
 
-QString InsertModule(AppServices& services, Document& document, StationView& view, const QString& orderNumber)
+QString InsertModule(AppServices& services, Document& document, ConfigurationView& view, const QString& orderNumber)
 {
     reference::Station& station = *document.Station();
     const std::string type = orderNumber.toStdString();

@@ -22,7 +22,8 @@ constexpr int TellMilliseconds = 8000;
 
 StatusLine::StatusLine(QWidget* parent)
     : QStatusBar(parent), moFocus(new QLabel(this)), moTold(new Notice(TellMilliseconds, this)),
-      moSelection(new QLabel(this)), moReadOnly(new QLabel(this)), moMode(new QLabel(this))
+      moConnection(new QLabel(this)), moSelection(new QLabel(this)), moReadOnly(new QLabel(this)),
+      moMode(new QLabel(this))
 {
     for (QLabel* label : {moFocus, static_cast<QLabel*>(moTold)}) {
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -31,7 +32,7 @@ StatusLine::StatusLine(QWidget* parent)
     }
     moTold->hide();
     connect(moTold, &Notice::gone, moFocus, &QWidget::show);
-    for (QLabel* label : {moSelection, moReadOnly, moMode}) {
+    for (QLabel* label : {moConnection, moSelection, moReadOnly, moMode}) {
         label->setContentsMargins(6, 0, 6, 0);
         addPermanentWidget(label);
     }
@@ -62,6 +63,12 @@ StatusLine::States StatusLine::StatesOf(const Document& document, const StationV
     else if (document.IsFileWriteProtected()) states.readOnly = tr("File is write-protected");
     states.mode = station.DisplayMode() == vxDisplayModeOffline ? tr("Offline") : tr("Online");
     return states;
+}
+
+void StatusLine::ShowConnection(const QString& state)
+{
+    moConnection->setText(state);
+    moConnection->setVisible(!state.isEmpty());
 }
 
 void StatusLine::Tell(const QString& text)

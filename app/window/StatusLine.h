@@ -19,6 +19,8 @@ public:
 
     /// Both null while no station is open.
     void Show(const Document* document, const StationView* view);
+    /// Empty for none.
+    void ShowConnection(const QString& state);
     /// Tells something for some seconds in place of the focus.
     void Tell(const QString& text);
     /// What was told does not apply any more.
@@ -37,6 +39,7 @@ private:
 
     QLabel* moFocus;
     Notice* moTold; ///< in place of the focus
+    QLabel* moConnection;
     QLabel* moSelection;
     QLabel* moReadOnly;
     QLabel* moMode;

@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace quillon_ed {
 
@@ -29,8 +30,8 @@ QString NamedText(const QString& plain, const QString& named, const QString& ste
 WindowActions::WindowActions(QMainWindow& window)
     : fileMenu(window.menuBar()->addMenu(QString())), recentMenu(new QMenu(&window)),
       editMenu(window.menuBar()->addMenu(QString())), viewMenu(window.menuBar()->addMenu(QString())),
-      languageMenu(new QMenu(&window)), helpMenu(window.menuBar()->addMenu(QString())),
-      toolBar(window.addToolBar(QString()))
+      languageMenu(new QMenu(&window)), plantMenu(window.menuBar()->addMenu(QString())), speedMenu(new QMenu(&window)),
+      helpMenu(window.menuBar()->addMenu(QString())), toolBar(window.addToolBar(QString()))
 {
     const std::pair<QAction*, const char*> icons[] = {{&fileNew, "new"},
                                                       {&fileOpen, "open"},
@@ -45,7 +46,14 @@ WindowActions::WindowActions(QMainWindow& window)
                                                       {&editPaste, "paste"},
                                                       {&editDelete, "delete"},
                                                       {&editParameters, "parameters"},
-                                                      {&findInCatalogue, "search"}};
+                                                      {&findInCatalogue, "search"},
+                                                      {&modeConfiguration, "mode-configuration"},
+                                                      {&modeDiagnostics, "mode-diagnostics"},
+                                                      {&plantConnect, "connection"},
+                                                      {&plantRefresh, "refresh"},
+                                                      {&plantRecord, "record"},
+                                                      {&plantPlay, "play"},
+                                                      {&plantStep, "step"}};
     for (const auto& [action, icon] : icons) action->setIcon(SvgIcon(QLatin1String(icon)));
 
     auto* languages = new QActionGroup(&window);
@@ -53,6 +61,13 @@ WindowActions::WindowActions(QMainWindow& window)
         action->setCheckable(true);
         languages->addAction(action);
     }
+    auto* modes = new QActionGroup(&window);
+    for (QAction* action : {&modeConfiguration, &modeDiagnostics}) {
+        action->setCheckable(true);
+        modes->addAction(action);
+    }
+    modeConfiguration.setChecked(true);
+    for (QAction* action : {&plantRecord, &plantPlay}) action->setCheckable(true);
     toolBar->setObjectName(QStringLiteral("toolBar"));
     toolBar->setIconSize({20, 20});
     SetShortcuts();
@@ -79,6 +94,9 @@ void WindowActions::SetShortcuts()
     editParameters.setShortcut(Qt::ALT | Qt::Key_Return);
     editSelectRack.setShortcut(QKeySequence::SelectAll);
     findInCatalogue.setShortcut(QKeySequence::Find);
+    modeConfiguration.setShortcut(Qt::CTRL | Qt::Key_1);
+    modeDiagnostics.setShortcut(Qt::CTRL | Qt::Key_2);
+    plantRefresh.setShortcut(QKeySequence::Refresh);
     helpShortcuts.setShortcut(QKeySequence::HelpContents);
 }
 
@@ -102,10 +120,22 @@ void WindowActions::FillMenus()
     editMenu->addSeparator();
     editMenu->addAction(&findInCatalogue);
 
+    viewMenu->addActions({&modeConfiguration, &modeDiagnostics});
+    viewMenu->addSeparator();
     languageMenu->addActions({&languageEnglish, &languageGerman});
     viewMenu->addMenu(languageMenu);
+    plantMenu->addActions({&plantConnect, &plantDisconnect, &plantRefresh});
+    plantMenu->addSeparator();
+    plantMenu->addAction(&plantRecord);
+    plantMenu->addSeparator();
+    plantMenu->addActions({&plantPlay, &plantStep});
+    plantMenu->addMenu(speedMenu);
     helpMenu->addActions({&helpShortcuts, &helpAbout});
 
+    toolBar->addActions({&modeConfiguration, &modeDiagnostics});
+    for (QAction* mode : {&modeConfiguration, &modeDiagnostics})
+        static_cast<QToolButton*>(toolBar->widgetForAction(mode))->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    toolBar->addSeparator();
     toolBar->addActions({&fileNew, &fileOpen, &fileSave});
     toolBar->addSeparator();
     toolBar->addActions({&editUndo, &editRedo});
@@ -122,6 +152,8 @@ void WindowActions::Retranslate()
     editMenu->setTitle(ActionTexts::tr("&Edit"));
     viewMenu->setTitle(ActionTexts::tr("&View"));
     languageMenu->setTitle(ActionTexts::tr("&Language"));
+    plantMenu->setTitle(ActionTexts::tr("&Plant"));
+    speedMenu->setTitle(ActionTexts::tr("S&peed"));
     helpMenu->setTitle(ActionTexts::tr("&Help"));
     toolBar->setWindowTitle(ActionTexts::tr("Toolbar"));
     toolBar->toggleViewAction()->setText(ActionTexts::tr("&Toolbar"));
@@ -143,6 +175,14 @@ void WindowActions::Retranslate()
     editParameters.setText(ActionTexts::tr("Para&meters…"));
     editSelectRack.setText(ActionTexts::tr("Select &all of the rack"));
     findInCatalogue.setText(ActionTexts::tr("&Find in the catalogue"));
+    modeConfiguration.setText(ActionTexts::tr("&Configuration"));
+    modeDiagnostics.setText(ActionTexts::tr("&Diagnostics"));
+    plantConnect.setText(ActionTexts::tr("&Connect…"));
+    plantDisconnect.setText(ActionTexts::tr("&Disconnect"));
+    plantRefresh.setText(ActionTexts::tr("&Refresh"));
+    plantRecord.setText(ActionTexts::tr("Rec&ord…"));
+    plantPlay.setText(ActionTexts::tr("&Play"));
+    plantStep.setText(ActionTexts::tr("&Step"));
     languageEnglish.setText(QStringLiteral("&English"));
     languageGerman.setText(QStringLiteral("&Deutsch"));
     helpShortcuts.setText(ActionTexts::tr("&Keyboard and mouse"));

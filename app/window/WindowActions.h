@@ -25,6 +25,8 @@ struct WindowActions {
         fileQuit;
     QAction editUndo, editRedo, editCut, editCopy, editPaste, editDelete, editParameters, editSelectRack,
         findInCatalogue;
+    QAction modeConfiguration, modeDiagnostics;
+    QAction plantConnect, plantDisconnect, plantRefresh, plantRecord, plantPlay, plantStep;
     QAction languageEnglish, languageGerman;
     QAction helpShortcuts, helpAbout;
 
@@ -33,6 +35,8 @@ struct WindowActions {
     QMenu* editMenu;
     QMenu* viewMenu;
     QMenu* languageMenu;
+    QMenu* plantMenu;
+    QMenu* speedMenu; ///< of a recording that is played
     QMenu* helpMenu;
     QToolBar* toolBar;
 

@@ -214,13 +214,13 @@ std::string WriteLogLine(const PlantLogEntry& entry, ListFormat format, Language
         Json json = {{"at", TimeText(entry.at)}};
         if (entry.item) {
             json.update(ItemJson(*entry.item));
-            json["module"] = entry.module;
+            json["module"] = entry.module.In(language);
             json["event"] = LogEventText(entry.event).en;
         }
         json["what"] = entry.what.In(language);
         return Dump(json, -1);
     }
-    const TextRow row{TimeText(entry.at), place, entry.module, event, entry.what.In(language)};
+    const TextRow row{TimeText(entry.at), place, entry.module.In(language), event, entry.what.In(language)};
     if (format == ListFormat::Csv) return WriteCsv({row});
     std::string line;
     for (const std::string& cell : row)

@@ -2,6 +2,7 @@
 
 #include "zqbchwcx/reference/commands/ModuleList.h"
 
+#include <set>
 #include <utility>
 
 namespace zqbchwcx::reference {
@@ -35,10 +36,13 @@ LocalizedText LogEventText(LogEvent event)
     return {};
 }
 
-PlantLog::PlantLog(const StationData& station, const Catalogue& catalogue, Language language) : moCatalogue(catalogue)
+PlantLog::PlantLog(const StationData& station, const Catalogue& catalogue) : moCatalogue(catalogue)
 {
-    for (ModuleRow& row : ListModules(station, catalogue, language))
-        mcolModules[{{row.rack, row.place}, row.subModule}] = {std::move(row.module), std::move(row.orderNumber), {}};
+    for (ModuleRow& row : ListModules(station, catalogue, Language::English))
+        mcolModules[{{row.rack, row.place}, row.subModule}] = {
+            {std::move(row.module), {}}, std::move(row.orderNumber), {}};
+    for (ModuleRow& row : ListModules(station, catalogue, Language::German))
+        mcolModules[{{row.rack, row.place}, row.subModule}].name.de = std::move(row.module);
 }
 
 std::vector<PlantLogEntry> PlantLog::Read(const Plant& plant, const PlantChange& change)
@@ -67,6 +71,16 @@ void PlantLog::ReadModule(const Plant& plant, const PlantItem& item, Time at, st
     if (module.finding) entries.push_back({at, item, module.name, LogEvent::Went, WhatText(*module.finding)});
     if (finding) entries.push_back({at, item, module.name, LogEvent::Came, WhatText(*finding)});
     module.finding = std::move(finding);
+}
+
+std::int32_t PlantLog::FaultyModules(std::int32_t lRack) const
+{
+    std::set<std::int32_t> places;
+    for (auto it = mcolModules.lower_bound({{lRack, 0}, 0}); it != mcolModules.end(); ++it) {
+        if (it->first.place.rack != lRack) break;
+        if (it->second.finding) places.insert(it->first.place.place);
+    }
+    return static_cast<std::int32_t>(places.size());
 }
 
 } // namespace zqbchwcx::reference

@@ -17,7 +17,7 @@ LocalizedText LogEventText(LogEvent event);
 struct PlantLogEntry {
     Time at;
     std::optional<PlantItem> item; ///< none: the plant as a whole
-    std::string module;            ///< its name; empty without an item
+    LocalizedText module;          ///< its name; empty without an item
     LogEvent event = LogEvent::Note;
     LocalizedText what;
 };
@@ -26,14 +26,17 @@ struct PlantLogEntry {
 /// what differs from before is told.
 class PlantLog {
 public:
-    PlantLog(const StationData& station, const Catalogue& catalogue, Language language);
+    /// The catalogue outlives the log.
+    PlantLog(const StationData& station, const Catalogue& catalogue);
 
     /// The entries of a change, in the order of racks, places and slots.
     std::vector<PlantLogEntry> Read(const Plant& plant, const PlantChange& change);
+    /// The modules of the rack that are not sound, each counted once with its sub-modules, as they were known last.
+    std::int32_t FaultyModules(std::int32_t lRack) const;
 
 private:
     struct Module {
-        std::string name;
+        LocalizedText name;
         std::string orderNumber;
         std::optional<PlantFinding> finding; ///< as it was told last
     };

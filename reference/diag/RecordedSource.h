@@ -36,6 +36,8 @@ public:
     void Step();
     bool IsAtEnd() const { return mlNext == moRecording.changes.size(); }
     Time Now() const { return moTime->Now(); }
+    /// Lines of the recording that were left out.
+    const std::vector<FileError>& Damages() const { return moRecording.damages; }
 
 private:
     void PlayUntil(Time end);

@@ -1,11 +1,11 @@
-#include "tests/unit/app/AppStage.h"
+#include "tests/unit/app/WindowStage.h"
 
 #include "app/dialogs/NewStationDialog.h"
 #include "app/document/JournalDirectory.h"
+#include "app/window/ConfigurationView.h"
 #include "app/window/MainWindow.h"
 #include "app/window/ModuleInserter.h"
 #include "app/window/Notice.h"
-#include "app/window/StationView.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
 #include "zqbchwcx/qt/RackOverviewRIOWidget.h"
@@ -37,69 +37,7 @@ namespace {
 
 using zqbchwcx::reference::Language;
 
-class MainWindowTest : public testing::AppStage {
-protected:
-    MainWindowTest() : window(std::make_unique<MainWindow>(services)) {}
-
-    QAction* Action(const char* text) const
-    {
-        for (auto* menu : window->findChildren<QMenu*>())
-            for (auto* item : menu->actions())
-                if (item->text().remove(u'&') == QString::fromUtf8(text)) return item;
-        return nullptr;
-    }
-    bool IsEnabled(const char* text) const
-    {
-        const QAction* action = Action(text);
-        EXPECT_TRUE(action) << text;
-        return action && action->isEnabled();
-    }
-    /// What the status line tells in place of the focus.
-    QLabel& Told() const { return *window->statusBar()->findChild<Notice*>(); }
-    QStringList StatusTexts() const
-    {
-        QStringList texts;
-        for (auto* label : window->statusBar()->findChildren<QLabel*>()) texts << label->text();
-        return texts;
-    }
-    void Open(const char* resource = testing::Waterworks)
-    {
-        window->Files().OpenExample(QString::fromLatin1(resource));
-    }
-
-    /// Presses the button of the next question that has it.
-    void Answer(const char* button) const
-    {
-        auto* timer = new QTimer(window.get());
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, text = QString::fromUtf8(button)] {
-            const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            if (!box) return;
-            for (auto* candidate : box->buttons()) {
-                if (candidate->text().remove(u'&') != text) continue;
-                timer->stop();
-                return candidate->click();
-            }
-        });
-        timer->start(1);
-    }
-
-    /// Answers the next question for a file with that one.
-    void SaveAs(const QString& file, QString* proposedFolder = nullptr) const
-    {
-        auto* timer = new QTimer(window.get());
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, file, proposedFolder] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (!dialog) return;
-            timer->stop();
-            if (proposedFolder) *proposedFolder = dialog->directory().absolutePath();
-            dialog->selectFile(file);
-            QMetaObject::invokeMethod(dialog, "accept");
-        });
-        timer->start(1);
-    }
-
-    std::unique_ptr<MainWindow> window;
-};
+using MainWindowTest = testing::WindowStage;
 
 TEST_F(MainWindowTest, OffersOnlyWhatCanBeDone)
 {
@@ -134,7 +72,7 @@ TEST_F(MainWindowTest, MakesNewStationsOfEveryKindReadyForTheirHeads)
         chooser.start(1);
         Action("New station…")->trigger();
         Document& document = *window->Files().Current();
-        auto& view = *window->findChild<StationView*>();
+        auto& view = *window->findChild<ConfigurationView*>();
         EXPECT_EQ(document.Station()->StationKind(), kind);
         EXPECT_EQ(view.findChild<zqbchwcx::qt::RackOverviewRIOWidget*>() != nullptr, kind != 0);
         view.Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 1));
@@ -148,7 +86,7 @@ TEST_F(MainWindowTest, MakesNewStationsOfEveryKindReadyForTheirHeads)
 TEST_F(MainWindowTest, WhatIsGreyInAnOnlineStationIsRefusedByKeysToo)
 {
     Open(":/examples/district-heating-online.station.json");
-    auto* view = window->findChild<StationView*>();
+    auto* view = window->findChild<ConfigurationView*>();
     zqbchwcx::reference::Station& station = *window->Files().Current()->Station();
     for (const char* text : {"Cut", "Copy", "Paste", "Delete"}) EXPECT_FALSE(IsEnabled(text)) << text;
     const QString reason = QString::fromStdString(station.AgainstEditing()->text.en);
@@ -174,7 +112,7 @@ TEST_F(MainWindowTest, WhatIsGreyInAnOnlineStationIsRefusedByKeysToo)
 TEST_F(MainWindowTest, PasteFollowsTheClipboardAndSaysWhyNot)
 {
     Open();
-    auto* view = window->findChild<StationView*>();
+    auto* view = window->findChild<ConfigurationView*>();
     view->Handler()->FocusPosition(zqbchwcx::G_PlacePosition(0, 4));
     Action("Select all of the rack")->trigger();
     Action("Copy")->trigger();
@@ -192,7 +130,7 @@ TEST_F(MainWindowTest, PasteFollowsTheClipboardAndSaysWhyNot)
 TEST_F(MainWindowTest, ActionsChangeOnlyWhenTheirStateDoes)
 {
     Open();
-    auto* view = window->findChild<StationView*>();
+    auto* view = window->findChild<ConfigurationView*>();
     Action("Copy")->trigger();
     Action("Delete")->trigger();
     Action("Undo delete")->trigger();
@@ -238,7 +176,7 @@ TEST_F(MainWindowTest, OpensItsStationWhenItHasBeenPainted)
     for (int turn = 0; turn < 100 && !window->Files().Current(); ++turn) QCoreApplication::processEvents();
     ASSERT_TRUE(window->Files().Current());
     EXPECT_EQ(window->Files().Current()->FileName(), path);
-    EXPECT_TRUE(window->findChild<StationView*>()->isVisible());
+    EXPECT_TRUE(window->findChild<ConfigurationView*>()->isVisible());
 }
 
 TEST_F(MainWindowTest, ComesBackAsItWasLeft)
@@ -271,7 +209,7 @@ TEST_F(MainWindowTest, OpensAFileThatIsDroppedAnywhereOnIt)
     QMimeData mime;
     mime.setUrls({QUrl::fromLocalFile(path)});
     Open(":/examples/packaging-line.station.json");
-    QWidget* view = window->findChild<StationView*>();
+    QWidget* view = window->findChild<ConfigurationView*>();
     QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(view, &enter);
@@ -288,7 +226,7 @@ TEST_F(MainWindowTest, ReloadsWhateverAnotherProgramHasPutIntoTheFile)
     const auto write = [&](const char* example) { WriteFile(path, ReadWhole(QString::fromLatin1(example))); };
     write(":/examples/packaging-line.station.json");
     ASSERT_TRUE(window->Files().OpenFile(path));
-    const auto handler = [&] { return window->findChild<StationView*>()->Handler(); };
+    const auto handler = [&] { return window->findChild<ConfigurationView*>()->Handler(); };
     const auto reload = [&] {
         Answer("Reload");
         window->Files().CheckFile();

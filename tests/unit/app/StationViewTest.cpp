@@ -2,9 +2,9 @@
 
 #include "app/document/SharedView.h"
 #include "app/window/CellMessage.h"
+#include "app/window/ConfigurationView.h"
 #include "app/window/ModuleInserter.h"
 #include "app/window/ModuleList.h"
-#include "app/window/StationView.h"
 #include "zqbchwcx/controllers/interfaces/IVxHWDragDropController.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
 #include "zqbchwcx/foundation/model/VxHWModule.h"
@@ -42,7 +42,7 @@ constexpr std::int32_t Empty = G_PlacePosition(0, 11);
 
 class StationViewTest : public testing::AppStage {
 protected:
-    StationViewTest() : document(OpenExample()), view(std::make_unique<StationView>(*document, nullptr)) {}
+    StationViewTest() : document(OpenExample()), view(std::make_unique<ConfigurationView>(*document, nullptr)) {}
 
     void Select(std::vector<std::int32_t> places)
     {
@@ -63,11 +63,11 @@ protected:
         rack.places.back().module = rack.places.front().module;
         data.racks.assign(racks, std::make_shared<const reference::RackData>(rack));
         document = MakeDocument(data);
-        view = std::make_unique<StationView>(*document, nullptr);
+        view = std::make_unique<ConfigurationView>(*document, nullptr);
     }
 
     std::unique_ptr<Document> document;
-    std::unique_ptr<StationView> view;
+    std::unique_ptr<ConfigurationView> view;
 };
 
 TEST_F(StationViewTest, UndoBringsSelectionAndFocusBackAndRedoThoseAfterTheStep)
@@ -182,7 +182,7 @@ TEST_F(StationViewTest, TheRowsOfADistributedStationsTableAndItsArrowGoTogether)
     rack.places.resize(64);
     data.racks.front() = std::make_shared<const reference::RackData>(rack);
     document = MakeDocument(data);
-    view = std::make_unique<StationView>(*document, nullptr);
+    view = std::make_unique<ConfigurationView>(*document, nullptr);
     view->resize(900, 414);
     view->show();
     QCoreApplication::processEvents();
@@ -267,7 +267,7 @@ TEST_F(StationViewTest, EveryExampleCanBeShownAndClosed)
     for (const QString& example : ShippedExamples()) {
         view.reset();
         document = OpenExample(example.toLatin1().constData());
-        view = std::make_unique<StationView>(*document, nullptr);
+        view = std::make_unique<ConfigurationView>(*document, nullptr);
         EXPECT_GT(view->findChild<QTableView*>()->model()->rowCount(), 0) << example.toStdString();
         document->History().Undo();
         EXPECT_FALSE(document->IsModified());

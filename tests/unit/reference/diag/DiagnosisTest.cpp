@@ -35,7 +35,7 @@ TEST(Diagnosis, ShowsWhatIsNotSoundInEveryForm)
 TEST(PlantLog, TellsWhatCameAndWent)
 {
     DiagStage stage;
-    PlantLog log(stage.station, *zqbchwcx::testing::SampleCatalogue(), Language::English);
+    PlantLog log(stage.station, *zqbchwcx::testing::SampleCatalogue());
     std::string lines;
     const auto logging = stage.plant->Changed.Connect([&](const PlantChange& change) {
         for (const PlantLogEntry& entry : log.Read(*stage.plant, change))
