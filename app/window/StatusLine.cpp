@@ -32,6 +32,8 @@ StatusLine::StatusLine(QWidget* parent)
     }
     moTold->hide();
     connect(moTold, &Notice::gone, moFocus, &QWidget::show);
+    // A source's name and a reason can be longer than a window is wide.
+    moConnection->setMinimumWidth(1);
     for (QLabel* label : {moConnection, moSelection, moReadOnly, moMode}) {
         label->setContentsMargins(6, 0, 6, 0);
         addPermanentWidget(label);
@@ -68,6 +70,7 @@ StatusLine::States StatusLine::StatesOf(const Document& document, const StationV
 void StatusLine::ShowConnection(const QString& state)
 {
     moConnection->setText(state);
+    moConnection->setToolTip(ToolTipText(state));
     moConnection->setVisible(!state.isEmpty());
 }
 
