@@ -1,5 +1,5 @@
 // What it costs to follow a plant: a change of one place from the registers that were read to the picture, against
-// drawing both views anew; the panel against a focus move; polling a very large plant; and a million changes in memory.
+// drawing all views anew; the panel against a focus move; polling a very large plant; and a million changes in memory.
 // Ends with the figures; fails when a limit is exceeded.
 
 #include "adapters/modbus/ModbusSource.h"
@@ -8,7 +8,6 @@
 #include "app/plant/FaultLogModel.h"
 #include "app/plant/PlantSession.h"
 #include "app/window/DiagnosticsView.h"
-#include "app/window/StationViews.h"
 #include "bench/Ratios.h"
 #include "bench/Stage.h"
 #include "zqbchwcx/foundation/PlacePosition.h"
@@ -175,10 +174,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     using bench::Stage;
 
-    Register("RefreshAll", [](DiagnosticsStage& stage, bool) {
-        stage.View().Views().Overview()->Refresh();
-        stage.View().Views().Table()->Refresh();
-    });
+    Register("Refresh", [](DiagnosticsStage& stage, bool) { stage.View().Refresh(); });
     Register("PlaceChange", [](DiagnosticsStage& stage, bool bOdd) { stage.Source().Change(4, bOdd); });
     Register("PanelRefill", [](DiagnosticsStage& stage, bool) { stage.Panel().Refresh(); });
     benchmark::RegisterBenchmark("FocusMove", [](benchmark::State& state) {
@@ -196,12 +192,13 @@ int main(int argc, char** argv)
     bench::TimesReporter times;
     benchmark::RunSpecifiedBenchmarks(&times);
 
-    bool bKept = times.Check("PlaceChange", "RefreshAll", 0.1);
+    bool bKept = times.Check("PlaceChange", "Refresh", 0.1);
     bKept = times.Check("PanelRefill", "FocusMove", 1.5) && bKept;
     constexpr double PollsInASecond = 10;
+    constexpr double Nanosecond = 1e-9;
     if (times.Has("PollLargePlant"))
         bKept = bench::TimesReporter::CheckRatio("ten polls / a second of a core",
-                                                 PollsInASecond * times.Seconds("PollLargePlant"), 0.05) &&
+                                                 PollsInASecond * Nanosecond * times.Seconds("PollLargePlant"), 0.05) &&
                 bKept;
     bKept =
         bench::TimesReporter::CheckRatio("memory after a million changes", GrowthOverAMillionChanges(), 1.05) && bKept;

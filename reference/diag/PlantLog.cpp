@@ -2,7 +2,6 @@
 
 #include "zqbchwcx/reference/commands/ModuleList.h"
 
-#include <set>
 #include <utility>
 
 namespace zqbchwcx::reference {
@@ -75,12 +74,16 @@ void PlantLog::ReadModule(const Plant& plant, const PlantItem& item, Time at, st
 
 std::int32_t PlantLog::FaultyModules(std::int32_t lRack) const
 {
-    std::set<std::int32_t> places;
+    std::int32_t lCount = 0;
+    std::int32_t lCounted = 0; // the place that was counted last: a module and its sub-modules follow each other
     for (auto it = mcolModules.lower_bound({{lRack, 0}, 0}); it != mcolModules.end(); ++it) {
-        if (it->first.place.rack != lRack) break;
-        if (it->second.finding) places.insert(it->first.place.place);
+        const PlaceRef& place = it->first.place;
+        if (place.rack != lRack) break;
+        if (!it->second.finding || place.place == lCounted) continue;
+        lCounted = place.place;
+        ++lCount;
     }
-    return static_cast<std::int32_t>(places.size());
+    return lCount;
 }
 
 } // namespace zqbchwcx::reference
