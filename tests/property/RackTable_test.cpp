@@ -10,7 +10,9 @@
 namespace zqbchwcx::testing {
 namespace {
 
+using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::Not;
 
 constexpr OleColor GroupBackground = G_Rgb(246, 244, 186);
 
@@ -96,6 +98,8 @@ TEST_F(CentralTable, ShowsARowForEveryPlace)
     EXPECT_EQ(tabs.tabs[1].tooltip, "1 T6117");
     EXPECT_TRUE(tabs.Enabled(1));
     EXPECT_FALSE(tabs.Enabled(3));
+    editor.TableSite().Resize(700 * vxTwipsPerPixel, 400 * vxTwipsPerPixel);
+    EXPECT_EQ(grid.bounds.right, 700) << "it fills the control";
 
     table.Locked(true);
     EXPECT_EQ(background(1, "Module"), G_ColorDisabledBackground());
@@ -269,6 +273,7 @@ TEST_F(CentralTable, MovesTheFocusByKeys)
              Case{8, vxKeyUp, 0, 6},
              Case{2, vxKeyUp, 0, 2},
              Case{9, vxKeyUp, 0, 8},
+             Case{3, vxKeyUp, 0, 2},
              Case{8, vxKeyDown, 0, 10},
              Case{22, vxKeyDown, 0, 22},
              Case{9, vxKeyDown, 0, 10},
@@ -367,8 +372,13 @@ TEST_P(RackTable, DragsFromTheUsersThreshold)
         EXPECT_EQ(grid.drags, drags) << moved.x << "," << moved.y;
         grid.Release({4, 2});
     }
-    // Nothing is dragged from a header, or by a button that was pressed elsewhere.
+    // Nothing is dragged from a header, or by a button that was pressed elsewhere or is up again.
     grid.drags = 0;
+    grid.MoveMouse(grid.Middle({4, 2}), vxButtonLeft);
+    grid.Press({4, 2});
+    grid.MoveMouse(grid.Middle({4, 2}), vxButtonLeft);
+    grid.Release({4, 2});
+    grid.MoveMouse({300, 150}, vxButtonLeft);
     grid.User().OnMouseDown({vxButtonLeft, 0, {50, 5}});
     grid.MoveMouse({50, 5}, vxButtonLeft);
     grid.MoveMouse({90, 5}, vxButtonLeft);
@@ -423,6 +433,16 @@ TEST_P(SubModules, OpenUnderTheirColumns)
     const auto texts = std::count_if(form.lines.begin(), form.lines.end(),
                                      [](const auto& line) { return line.starts_with("LeftText"); });
     EXPECT_EQ(texts, 3 * lCount) << "name and two addresses of each";
+    // A frame, the lines in it below each other, and between the columns strokes that reach neither end.
+    const auto Edge = [](std::int32_t y) { return std::to_string(y) + " "; };
+    const std::int32_t lHeight = form.rect.height();
+    for (const std::string& part :
+         {"Fill 0,0 289x" + Edge(lHeight) + "window", "Line 288,0 288," + Edge(lHeight - 1) + "text",
+          "Line 77,3 77," + Edge(lHeight - 6), "Line 229,3 229," + Edge(lHeight - 6),
+          std::string("Fill 1,1 287x13 window"), std::string("Fill 1,14 287x13 window"), std::string(" 4,1 69x13 "),
+          std::string(" 175,14 50x13 ")})
+        EXPECT_THAT(form.lines, Contains(::testing::HasSubstr(part)));
+    EXPECT_THAT(form.lines, Not(Contains(::testing::HasSubstr(" 288,3 "))));
     grid.Click(button);
     EXPECT_FALSE(form.Visible());
     // The hook sees the press before the grid does: the click still does not open the form again.

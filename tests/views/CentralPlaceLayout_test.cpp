@@ -57,6 +57,15 @@ TEST(CentralPlaceLayoutTest, APositionsPointLiesOnThePosition)
     EXPECT_EQ(layout.PointOf(G_PositionInfo(3000)), (Point{18, 36}));
 }
 
+TEST(CentralPlaceLayoutTest, AGapLiesBetweenThePlacesThatAreShown)
+{
+    for (std::int32_t lGap = 0; lGap <= 11; ++lGap) {
+        const GapNeighbours beside = layout.PlacesBeside(1, lGap);
+        EXPECT_EQ(beside.lLeft, lGap) << "none is 0";
+        EXPECT_EQ(beside.lRight, lGap < 11 ? lGap + 1 : 0);
+    }
+}
+
 TEST(CentralPlaceLayoutTest, ARubberBandCoversTheRowsAndColumnsItTouches)
 {
     const std::int32_t rackTop = 3 * 92; // rack 0

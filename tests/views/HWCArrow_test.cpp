@@ -71,6 +71,11 @@ TEST_F(HWCArrowTest, LeadsFromThePlaceToTheRightEdge)
 TEST_F(HWCArrowTest, IsHiddenUntilShownAndOnlyMovesWhileShown)
 {
     EXPECT_EQ(VisibleCount(), 0U);
+    // Until then the pieces lie as they were designed.
+    std::vector<Rect> designed;
+    for (const auto* shape : services.toolkit->shapes.at("shp_Arrow")) designed.push_back(shape->Bounds());
+    EXPECT_THAT(designed, ElementsAre(MakeRect(0, 0, 3, 10), MakeRect(0, 0, 200, 3), MakeRect(0, 0, 3, 39),
+                                      MakeRect(0, 0, 24, 3)));
     arrow.Show(36, 213, 48);
     arrow.Hide();
     EXPECT_EQ(VisibleCount(), 0U);

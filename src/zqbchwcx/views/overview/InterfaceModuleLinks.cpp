@@ -10,7 +10,7 @@
 namespace zqbchwcx {
 namespace {
 
-constexpr std::array<std::int32_t, 3> LinkTops{274, 182, 90};
+constexpr std::array LinkTops{274, 182, 90};
 constexpr std::int32_t LinkLeft = 78;
 constexpr Size LinkSize{3, 32};
 

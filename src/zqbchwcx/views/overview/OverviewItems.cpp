@@ -36,7 +36,7 @@ std::vector<std::int32_t> OverviewItems::InRack(std::int32_t lRack) const noexce
 {
     std::vector<std::int32_t> positions;
     G_Trap(mContext.className, "P_GetShownPlaces", [&] {
-        if (!Shows({vxPositionRack, lRack, 0, 0})) return;
+        if (!Shows(G_PositionInfo(G_RackPosition(lRack)))) return;
         for (const std::int32_t lPlace : ShownPlacesOf(lRack)) {
             // Between places that hidden ones part are two gaps.
             const std::int32_t lGapBefore = G_GapPosition(lRack, lPlace - 1);

@@ -135,6 +135,17 @@ TEST_F(SelectionHandler, PutsModulesOnTheClipboardButNoEmptySelection)
     Select({{0, 1}, {0, 2}});
     EXPECT_TRUE(handler->SetSelectionToClipboard());
     EXPECT_THAT(TakeLines(), ElementsAre("WriteModulesToExchange [- DI]", "PutOnClipboard"));
+    // Whoever cuts deletes what the clipboard took: whatever fails, it took nothing.
+    auto& faults = services.log->faults;
+    bool bFailed = true;
+    for (std::int32_t lCall = 1; bFailed; ++lCall) {
+        faults.ThrowAt(lCall);
+        const bool bTaken = handler->SetSelectionToClipboard();
+        bFailed = !faults.Thrown().empty();
+        EXPECT_EQ(bTaken, !bFailed) << lCall << ": " << faults.Thrown();
+        faults.Restart();
+    }
+    TakeReports();
 }
 
 TEST_F(SelectionHandler, ReportsUseWithoutAStationAndGoesOn)
