@@ -233,6 +233,7 @@ TEST_P(RackTable, GivesTheEditorItsKeys)
     EXPECT_FALSE(grid.Key(vxKeyRight));
     EXPECT_TRUE(grid.Key(vxKeyA, vxCtrlMask));
     EXPECT_TRUE(grid.editorTextSelected);
+    EXPECT_FALSE(grid.Key(vxKeyA)) << "a letter";
     EXPECT_EQ(Handler().FocusPosition(), 8);
 
     // Undo acts on a model that holds what was typed, and the editor follows.
@@ -284,6 +285,7 @@ TEST_F(CentralTable, MovesTheFocusByKeys)
              Case{8, vxKeyLeft, 0, 8},
              Case{8, vxKeyRight, vxShiftMask, 22},
              Case{8, vxKeyLeft, vxCtrlMask, 2},
+             Case{3, vxKeyLeft, vxShiftMask, 2},
              Case{2, vxKeyLeft, vxShiftMask, 2},
              Case{8, vxKeyUp, vxAltMask, 8},
              Case{8, vxKeyDown, vxShiftMask, 10},
@@ -519,6 +521,8 @@ TEST_P(RackTable, TellsTheDiagnosticState)
     table.VxHWStation(editor.watched);
     table.Refresh();
     EXPECT_EQ(grid.RowText(0), "T1001|T1007|T1002|T1003|T1017");
+    for (std::int32_t lColumn = 1; const std::int32_t lWidth : {32, 75, 65, 93, 100})
+        EXPECT_EQ(grid.ColumnWidth(lColumn++), lWidth);
     const auto oPlace = editor.station->PlaceAt({0, 4});
     diag->failures[oPlace->Key()] = 1;
     diag->cpuStates[oPlace->Key()] = 11;

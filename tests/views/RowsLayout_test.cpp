@@ -1,4 +1,5 @@
 #include "tests/views/OverviewFixture.h"
+#include "zqbchwcx/views/overview/RowsCursor.h"
 
 namespace zqbchwcx::testing {
 namespace {
@@ -156,6 +157,82 @@ TEST_P(Rows, APlaceThatIsScrolledAwayIsDrawnWhereItWillBeSeen)
     controller->dropPlace = "0/5";
     EXPECT_THAT(DrawingOf(0, 5), Each(HasSubstr("_DROP 0/5")));
     EXPECT_THAT(DrawingOf(0, 6), Contains(HasSubstr("PLACE_NODROP 0/6")));
+}
+
+TEST_P(Rows, KeysLeadAlongTheRowsAndBetweenThem)
+{
+    struct Case {
+        std::int32_t from;
+        std::int16_t key;
+        std::int16_t shift;
+        std::int32_t to;
+        bool fine = true;
+    };
+    constexpr std::int32_t Stays = vxNoPosition;
+    const RowsLayout layout = RowsOf(*view);
+    for (const Case& move : {
+             Case{16, vxKeyRight, 0, 19}, // over a hidden place
+             Case{16, vxKeyRight, 0, 20, false},
+             Case{20, vxKeyLeft, 0, 19},
+             Case{20, vxKeyLeft, 0, 16, false},
+             Case{74, vxKeyRight, 0, 75},
+             Case{2, vxKeyLeft, 0, 1},
+             Case{40, vxKeyDown, 0, 56},
+             Case{56, vxKeyUp, 0, 40},
+             Case{56, vxKeyDown, 0, 72},
+             Case{60, vxKeyDown, 0, Stays},
+             Case{60, vxKeyDown, vxShiftMask, 74},
+             Case{6, vxKeyUp, vxCtrlMask, 2},
+             Case{6, vxKeyDown, vxAltMask, Stays},
+             Case{39, vxKeyUp, 0, 19},
+             Case{23, vxKeyDown, 0, 43},
+             Case{59, vxKeyDown, 0, 75}, // the end of a shorter row
+             Case{61, vxKeyDown, 0, Stays},
+             Case{2, vxKeyUp, 0, Stays},
+         })
+        EXPECT_EQ(G_RowsCursorTarget(layout, move.from, move.key, move.shift, move.fine).value_or(Stays), move.to)
+            << move.from << " key " << move.key << " with " << move.shift;
+}
+
+TEST_P(Rows, TheyScrollByButtonWheelAndRubberBand)
+{
+    station = MakeStation(EmptyStation(variant.eStationType, 1, 96)); // twelve rows
+    handler->VxHWStation(station);
+    view->VxHWStation(station);
+    view->Refresh();
+    const RecordingScrollBar& bar = *toolkit->scrollBars.at("scb_Main");
+    const auto after = [&](std::int32_t lMilliseconds) {
+        toolkit->clock.Advance(lMilliseconds);
+        return bar.Value();
+    };
+    auto& down = toolkit->buttons.at("cmd_ScrollDown")->User();
+    down.MouseDown(vxButtonLeft);
+    EXPECT_EQ(bar.Value(), 1) << "at once";
+    EXPECT_EQ(after(499), 1);
+    EXPECT_EQ(after(1), 2);
+    EXPECT_EQ(after(200), 4);
+    down.MouseUp(vxButtonLeft);
+    EXPECT_EQ(after(1000), 4);
+
+    auto& keys = site.User();
+    EXPECT_TRUE(keys.MouseWheel(0.5F));
+    EXPECT_EQ(bar.Value(), 4);
+    EXPECT_TRUE(keys.MouseWheel(0.5F));
+    EXPECT_EQ(bar.Value(), 3) << "half notches add up";
+    EXPECT_TRUE(keys.MouseWheel(-1));
+    EXPECT_EQ(bar.Value(), 4);
+    EXPECT_TRUE(keys.MouseWheel(99));
+    EXPECT_FALSE(keys.MouseWheel(1)) << "for whoever scrolls around it";
+
+    controller->canSelectByRubberBand = true;
+    Mouse().MouseDown(vxButtonLeft, 0, 210, 40);
+    Mouse().MouseMove(vxButtonLeft, 0, 100, 500); // below what is seen
+    EXPECT_EQ(bar.Value(), 1);
+    EXPECT_EQ(after(100), 2);
+    EXPECT_EQ(after(100), 3);
+    Mouse().MouseMove(vxButtonLeft, 0, 100, 400); // back in it
+    EXPECT_EQ(after(1000), 3);
+    Mouse().MouseUp(vxButtonLeft, 0, 100, 400);
 }
 
 } // namespace

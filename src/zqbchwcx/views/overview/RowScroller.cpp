@@ -129,8 +129,7 @@ bool RowScroller::CanScroll(Direction eDirection) const
 
 void RowScroller::EnsureVisible(std::int32_t lRow)
 {
-    if (lRow < FirstRow()) mState.Value(lRow);
-    else if (lRow >= FirstRow() + mlVisibleRows) mState.Value(lRow - mlVisibleRows + 1);
+    mState.Value(std::clamp(FirstRow(), lRow - mlVisibleRows + 1, lRow));
 }
 
 bool RowScroller::Wheel(float notches)

@@ -90,7 +90,7 @@ GapNeighbours RowsLayout::PlacesBeside(std::int32_t /*lRack*/, std::int32_t lGap
 std::int32_t RowsLayout::PositionAt(Point at) const
 {
     if (at.x < FirstX || at.x > LastX) return vxNoPosition;
-    const std::int32_t lRow = (at.y - 1) / RowHeight;
+    const std::int32_t lRow = at.y / RowHeight;
     if (lRow >= RowCount()) return vxNoPosition;
     const std::int32_t yInRow = at.y - lRow * RowHeight;
     if (yInRow < PlaceTopInRow || yInRow > LastLine) return vxNoPosition;

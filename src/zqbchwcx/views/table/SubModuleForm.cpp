@@ -126,7 +126,7 @@ void frm_SubModules::P_DrawLine(std::int32_t lLine) noexcept
         const std::int32_t lTop = (lLine - 1) * mlLineHeight + FrameWidth;
         const bool bMarked = lLine == mlMarkedLine;
         const OleColor textColor = bMarked ? vxColorHighlightText : vxColorWindowText;
-        moForm->FillBox(MakeRect(FrameWidth, lTop, moForm->ScaleSize().width - 2 * FrameWidth, mlLineHeight),
+        moForm->FillBox({FrameWidth, lTop, moForm->ScaleSize().width - FrameWidth, lTop + mlLineHeight},
                         bMarked ? vxColorHighlight : vxColorWindowBackground);
         const auto texts = TextsOf(lLine);
         for (std::size_t k = 0; k < mcolColumns.size(); ++k) {
