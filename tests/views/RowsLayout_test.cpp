@@ -98,6 +98,7 @@ TEST_P(Rows, APositionsPointLiesOnThePosition)
         for (const std::int32_t lPosition : {2 * lPlace, 2 * lPlace - 1})
             EXPECT_EQ(layout.PositionAt(pointOf(lPosition)), lPosition);
     EXPECT_EQ(pointOf(16), (Point{7 * PlaceWidth + 31, 47}));
+    EXPECT_EQ(layout.GapLine(0, 3).width(), 0);
     EXPECT_EQ(pointOf(20), (Point{31, RowHeight + 47})) << "the next row begins with place 10";
     for (const std::int32_t lNowhere : {vxNoPosition, 0, 18, 28, 30, 1002}) EXPECT_EQ(pointOf(lNowhere), Point{});
 }
@@ -194,6 +195,48 @@ TEST_P(Rows, KeysLeadAlongTheRowsAndBetweenThem)
             << move.from << " key " << move.key << " with " << move.shift;
 }
 
+TEST_P(Rows, AGapBehindTheLastPlaceIsBehindHiddenOnesToo)
+{
+    station = MakeStation(EmptyStation(variant.eStationType, 1, 10));
+    for (const std::int32_t lHidden : {9, 10}) station->Usability(0, lHidden, vxPlaceNotUsable);
+    handler->VxHWStation(station);
+    view->VxHWStation(station);
+    view->Refresh();
+    const RowsLayout layout = RowsOf(*view);
+    EXPECT_EQ(layout.Shown().NumberFrom(9), 11);
+    EXPECT_EQ(layout.Shown().NumberFrom(8), 8);
+}
+
+TEST_P(Rows, TheyAreDrawnNoMoreWhenTheirStationIsLeft)
+{
+    const auto former = station;
+    station = MakeStation(EmptyStation(variant.eStationType, 1, 8));
+    handler->VxHWStation(station);
+    view->VxHWStation(station);
+    view->Refresh();
+    EXPECT_THAT(DrawnBy([&] {
+                    former->RackChange.Raise(former->Rack(0));
+                    former->RackPlaceChange.Raise(former->Place(0, 2));
+                    former->TotalRefresh.Raise();
+                }),
+                IsEmpty());
+    view->VxHWStation(nullptr);
+    station->RackChange.Raise(station->Rack(0));
+    station->RackPlaceChange.Raise(station->Place(0, 2));
+    station->TotalRefresh.Raise();
+    EXPECT_THAT(TakeReports(), IsEmpty());
+}
+
+TEST_P(Rows, TheViewKeepsRoomForItsRowsAndItsBar)
+{
+    RecordingControl small(log, MakeRect(0, 0, 20, 20));
+    const auto made = MakeView(small);
+    site.Resize(100, 100);
+    for (const RecordingControl* control : {&site, &small})
+        EXPECT_EQ((Size{control->Width(), control->Height()}), (Size{3450, 6210}));
+    EXPECT_EQ(toolkit->shapes.at("fra_ScrollUp").front()->backColor, vxColorButtonFace);
+}
+
 TEST_P(Rows, TheyScrollByButtonWheelAndRubberBand)
 {
     station = MakeStation(EmptyStation(variant.eStationType, 1, 96)); // twelve rows
@@ -230,9 +273,19 @@ TEST_P(Rows, TheyScrollByButtonWheelAndRubberBand)
     EXPECT_EQ(bar.Value(), 1);
     EXPECT_EQ(after(100), 2);
     EXPECT_EQ(after(100), 3);
+    EXPECT_EQ(Pic().Top(), -3 * RowHeight);
     Mouse().MouseMove(vxButtonLeft, 0, 100, 400); // back in it
     EXPECT_EQ(after(1000), 3);
     Mouse().MouseUp(vxButtonLeft, 0, 100, 400);
+
+    // In a drag, the buttons that can scroll are marked, and scroll while the drag rests on them.
+    controller->state = vxDragDropStateActive;
+    dynamic_cast<OverviewControl&>(*view).StateChange(vxDragDropStateInactive);
+    EXPECT_EQ(toolkit->shapes.at("fra_ScrollDown").front()->backColor, G_Rgb(84, 180, 228));
+    std::int32_t lEffect = vxDropEffectCopy;
+    down.OLEDragOver(std::make_shared<FakeDataObject>(log), lEffect, vxButtonLeft, 0, vxDragEnter);
+    EXPECT_EQ(after(249), 3);
+    EXPECT_EQ(after(1), 4);
 }
 
 } // namespace

@@ -186,7 +186,7 @@ void frm_SubModules::DblClick() noexcept
 
 void frm_SubModules::Open(std::int32_t lPosition) noexcept
 {
-    if (lPosition < 0) return;
+    if (lPosition == vxNoPosition) return;
     const auto oiMouseCtrl = moiMouseCtrl;
     Form_Unload();
     if (oiMouseCtrl) oiMouseCtrl->DblClick(lPosition);

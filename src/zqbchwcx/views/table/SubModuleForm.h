@@ -46,8 +46,8 @@ public:
 private:
     /// A column of the form: from the left edge to the first pixel behind it.
     struct Column {
-        std::int32_t lLeft = 0;
-        std::int32_t lRight = 0;
+        std::int32_t lLeft;
+        std::int32_t lRight;
     };
 
     // PopupFormEvents

@@ -72,7 +72,7 @@ private:
     std::int32_t mlMouseDownPosition = vxNoPosition;
     /// The row whose form the press closed: the click that it becomes does not open it again.
     std::int32_t mlClosedByPress = 0;
-    std::int32_t mlFormRow = 0;
+    std::int32_t mlFormRow{}; ///< of the form that was opened last
     /// Shift was held when F10 went down: whichever of the two is released first, the menu opens.
     bool mbMenuKeyDown = false;
 };
