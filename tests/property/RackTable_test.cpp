@@ -260,6 +260,12 @@ TEST_P(RackTable, GivesTheEditorItsKeys)
         EXPECT_EQ(tabs->SelectedTab(), 0);
     }
     grid.EndEditing(false);
+
+    // What is typed into a module that goes meanwhile, goes with it.
+    EXPECT_TRUE(grid.Type("7"));
+    editor.watched->ChangePlace(0, 4, [](auto& place) { place.module = nullptr; });
+    grid.EndEditing(true);
+    EXPECT_EQ(grid.Text(4, "Comment"), "");
 }
 
 TEST_F(CentralTable, MovesTheFocusByKeys)

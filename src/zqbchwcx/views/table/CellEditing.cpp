@@ -126,7 +126,8 @@ void CellEditing::P_SaveModuleAttributeValue(GridCell cell) noexcept
         if (!oPlace) return;
         const std::string name = AttributeOf(mContent.Grid(), cell);
         const auto oModule = oPlace->Module();
-        if (!oModule->HasAttribute(name)) return;
+        // The module may have gone while its cell was edited: then what was typed goes, too.
+        if (!oModule->HasAttribute(name)) return mContent.FillPlace(oPlace);
         const std::string value = mContent.Grid().CellText(cell);
         if (value == oModule->GetAttribute(name)) return;
         if (mContext.Station()->SetModuleAttribute(oPlace, name, value)) return;

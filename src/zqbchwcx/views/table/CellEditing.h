@@ -23,7 +23,7 @@ struct RefusedEdit {
 /// Editing in place: which cells have an editor, what happens when it opens and closes, and the keys while it is open.
 class CellEditing {
 public:
-    CellEditing(const ViewContext& context, const TableContent& content) : mContext(context), mContent(content) {}
+    CellEditing(const ViewContext& context, TableContent& content) : mContext(context), mContent(content) {}
 
     bool IsActive() const { return mbEditing; }
     void Forget() { mbEditing = false; }
@@ -47,7 +47,7 @@ private:
     std::optional<GridCell> NextEditable(GridCell from, bool bForward) const;
 
     const ViewContext& mContext;
-    const TableContent& mContent;
+    TableContent& mContent;
     bool mbEditing = false;
 };
 
