@@ -435,6 +435,7 @@ TEST_P(SubModules, OpenUnderTheirColumns)
     const Rect cell = grid.CellRect(button);
     const Point at = grid.ScreenPosition();
     EXPECT_EQ(form.rect.top, at.y + cell.bottom);
+    EXPECT_EQ(form.askedAt, (Point{at.x + cell.left, at.y + cell.top}));
     EXPECT_EQ(form.rect.left, at.x + grid.CellRect(grid.Cell(5, "Module")).left);
     EXPECT_EQ(form.rect.right, at.x + grid.CellRect(grid.Cell(5, "O-Address")).right);
     EXPECT_EQ(form.rect.height(), lCount * form.TextHeight() + 2);

@@ -274,8 +274,10 @@ TEST_F(CentralDrawing, TheArrowPointsFromTheFocusedPlaceToItsRow)
     site.Resize(6000, 6000);
     EXPECT_EQ(tip().Bounds().right, 400);
     site.Resize(100, 100);
-    EXPECT_EQ(site.Width(), 3525);
-    EXPECT_EQ(site.Height(), 5880);
+    RecordingControl small(log, MakeRect(0, 0, 20, 20));
+    const auto made = MakeView(small);
+    for (const RecordingControl* control : {&site, &small})
+        EXPECT_EQ((Size{control->Width(), control->Height()}), (Size{3525, 5880}));
     EXPECT_EQ(toolkit->controls.at("arw_Arrow")->bounds, MakeRect(0, 0, 235, 392));
     EXPECT_EQ(tip().Bounds().right, 235) << "it keeps its length at the smallest width";
     view->VxHWStation(nullptr);

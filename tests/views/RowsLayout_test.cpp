@@ -234,7 +234,10 @@ TEST_P(Rows, TheViewKeepsRoomForItsRowsAndItsBar)
     site.Resize(100, 100);
     for (const RecordingControl* control : {&site, &small})
         EXPECT_EQ((Size{control->Width(), control->Height()}), (Size{3450, 6210}));
-    EXPECT_EQ(toolkit->shapes.at("fra_ScrollUp").front()->backColor, vxColorButtonFace);
+    EXPECT_EQ(toolkit->shapes.at("fra_ScrollUp").back()->backColor, vxColorButtonFace);
+    dynamic_cast<VxHWRackOverviewRIO&>(*view).ShowAllRows(true);
+    site.Resize(100, 100);
+    EXPECT_EQ(site.Height(), 6210 + RowHeight * vxTwipsPerPixel) << "a fifth row";
 }
 
 TEST_P(Rows, TheyScrollByButtonWheelAndRubberBand)

@@ -25,7 +25,11 @@ public:
     bool Visible() const override { return mbVisible; }
     Size ScaleSize() const override { return {rect.width(), rect.height()}; }
     std::int32_t TextHeight() const override { return Answer("PopupForm.TextHeight", 13); }
-    Rect WorkArea(Point /*onScreen*/) const override { return Answer("PopupForm.WorkArea", workArea); }
+    Rect WorkArea(Point onScreen) const override
+    {
+        askedAt = onScreen;
+        return Answer("PopupForm.WorkArea", workArea);
+    }
     std::intptr_t hWnd() const override { return 6; }
 
     bool IsConnected() const { return mpEvents != nullptr; }
@@ -44,6 +48,7 @@ public:
     std::string told; ///< last, for screen readers
     Rect rect;
     Rect workArea = MakeRect(0, 0, 1920, 1080);
+    mutable Point askedAt; ///< the point whose screen was asked for
 
 private:
     PopupFormEvents* mpEvents = nullptr;

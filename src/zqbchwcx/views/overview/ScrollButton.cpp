@@ -33,7 +33,6 @@ void ScrollButton::Create(Toolkit& toolkit, UserControl& oControl, const Rect& r
     mfraScroll = toolkit.CreateFrame(oControl, msFrameName, rect);
     mcmdScroll = toolkit.CreateButton(oControl, msName, rect, meArrow);
     mcmdScroll->Events(this);
-    MarkAsTarget(false);
     Visible(false);
 }
 
